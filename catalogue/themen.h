@@ -1,0 +1,46 @@
+// The catalogue's 16 themes and 138 sub-themes: which file belongs to which pair, and the two lists that the
+// list files fill. Reads nothing itself: catalogue/katalogdatei.h turns bytes into lists.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+inline constexpr int anzahlListenplaetze = 20;
+
+// Places 1 to 20 of the theme list and of the sub-theme list last read; index 0 isn't used.
+inline std::array<std::string, anzahlListenplaetze + 1> ThemenListe;
+inline std::array<std::string, anzahlListenplaetze + 1> UnterthemenListe;
+
+struct Unterthema {
+    std::string_view name;
+    std::string_view datei;
+};
+
+struct Thema {
+    std::string_view name;
+    std::string_view ordner;         // under "\WISSEN\"
+    std::string_view listendatei;    // in that folder
+    bool kommentarzeilen;            // lines beginning with an apostrophe are skipped
+    std::string_view meldungsordner; // folder that the failure message names, right or not: it is meant
+    std::span<const Unterthema> unterthemen;
+};
+
+// The table, in alphabetical order of the list file.
+[[nodiscard]] std::span<const Thema> Themen();
+
+// The theme of exactly that name, nullptr for none.
+[[nodiscard]] const Thema* ThemaSuchen(std::string_view name);
+
+// File name of the sub-theme of exactly that name, "" for none.
+[[nodiscard]] std::string_view UnterthemaDatei(const Thema& thema, std::string_view unterthema);
+
+// The questions of a sub-theme in file order, one column a line of the record.
+struct Fragenliste {
+    std::vector<std::string> nr;
+    std::vector<std::string> frage;
+    std::vector<std::string> antwort;
+    std::vector<std::string> punkte;
+};

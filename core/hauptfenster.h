@@ -1,0 +1,60 @@
+// What every window may ask of the main window, as plain routines: status text, mode, progress bar, the
+// change flags, the miniature of the board. frmMDI and its units define them; without a main window they only
+// keep the state. Texts are UTF-8.
+#pragma once
+
+#include "core/farbe.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+class QWidget;
+class QMdiSubWindow;
+
+// Status text in the help panel, with one blank behind it.
+void HilfeText(std::string_view text);
+
+// Switches to the quiz toolbar: FormTyp, defaults of 6 and 5 for a board without a shape, counts shown.
+void ModusFK();
+// The same for the test form.
+void ModusTest();
+// Back to the main toolbar, as the back buttons do after a form is closed.
+void ModusHaupt();
+
+// Rewrites the counts of the quiz form. Run-time error 6 where the product doesn't fit 16 bits.
+void FelderAnzeigen();
+
+// Progress bar: starts it or takes one step; advances it by n; ends it.
+void FortschrittStart(std::string_view text);
+void FortschrittSchritt(float n);
+void FortschrittEnde();
+
+// The change flag of the form, or of the editor, and its pair of flags: 1 for unsaved changes, else none.
+void FormStatusSetzen(int flag);
+void EditorStatusSetzen(int flag);
+// Which flag shows, without touching the change flag: the form file's reader sets it by the mode tag.
+void FlaggeZeigen(bool rot);
+
+// Miniature of cell n (1 to 30); no value is system face.
+void MiniaturFaerben(int n, std::optional<Farbe> farbe);
+
+// Takes the commands of the quiz form, or of the test form, into or out of use.
+void BefehleFKFreigeben(bool frei);
+void BefehleHBFreigeben(bool frei);
+
+// Puts a child window into the main window and gives its frame; the window itself decides about its closing.
+QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster);
+// The active child window's tag ("FKFragen", "HBFragen" and so on), "" for none.
+std::string AktivesKind();
+// Brings the child window with that tag to the front.
+void KindNachVorn(std::string_view tag);
+
+// The parent for dialogs and tool windows, nullptr before the main window is there.
+QWidget* Hauptfenster();
+
+// Entries 0 to 3 of the list of the last files, as the quiz form's menu shows them, were changed.
+void DateilisteAnzeigen();
+
+// Ends the program after its questions; comes back only if the user refuses.
+void ProgrammEnde();

@@ -1,0 +1,41 @@
+// Small things that every window needs: twips to pixels, texts between model and toolkit, colours, the one
+// light palette, the size of the screen. Holds no state but the palette it sets.
+#pragma once
+
+#include "core/farbe.h"
+
+#include <QColor>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+class QWidget;
+
+// Logical pixels for twips, 15 to 1, to the nearest.
+[[nodiscard]] constexpr int Pixel(double twips) {
+    return static_cast<int>(twips < 0 ? twips / 15.0 - 0.5 : twips / 15.0 + 0.5);
+}
+
+// Texts of the toolkit (line feed) from texts of the model (UTF-8, CR LF), and back.
+[[nodiscard]] QString Anzeige(std::string_view text);
+[[nodiscard]] std::string Modelltext(const QString& text);
+
+[[nodiscard]] inline QColor Qfarbe(Farbe farbe) {
+    return QColor(farbe.rot, farbe.gruen, farbe.blau);
+}
+// System face: the palette's button colour.
+[[nodiscard]] QColor Systemflaeche();
+
+// Fusion style, the one light palette and the toolkit's own texts in German. Once, before the first window.
+void OberflaecheEinrichten();
+
+// Size of the screen that a window stands on, or of the first one, in logical pixels.
+[[nodiscard]] QSize Bildschirmgroesse(const QWidget* fenster);
+// Tests set a size of their own; an empty one takes it back.
+void BildschirmgroesseVorgeben(QSize groesse);
+
+// Sets left, top, width and height given in twips.
+void TwipsGeometrie(QWidget* steuerelement, double links, double oben, double breite, double hoehe);

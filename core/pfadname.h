@@ -1,0 +1,22 @@
+// Taking the text of a path apart. Looks at no disk.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The part behind the last backslash; with none, the path.
+[[nodiscard]] std::string NurDateiname(std::string_view pfad);
+// The part of a name from the last point to the end, the point included; "" with no point.
+[[nodiscard]] std::string Dateiendung(std::string_view name);
+
+struct PfadTeile {
+    std::string laufwerk, ordner, name, endung;
+};
+// Drive, folder, name and extension of a path; "?" for each part that it doesn't have.
+[[nodiscard]] PfadTeile PfadZerlegen(std::string_view pfad);
+
+// Upper and lower case of UTF-8 text in the letters of code page 1252 (ß stays).
+[[nodiscard]] std::string Grossschreiben(std::string_view text);
+[[nodiscard]] std::string Kleinschreiben(std::string_view text);
+// The text without blanks at both ends.
+[[nodiscard]] std::string Getrimmt(std::string_view text);

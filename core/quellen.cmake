@@ -1,0 +1,1 @@
+feldkranz_quellen(modell core/laufzeitfehler.cpp)

@@ -1,0 +1,48 @@
+// Text boxes that take what code page 1252 holds: anything else that is typed, pasted or dropped is replaced
+// by its nearest equivalent or left outside, and the status help names the character. Setting a text that
+// stands there already changes nothing.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+// Several lines; Tab moves on to the next control.
+class Textfeld : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    explicit Textfeld(QWidget* eltern, const QString& name);
+
+    // Text as the model has it: UTF-8 with CR LF.
+    [[nodiscard]] std::string text() const;
+    void setText(std::string_view text);
+    // The back colour; an invalid one is system face.
+    void setGrund(const QColor& farbe);
+    void setZentriert(bool zentriert);
+
+Q_SIGNALS:
+    void fokusErhalten();
+    void fokusVerloren();
+
+protected:
+    void focusInEvent(QFocusEvent* ereignis) override;
+    void focusOutEvent(QFocusEvent* ereignis) override;
+
+private:
+    void NurErlaubteZeichen(int stelle, int neu);
+};
+
+// One line.
+class Textzeile : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit Textzeile(QWidget* eltern, const QString& name);
+
+    [[nodiscard]] std::string wert() const;
+    void setWert(std::string_view text);
+};
+
+// Selects the whole text of the box.
+void TextMarkieren(QLineEdit* zeile);
+void TextMarkieren(QPlainTextEdit* feld);

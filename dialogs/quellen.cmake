@@ -1,0 +1,1 @@
+feldkranz_quellen(modell dialogs/texte.cpp)
