@@ -5,6 +5,7 @@ target_link_libraries(modell PUBLIC warnungen)
 target_include_directories(modell PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/erzeugt")
 
 add_library(rand STATIC)
+set_target_properties(rand PROPERTIES LINKER_LANGUAGE CXX)
 target_link_libraries(rand PUBLIC modell Qt6::Core Qt6::Gui Qt6::PrintSupport)
 target_compile_definitions(rand PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
 target_precompile_headers(rand PRIVATE <QtCore> <QtGui>)

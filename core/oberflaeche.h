@@ -5,6 +5,7 @@
 #include "core/farbe.h"
 
 #include <QColor>
+#include <QFont>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -28,6 +29,10 @@ class QWidget;
 }
 // System face: the palette's button colour.
 [[nodiscard]] QColor Systemflaeche();
+
+// The program's face in a size given in points. Sizes are fixed to logical pixels at 96 to the inch, as the
+// windows' measures are, so that captions fit whatever resolution the desktop claims.
+[[nodiscard]] QFont Schrift(double punkt, bool fett = false);
 
 // Fusion style, the one light palette and the toolkit's own texts in German. Once, before the first window.
 void OberflaecheEinrichten();

@@ -1,0 +1,1 @@
+# The program and the folder it runs in; written out below.

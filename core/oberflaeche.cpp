@@ -1,0 +1,88 @@
+#include "core/oberflaeche.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QScreen>
+#include <QStyleFactory>
+#include <QTranslator>
+#include <QWidget>
+
+#include <cmath>
+
+namespace {
+
+QSize vorgegebeneGroesse;
+
+QPalette HellePalette() {
+    const QColor flaeche(233, 230, 223);
+    const QColor schrift(24, 24, 24);
+    const QColor matt(138, 134, 126);
+    QPalette palette(flaeche, flaeche);
+    palette.setColor(QPalette::WindowText, schrift);
+    palette.setColor(QPalette::Text, schrift);
+    palette.setColor(QPalette::ButtonText, schrift);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(246, 244, 239));
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 223));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, matt);
+    palette.setColor(QPalette::Highlight, QColor(38, 92, 156));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(22, 82, 150));
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, rolle, matt);
+    }
+    return palette;
+}
+
+} // namespace
+
+QString Anzeige(std::string_view text) {
+    QString anzeige = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    anzeige.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return anzeige;
+}
+
+std::string Modelltext(const QString& text) {
+    QString modell = text;
+    modell.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    modell.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return modell.toStdString();
+}
+
+QColor Systemflaeche() { return QGuiApplication::palette().color(QPalette::Active, QPalette::Button); }
+
+QFont Schrift(double punkt, bool fett) {
+    QFont schrift(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    schrift.setPixelSize(static_cast<int>(std::lround(punkt * 96.0 / 72.0)));
+    schrift.setBold(fett);
+    return schrift;
+}
+
+void OberflaecheEinrichten() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(HellePalette());
+    QApplication::setFont(Schrift(9));
+    auto* uebersetzung = new QTranslator(qApp);
+    // Without the toolkit's German texts its few own buttons speak English; nothing else is lost.
+    if (uebersetzung->load(QStringLiteral(":/uebersetzung/qtbase_de.qm"))) {
+        QCoreApplication::installTranslator(uebersetzung);
+    }
+}
+
+QSize Bildschirmgroesse(const QWidget* fenster) {
+    if (!vorgegebeneGroesse.isEmpty()) {
+        return vorgegebeneGroesse;
+    }
+    const QScreen* schirm = fenster != nullptr ? fenster->screen() : QGuiApplication::primaryScreen();
+    return schirm != nullptr ? schirm->size() : QSize(1280, 1024);
+}
+
+void BildschirmgroesseVorgeben(QSize groesse) { vorgegebeneGroesse = groesse; }
+
+void TwipsGeometrie(QWidget* steuerelement, double links, double oben, double breite, double hoehe) {
+    const int x = Pixel(links);
+    const int y = Pixel(oben);
+    steuerelement->setGeometry(x, y, Pixel(links + breite) - x, Pixel(oben + hoehe) - y);
+}

@@ -1,0 +1,149 @@
+#include "core/textfeld.h"
+
+#include "core/cp1252.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QValidator>
+
+namespace {
+
+// What of a text may stay: the same text, or with equivalents for what code page 1252 can't hold. The first
+// character that had to stay outside without an equivalent, or got one, is named in draussen.
+QString Erlaubt(const QString& text, QString& draussen) {
+    QString erlaubt;
+    erlaubt.reserve(text.size());
+    for (const char32_t zeichen : text.toUcs4()) {
+        if (zeichen == QChar::ParagraphSeparator || zeichen == QChar::LineSeparator || InCp1252(zeichen)) {
+            erlaubt += QString::fromUcs4(&zeichen, 1);
+            continue;
+        }
+        if (draussen.isEmpty()) {
+            draussen = QString::fromUcs4(&zeichen, 1);
+        }
+        erlaubt += QString::fromStdString(Ersatzzeichen(zeichen));
+    }
+    return erlaubt;
+}
+
+void ZeichenMelden(const QString& zeichen) {
+    HilfeText((QStringLiteral(" Das Zeichen  ") + zeichen +
+               QStringLiteral("  kann ich nicht speichern, es musste draußen bleiben."))
+                  .toStdString());
+}
+
+class Zeichenpruefer : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString& eingabe, int& stelle) const override {
+        QString draussen;
+        const QString davor = Erlaubt(eingabe.left(stelle), draussen);
+        const QString danach = Erlaubt(eingabe.mid(stelle), draussen);
+        if (!draussen.isEmpty()) {
+            eingabe = davor + danach;
+            stelle = static_cast<int>(davor.size());
+            ZeichenMelden(draussen);
+        }
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+Textfeld::Textfeld(QWidget* eltern, const QString& name) : QPlainTextEdit(eltern) {
+    setObjectName(name);
+    setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int stelle, int, int neu) { NurErlaubteZeichen(stelle, neu); });
+}
+
+std::string Textfeld::text() const {
+    // Not toPlainText: that turns protected blanks into plain ones.
+    QString roh = document()->toRawText();
+    roh.replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
+    roh.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+    return Modelltext(roh);
+}
+
+void Textfeld::setText(std::string_view text) {
+    if (this->text() != text) {
+        setPlainText(Anzeige(text));
+    }
+}
+
+void Textfeld::setGrund(const QColor& farbe) {
+    const QColor grund = farbe.isValid() ? farbe : Systemflaeche();
+    if (palette().color(QPalette::Base) == grund) {
+        return;
+    }
+    QPalette farben = palette();
+    farben.setColor(QPalette::Base, grund);
+    setPalette(farben);
+}
+
+void Textfeld::setZentriert(bool zentriert) {
+    QTextOption option = document()->defaultTextOption();
+    const Qt::Alignment ausrichtung = zentriert ? Qt::AlignHCenter : Qt::AlignLeft;
+    if (option.alignment() != ausrichtung) {
+        option.setAlignment(ausrichtung);
+        document()->setDefaultTextOption(option);
+    }
+}
+
+void Textfeld::focusInEvent(QFocusEvent* ereignis) {
+    QPlainTextEdit::focusInEvent(ereignis);
+    Q_EMIT fokusErhalten();
+}
+
+void Textfeld::focusOutEvent(QFocusEvent* ereignis) {
+    QPlainTextEdit::focusOutEvent(ereignis);
+    Q_EMIT fokusVerloren();
+}
+
+void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
+    const int ende = std::min(stelle + neu, document()->characterCount() - 1);
+    if (ende <= stelle) {
+        return;
+    }
+    QTextCursor cursor(document());
+    cursor.setPosition(stelle);
+    cursor.setPosition(ende, QTextCursor::KeepAnchor);
+    QString draussen;
+    const QString erlaubt = Erlaubt(cursor.selectedText(), draussen);
+    if (draussen.isEmpty()) {
+        return;
+    }
+    // The document is in the middle of the change; the mending joins it as soon as it is over.
+    QMetaObject::invokeMethod(
+        this,
+        [this, cursor, erlaubt]() mutable {
+            cursor.joinPreviousEditBlock();
+            cursor.insertText(erlaubt);
+            cursor.endEditBlock();
+        },
+        Qt::QueuedConnection);
+    ZeichenMelden(draussen);
+}
+
+Textzeile::Textzeile(QWidget* eltern, const QString& name) : QLineEdit(eltern) {
+    setObjectName(name);
+    setValidator(new Zeichenpruefer(this));
+}
+
+std::string Textzeile::wert() const { return Modelltext(text()); }
+
+void Textzeile::setWert(std::string_view text) {
+    const QString neu = Anzeige(text);
+    if (neu != this->text()) {
+        setText(neu);
+    }
+}
+
+void TextMarkieren(QLineEdit* zeile) { zeile->selectAll(); }
+
+void TextMarkieren(QPlainTextEdit* feld) { feld->selectAll(); }

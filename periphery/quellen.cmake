@@ -1,0 +1,1 @@
+feldkranz_quellen(fenster periphery/hinweise.cpp)
