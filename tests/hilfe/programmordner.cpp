@@ -1,0 +1,73 @@
+#include "tests/hilfe/programmordner.h"
+
+#include "core/zustand.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace {
+
+const QStringList unterordner{QStringLiteral("BITMAP"), QStringLiteral("CONFIG"), QStringLiteral("KRANZ"),
+                              QStringLiteral("REGEL"),  QStringLiteral("SOUND"),  QStringLiteral("TEST"),
+                              QStringLiteral("WISSEN")};
+
+void Kopieren(const QString& quelle, const QString& ziel) {
+    QDir().mkpath(ziel);
+    QDirIterator lauf(quelle, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+                      QDirIterator::Subdirectories);
+    while (lauf.hasNext()) {
+        lauf.next();
+        const QString dort = ziel + QLatin1Char('/') + QDir(quelle).relativeFilePath(lauf.filePath());
+        if (lauf.fileInfo().isDir()) {
+            QDir().mkpath(dort);
+        } else if (lauf.fileName() != QLatin1String(".gitkeep")) {
+            QDir().mkpath(QFileInfo(dort).path());
+            if (!QFile::copy(lauf.filePath(), dort)) {
+                qFatal("Can't copy %s", qPrintable(lauf.filePath()));
+            }
+            // A read-only checkout mustn't make the copies read-only.
+            QFile::setPermissions(dort, QFile::permissions(dort) | QFile::WriteOwner | QFile::ReadOwner);
+        }
+    }
+}
+
+// The path in the program's own notation, done here so that the helper doesn't lean on what it helps to test.
+std::string MitRueckstrichen(QString pfad) {
+    return pfad.replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
+}
+
+} // namespace
+
+Programmordner::Programmordner() : vorher_(AppPfad) {
+    if (!ordner_.isValid()) {
+        qFatal("No temporary folder: %s", qPrintable(ordner_.errorString()));
+    }
+    for (const QString& name : unterordner) {
+        Kopieren(QStringLiteral(FELDKRANZ_DATEN "/") + name, ordner_.filePath(name));
+    }
+    AppPfad = MitRueckstrichen(ordner_.path());
+}
+
+Programmordner::~Programmordner() {
+    AppPfad = vorher_;
+}
+
+void Programmordner::schreiben(const QString& darunter, const QByteArray& bytes) const {
+    QFile datei(nativ(darunter));
+    QDir().mkpath(QFileInfo(datei).path());
+    if (!datei.open(QIODevice::WriteOnly) || datei.write(bytes) != bytes.size()) {
+        qFatal("Can't write %s: %s", qPrintable(datei.fileName()), qPrintable(datei.errorString()));
+    }
+}
+
+QByteArray Programmordner::lesen(const QString& darunter) const {
+    QFile datei(nativ(darunter));
+    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
+}
+
+bool Programmordner::vorhanden(const QString& darunter) const {
+    return QFileInfo::exists(nativ(darunter));
+}
