@@ -59,6 +59,8 @@ unset QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME QT_IM_MODULE XMODIFIERS LC_ALL LANG
 export DISPLAY=":$nummer" LANG=C.UTF-8 QT_QPA_PLATFORM=xcb HOME="$heim"
 export XDG_RUNTIME_DIR="$heim/laufzeit" XDG_CONFIG_HOME="$heim/config" XDG_DATA_HOME="$heim/daten"
 export XDG_CACHE_HOME="$heim/cache" DBUS_SESSION_BUS_ADDRESS='disabled:' NO_AT_BRIDGE=1
+# A German keyboard, so that umlauts are keys and not keymaps changed in passing.
+setxkbmap de >"$heim/xkb.log" 2>&1
 # Plain windows need no 3D driver, and loading one takes longer than most tests.
 export QT_XCB_GL_INTEGRATION="${QT_XCB_GL_INTEGRATION-none}"
 

@@ -1,0 +1,218 @@
+#include "tests/hilfe/maus.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QProcess>
+#include <QScreen>
+#include <QTimer>
+
+namespace {
+
+constexpr int frist = 10000;     // for a gesture, milliseconds
+constexpr int bedenkzeit = 3000; // for the state over the target
+
+// Sees the events that come from the display server.
+class Zaehlwerk : public QObject {
+public:
+    Zaehlwerk() { qApp->installEventFilter(this); }
+    [[nodiscard]] int gesehen(QEvent::Type art) const { return art == QEvent::KeyRelease ? tasten_ : maus_; }
+
+protected:
+    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override {
+        // Each event passes here first on its way to the window.
+        if (empfaenger->isWindowType()) {
+            maus_ += ereignis->type() == QEvent::MouseButtonRelease ? 1 : 0;
+            tasten_ += ereignis->type() == QEvent::KeyRelease ? 1 : 0;
+        }
+        return false;
+    }
+
+private:
+    int maus_ = 0;
+    int tasten_ = 0;
+};
+
+// The place on the screen in the server's own pixels, which differ from the toolkit's on a scaled screen.
+QStringList Ort(QPoint global) {
+    const QScreen* schirm = QApplication::screenAt(global);
+    const double faktor = schirm != nullptr ? schirm->devicePixelRatio() : 1.0;
+    return {QString::number(qRound(global.x() * faktor)), QString::number(qRound(global.y() * faktor))};
+}
+
+QPoint Global(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer) {
+    if (ziel == nullptr || !ziel->isVisible()) {
+        VersagenUndEnde(QStringLiteral("%1 isn't visible: the mouse can't reach it")
+                            .arg(ziel != nullptr ? ziel->objectName() : QStringLiteral("Nothing")),
+                        aufrufer);
+    }
+    const QPoint ort = stelle ? *stelle : ziel->rect().center();
+    const QPoint global = ziel->mapToGlobal(ort);
+    const QWidget* getroffen = QApplication::widgetAt(global);
+    if (getroffen == nullptr || (getroffen != ziel && !ziel->isAncestorOf(getroffen))) {
+        Versagen(QStringLiteral("%1 is covered there by %2")
+                     .arg(ziel->objectName(), getroffen != nullptr
+                                                  ? getroffen->objectName() + u' ' +
+                                                        QLatin1String(getroffen->metaObject()->className())
+                                                  : QStringLiteral("something else")),
+                 aufrufer);
+    }
+    return global;
+}
+
+QStringList Umschalter(Qt::KeyboardModifiers tasten, const QString& befehl) {
+    QStringList befehle;
+    if (tasten.testFlag(Qt::ShiftModifier)) {
+        befehle << befehl << QStringLiteral("shift");
+    }
+    if (tasten.testFlag(Qt::ControlModifier)) {
+        befehle << befehl << QStringLiteral("ctrl");
+    }
+    if (tasten.testFlag(Qt::AltModifier)) {
+        befehle << befehl << QStringLiteral("alt");
+    }
+    return befehle;
+}
+
+// Starts the process that sends the events; danach runs when it has ended, also inside another event loop.
+void Senden(const QStringList& befehle, Stelle aufrufer, const std::function<void()>& danach) {
+    auto* prozess = new QProcess(qApp);
+    QObject::connect(prozess, &QProcess::errorOccurred, qApp, [aufrufer, danach](QProcess::ProcessError) {
+        Versagen(QStringLiteral("xdotool doesn't run"), aufrufer);
+        danach();
+    });
+    QObject::connect(prozess, &QProcess::finished, qApp, [prozess, aufrufer, danach](int code) {
+        if (code != 0) {
+            Versagen(QString::fromLocal8Bit(prozess->readAllStandardError()), aufrufer);
+        }
+        prozess->deleteLater();
+        danach();
+    });
+    prozess->start(QStringLiteral("xdotool"), befehle);
+}
+
+// Sends and waits until the process has ended and the program has seen so many events of the kind.
+void SendenUndWarten(const QStringList& befehle, QEvent::Type art, int anzahl, Stelle aufrufer) {
+    const Zaehlwerk zaehlwerk;
+    bool fertig = false;
+    Senden(befehle, aufrufer, [&fertig] { fertig = true; });
+    if (!WartenBis([&] { return fertig && zaehlwerk.gesehen(art) >= anzahl; }, frist)) {
+        Versagen(QStringLiteral("The program didn't see: xdotool ") + befehle.join(u' '), aufrufer);
+        // The callback above must not outlive the flag that it sets.
+        (void)WartenBis([&fertig] { return fertig; }, frist);
+    }
+}
+
+void KlickenMit(const QWidget* ziel, const QStringList& klick, int anzahl, Qt::KeyboardModifiers tasten,
+                std::optional<QPoint> stelle, Stelle aufrufer) {
+    QStringList befehle{QStringLiteral("mousemove")};
+    befehle << Ort(Global(ziel, stelle, aufrufer)) << Umschalter(tasten, QStringLiteral("keydown")) << klick
+            << Umschalter(tasten, QStringLiteral("keyup"));
+    SendenUndWarten(befehle, QEvent::MouseButtonRelease, anzahl, aufrufer);
+}
+
+// One drag. The steps hang on the clock, because the program is inside its own drag loop most of the time.
+class Zug : public QObject {
+public:
+    Zug(QPoint von, QPoint nach, Qt::KeyboardModifiers tasten, const std::function<bool()>& ueberZiel,
+        Stelle aufrufer)
+        : von_(von), nach_(nach), tasten_(tasten), ueberZiel_(ueberZiel), aufrufer_(aufrufer) {
+        Senden(Hinweg(), aufrufer, [this] { Ankommen(); });
+    }
+    [[nodiscard]] bool fertig() const { return fertig_; }
+
+private:
+    [[nodiscard]] QStringList Hinweg() const {
+        QStringList befehle = QStringList{QStringLiteral("mousemove")} << Ort(von_);
+        befehle << Umschalter(tasten_, QStringLiteral("keydown"));
+        befehle << QStringLiteral("mousedown") << QStringLiteral("1");
+        constexpr int schritte = 10;
+        for (int schritt = 1; schritt <= schritte; ++schritt) {
+            const QPoint ort = von_ + (nach_ - von_) * schritt / schritte;
+            befehle << QStringLiteral("sleep") << QStringLiteral("0.02") << QStringLiteral("mousemove")
+                    << Ort(ort);
+        }
+        return befehle;
+    }
+
+    void Ankommen() {
+        seit_.start();
+        QObject::connect(&uhr_, &QTimer::timeout, this, [this] { Pruefen(); });
+        uhr_.start(20);
+    }
+
+    void Pruefen() {
+        const bool angekommen = (QCursor::pos() - nach_).manhattanLength() <= 2;
+        const bool gut = angekommen && seit_.elapsed() > 100 && (!ueberZiel_ || ueberZiel_());
+        if (!gut && seit_.elapsed() < bedenkzeit) {
+            return;
+        }
+        uhr_.stop();
+        if (!gut) {
+            Versagen(QStringLiteral("The state over the target never came"), aufrufer_);
+        }
+        QStringList befehle{QStringLiteral("mouseup"), QStringLiteral("1")};
+        befehle << Umschalter(tasten_, QStringLiteral("keyup"));
+        Senden(befehle, aufrufer_, [this] { fertig_ = true; });
+    }
+
+    QPoint von_, nach_;
+    Qt::KeyboardModifiers tasten_;
+    std::function<bool()> ueberZiel_;
+    Stelle aufrufer_;
+    QTimer uhr_;
+    QElapsedTimer seit_;
+    bool fertig_ = false;
+};
+
+} // namespace
+
+namespace maus {
+
+void Bewegen(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer) {
+    const QPoint global = Global(ziel, stelle, aufrufer);
+    bool fertig = false;
+    Senden(QStringList{QStringLiteral("mousemove")} << Ort(global), aufrufer, [&fertig] { fertig = true; });
+    if (!WartenBis([&] { return fertig && (QCursor::pos() - global).manhattanLength() <= 2; }, frist)) {
+        VersagenUndEnde(QStringLiteral("The pointer didn't get there"), aufrufer);
+    }
+    QCoreApplication::processEvents();
+}
+
+void Klicken(const QWidget* ziel, Qt::KeyboardModifiers tasten, std::optional<QPoint> stelle,
+             Stelle aufrufer) {
+    KlickenMit(ziel, {QStringLiteral("click"), QStringLiteral("1")}, 1, tasten, stelle, aufrufer);
+}
+
+void Doppelklicken(const QWidget* ziel, Stelle aufrufer) {
+    KlickenMit(ziel,
+               {QStringLiteral("click"), QStringLiteral("1"), QStringLiteral("click"), QStringLiteral("1")},
+               2, Qt::NoModifier, {}, aufrufer);
+}
+
+void RechtsKlicken(const QWidget* ziel, Stelle aufrufer) {
+    KlickenMit(ziel, {QStringLiteral("click"), QStringLiteral("3")}, 1, Qt::NoModifier, {}, aufrufer);
+}
+
+void Ziehen(const QWidget* von, const QWidget* nach, Qt::KeyboardModifiers tasten,
+            const std::function<bool()>& ueberZiel, Stelle aufrufer) {
+    const Zug zug(Global(von, {}, aufrufer), Global(nach, {}, aufrufer), tasten, ueberZiel, aufrufer);
+    if (!WartenBis([&zug] { return zug.fertig(); }, 2 * frist)) {
+        VersagenUndEnde(QStringLiteral("The drag didn't end"), aufrufer);
+    }
+    // The release is on its way from the server still; what the drop does hangs on the loop as well.
+    (void)WartenBis([] { return QGuiApplication::mouseButtons() == Qt::NoButton; }, 1000);
+    QCoreApplication::processEvents();
+}
+
+void Tippen(const QString& text, Stelle aufrufer) {
+    SendenUndWarten({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"), text},
+                    QEvent::KeyRelease, static_cast<int>(text.size()), aufrufer);
+}
+
+void Taste(const QString& taste, Stelle aufrufer) {
+    SendenUndWarten({QStringLiteral("key"), taste}, QEvent::KeyRelease, 1, aufrufer);
+}
+
+} // namespace maus
