@@ -1,15 +1,14 @@
 // Dragging a question from one place to another: one drag at a time, begun by a source and ended by at most
-// one target. The target's steps run after the drag has ended, so that they may ask the user. Which drag is
-// allowed and what a drop does is the callers' affair.
+// one target. The target's steps run after the drag has ended, so that they may ask the user. The same way
+// can be gone with keys. Which drag is allowed and what a drop does is the callers' affair.
 #pragma once
-
-#include <QMimeData>
 
 #include <cstdint>
 #include <functional>
 #include <string>
 
-class QDropEvent;
+#include <QtCore/qnamespace.h>
+
 class QWidget;
 
 // 0 a drag from the selection dialog, 1 a move, 2 a copy, 27 the test form's copy.
@@ -19,17 +18,36 @@ inline std::int16_t DragFeld = 0;
 // Tag of the window where the press happened: "FKFragen", "HBFragen" or "Auswahl".
 inline std::string DragHerkunft;
 
-// The pictures at the pointer while a question is dragged.
+// The pictures at the pointer while a question is dragged: taken up, over a target, over what takes nothing,
+// over the trash. Keins while nothing is dragged.
 enum class ZiehBild : std::uint8_t { Keins, Aufnehmen, Ablegen, Nein, Atom };
 [[nodiscard]] ZiehBild AktuellesZiehBild();
 
-// Drags the text of a source; comes back after the drop and what it caused.
+// Format under which a dragged question travels, beside plain text for other programs.
+inline constexpr char ziehFormat[] = "application/x-feldkranz-frage";
+
+// Drags the text of a source; call it while the mouse button is down. Comes back after the drop and what it
+// caused. Esc cancels. A source or a target that is gone by then leaves the drop without effect. While
+// another drag runs it does nothing.
 void Ziehen(QWidget* quelle, const std::string& frage);
 
-// The text being dragged.
+// The text being dragged, or dragged last.
 [[nodiscard]] const std::string& GezogeneFrage();
 
-// Makes a control a target: bild shows while the drag is over it, ablegen runs after the drop.
+// Makes a control a target: bild shows while the drag is over it, ablegen runs after the drop. Works for any
+// control; a text box goes on taking foreign text as ever. A second call replaces the first.
 void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen);
-// Makes a control one that takes nothing.
+// Makes a control, and what lies in it and isn't a target, one that takes nothing. Controls without either
+// take nothing as well.
 void KeinZiel(QWidget* steuerelement);
+
+// The way without a mouse. A source hands in what a press on it does; Shift+F8 and Ctrl+F8 then do what a
+// press with that key does, and the question is held where the press would have begun a drag. F8 on a target
+// drops it there, Esc on a source or a target lets go of it.
+void TastenEinrichten(QWidget* quelle, std::function<void(Qt::KeyboardModifiers)> druecken);
+// Runs a press without a mouse: a call of Ziehen inside it holds the question. True when one is held then.
+bool OhneMausAufnehmen(const std::function<void()>& druecken);
+// Drops the question held; false when none is or the control is no target.
+bool OhneMausAblegen(QWidget* ziel);
+[[nodiscard]] bool OhneMausGehalten();
+void OhneMausLoslassen();
