@@ -1,1 +1,27 @@
-# The program and the folder it runs in; written out below.
+# The program, and the folder that it runs in: the executable with BITMAP CONFIG KRANZ REGEL SOUND TEST WISSEN
+# beneath it, copied from data/. What the user has changed there stays: see DatenKopieren.cmake.
+
+# The toolkit's own texts in German travel inside the program, as :/uebersetzung/qtbase_de.qm.
+find_file(FELDKRANZ_QTBASE_DE qtbase_de.qm
+  PATHS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_TRANSLATIONS}" /usr/share/qt6/translations
+  NO_DEFAULT_PATH REQUIRED
+  DOC "The toolkit's German translation (Debian: qt6-translations-l10n)")
+set_source_files_properties("${FELDKRANZ_QTBASE_DE}" PROPERTIES QT_RESOURCE_ALIAS qtbase_de.qm)
+qt_add_resources(fenster uebersetzung PREFIX /uebersetzung FILES "${FELDKRANZ_QTBASE_DE}")
+
+if(EXISTS "${PROJECT_SOURCE_DIR}/core/main.cpp")
+  add_executable(feldkranz WIN32 core/main.cpp)
+  target_link_libraries(feldkranz PRIVATE fenster)
+  set_target_properties(feldkranz PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${FELDKRANZ_PROGRAMMORDNER}")
+  install(TARGETS feldkranz RUNTIME DESTINATION .)
+endif()
+
+add_custom_target(programmordner ALL
+  COMMAND "${CMAKE_COMMAND}" "-DQUELLE=${PROJECT_SOURCE_DIR}/data" "-DZIEL=${FELDKRANZ_PROGRAMMORDNER}"
+          -P "${PROJECT_SOURCE_DIR}/cmake/DatenKopieren.cmake"
+  VERBATIM)
+
+install(CODE "
+  set(QUELLE \"${PROJECT_SOURCE_DIR}/data\")
+  set(ZIEL \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
+  include(\"${PROJECT_SOURCE_DIR}/cmake/DatenKopieren.cmake\")")

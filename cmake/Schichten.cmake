@@ -15,6 +15,9 @@ target_link_libraries(fenster PUBLIC rand Qt6::Widgets Qt6::PrintSupport)
 target_precompile_headers(fenster PRIVATE <QtWidgets>)
 set_target_properties(fenster PROPERTIES AUTOMOC ON)
 
+# Where the runnable program and its folders are laid.
+set(FELDKRANZ_PROGRAMMORDNER "${PROJECT_BINARY_DIR}/Feldkranz")
+
 configure_file("${PROJECT_SOURCE_DIR}/core/konfiguration.h.in" "${PROJECT_BINARY_DIR}/erzeugt/core/konfiguration.h" @ONLY)
 
 # feldkranz_quellen(<layer> <file>...): adds sources of the calling subsystem to a layer.
@@ -22,4 +25,16 @@ function(feldkranz_quellen schicht)
   foreach(datei IN LISTS ARGN)
     target_sources(${schicht} PRIVATE "${PROJECT_SOURCE_DIR}/${datei}")
   endforeach()
+endfunction()
+
+# feldkranz_zusatz(<name> <file>...): a plug-in beside the program, loaded at need. It links no layer: the state
+# of the program must not exist twice. The toolkit's parts that it needs are the caller's to link.
+function(feldkranz_zusatz name)
+  list(TRANSFORM ARGN PREPEND "${PROJECT_SOURCE_DIR}/")
+  add_library(${name} MODULE ${ARGN})
+  target_link_libraries(${name} PRIVATE warnungen)
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON LIBRARY_OUTPUT_DIRECTORY "${FELDKRANZ_PROGRAMMORDNER}")
+  install(TARGETS ${name} LIBRARY DESTINATION .)
 endfunction()
