@@ -1,6 +1,7 @@
 // Reading, durable saving and the small file operations, on paths in the program's own notation. Every
 // failure leaves as a Laufzeitfehler with a number that tells a lasting reason (52, 53, 70, 75, 76) from a
-// device that may come back (57, 68, 71, 72). Knows no format and asks nobody.
+// device that may come back (57, 68, 71, 72); a full disk is 61. Knows no format and asks nobody. DateiNr is
+// 1 while a file is open here.
 #pragma once
 
 #include <cstdint>
@@ -8,29 +9,38 @@
 #include <string_view>
 #include <vector>
 
-// The bytes of a whole file. A missing file is 53, a folder, an impossible name or one without permission 52,
-// a file beyond 1 GiB is 7.
+// The bytes of a whole file. A missing file is 53; a folder, a pipe, a device, an impossible name or a file
+// without permission is 52; a file beyond 256 MiB is 7.
 [[nodiscard]] std::string DateiLesen(std::string_view pfad);
 
 // Writes the bytes so that at every moment either the old or the new file stands whole: a new file in the
-// same folder, forced to the disk, renamed over the old one; where the folder takes no new file but the file
-// can be written, in place after a copy has been kept. The permissions of an existing file are kept.
+// same folder, forced to the disk, renamed over the old one. Permissions of an existing file are kept, owner
+// and access list where the system allows it, and a link goes on pointing to the file. A file that the user
+// may not write is 70. Where the folder takes no new file but the file can be written, it is overwritten in
+// place, and until that is done a copy of the old one stands in the folder for temporary files (/var/tmp
+// first) under "Feldkranz-", the file's name and a number. A killed process can leave that copy, or a scrap
+// ".feldkranz-<number>.neu" beside the file.
 void DateiSchreiben(std::string_view pfad, std::string_view bytes);
 
-[[nodiscard]] bool DateiDa(std::string_view pfad);  // an existing file, no folder
+[[nodiscard]] bool DateiDa(std::string_view pfad);  // anything existing that is no folder
 [[nodiscard]] bool OrdnerDa(std::string_view pfad); // an existing folder
 
-// Copies a file durably over the target; an existing target is replaced.
+// Copies a file as DateiLesen and DateiSchreiben do; an existing target is replaced.
 void DateiKopieren(std::string_view quelle, std::string_view ziel);
-void DateiLoeschen(std::string_view pfad);
-void OrdnerAnlegen(std::string_view pfad);
-void OrdnerLoeschen(std::string_view pfad); // only an empty one
+void DateiLoeschen(std::string_view pfad);  // a missing file is 53
+void OrdnerAnlegen(std::string_view pfad);  // an existing one is 75
+void OrdnerLoeschen(std::string_view pfad); // only an empty one, else 75
 
-[[nodiscard]] std::int64_t DateiGroesse(std::string_view pfad);
+[[nodiscard]] std::int64_t DateiGroesse(std::string_view pfad); // bytes
 // Date and time of the last change, as "dd.mm.yyyy hh:mm:ss" in local time.
 [[nodiscard]] std::string DateiDatum(std::string_view pfad);
 
-// Names of the files in a folder that match one of the patterns ("*.FKR"; several joined by ";"), without
-// regard to case, sorted; and of its sub-folders. An unreadable folder is a Laufzeitfehler.
+// True for a name that matches one of the patterns ("*.FKR"; several joined by ";") without regard to case;
+// "*" stands for any characters, "?" for one, and "*.*" for every name.
+[[nodiscard]] bool MusterPasst(std::string_view name, std::string_view muster);
+
+// Names of the regular files in a folder that match one of the patterns, and of its sub-folders, sorted as a
+// German reader expects. What the system hides (a point in front) is left out. A missing folder is 76, an
+// unreadable one 70.
 [[nodiscard]] std::vector<std::string> DateienIn(std::string_view ordner, std::string_view muster);
 [[nodiscard]] std::vector<std::string> OrdnerIn(std::string_view ordner);

@@ -10,18 +10,24 @@
 #include <string_view>
 #include <vector>
 
-// The file system's path for a path of the program. Each existing part is matched exactly first and without
-// regard to case second; from the first part that doesn't exist on, the parts stand as given.
+// The file system's path for a path of the program; slash and backslash both part it. The part of the path
+// that exists is found exactly first and without regard to case second, also where only a folder of other
+// case holds what follows; the parts behind it stand as given.
 [[nodiscard]] QString NativerPfad(std::string_view pfad);
 
-// The program's path for a path of the file system, with backslashes.
+// The program's path for a path of the file system, with backslashes. Where a name may hold a backslash
+// itself, that one becomes U+FF3C, its wide form, and bytes that are no UTF-8 become U+FFFD; NativerPfad
+// finds such a name again.
 [[nodiscard]] std::string EigenerPfad(const QString& nativ);
 
 // Folder and name with exactly one backslash between them.
 [[nodiscard]] std::string PfadVerbinden(std::string_view ordner, std::string_view name);
 
-// Remembers the file (native path) that the user chose for an upper-cased path, so that the upper-cased name
-// opens exactly that one also where two names differ in case only. The memory holds one file.
+// Remembers the native path that the user chose under an upper-cased path, until the program ends: that
+// path then means exactly this file, if it existed at the choice, and a name in the same upper-cased folder
+// is looked up in exactly this folder, also where names differ in case only. A later choice under the same
+// upper-cased path takes its place; who keeps a path longer keeps NativerPfad's answer beside it and gives it
+// here again before he uses the path.
 void AuswahlMerken(std::string_view grossgeschrieben, const QString& nativ);
 
 // The volumes that stand in for drives: native root folder and the name that labels it.

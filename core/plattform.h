@@ -1,30 +1,77 @@
-// Calls that only one system has, behind one face; one source file a system. The rest of the program knows
-// neither POSIX nor Windows. Paths here are the file system's own.
+// Calls that only one system has, behind one face; the rest of the program knows neither POSIX nor Windows.
+// Paths here are the file system's own. A failure is a Laufzeitfehler: on reading 52 and 53 for a lasting
+// reason, on writing 52, 70, 75 and 76, 61 for a full disk; 57, 68, 71 and 72 for a device that may come
+// back. Knows no format, asks nobody, and leaves looking names up to core/pfad.h.
 #pragma once
 
 #include "core/laufzeitfehler.h"
 
 #include <QString>
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace plattform {
 
-// Writes the bytes to a new file beside ziel, forces them to the disk and renames it over ziel. Throws
-// Laufzeitfehler; the old file is whole then and no scrap is left behind where the system lets us remove it.
-void DauerhaftErsetzen(const QString& ziel, std::string_view bytes);
+// True where two names of one folder may differ in case only.
+#ifdef Q_OS_WIN
+inline constexpr bool unterscheidetSchreibung = false;
+#else
+inline constexpr bool unterscheidetSchreibung = true;
+#endif
 
-// True when a failure of DauerhaftErsetzen means that the folder takes no new file although ziel itself may
-// be written.
-[[nodiscard]] bool OrdnerVerschlossen(const QString& ziel);
+// What stands under a name, links followed.
+enum class Art : std::uint8_t { Nichts, Datei, Ordner, Anderes };
 
-// Overwrites an existing file in place and forces it to the disk.
+struct Dateizustand {
+    Art art = Art::Nichts;
+    std::int64_t groesse = 0;   // bytes
+    std::int64_t geaendert = 0; // last change, seconds since 1970 UTC
+};
+
+struct Eintrag {
+    QString name;
+    bool ordner = false;
+};
+
+// The kind of a name; what can't be reached is Nichts.
+[[nodiscard]] Art ArtVon(const QString& pfad) noexcept;
+[[nodiscard]] Dateizustand Nachsehen(const QString& pfad);
+
+// The regular files and the folders of a folder, in no order, "." and ".." left out.
+[[nodiscard]] std::vector<Eintrag> OrdnerLesen(const QString& ordner);
+
+// Bytes of a regular file. Anything else is 52: a pipe or a device would hang or never end. More bytes than
+// grenze are 7.
+[[nodiscard]] std::string Lesen(const QString& datei, std::size_t grenze);
+
+// Writes the bytes to a new file beside ziel, forces them to the disk and renames it over ziel; a link leads
+// to the file that is replaced. On a throw the old file is whole (the new one where only forcing the folder
+// to the disk failed) and no scrap is left. False, and nothing has changed, when the folder takes no new file
+// although ziel itself can be written.
+[[nodiscard]] bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes);
+
+// Overwrites an existing file in place and forces it to the disk. A throw may leave it damaged.
 void AnOrtUeberschreiben(const QString& ziel, std::string_view bytes);
+
+// Puts the bytes, forced to the disk, into a new file outside ziel's folder that only the user can read,
+// under a name that begins with "Feldkranz-" and ziel's name. Returns its path.
+[[nodiscard]] QString KopieAblegen(const QString& ziel, std::string_view bytes);
+
+void Loeschen(const QString& datei);
+void OrdnerAnlegen(const QString& ordner);
+void OrdnerLoeschen(const QString& ordner);
+
+// Root folders of the mounted volumes that a user knows, the system's own root first.
+[[nodiscard]] std::vector<QString> Wurzeln();
 
 // Starts the system's text editor with a file and comes back at once. False when none could be started.
 bool TexteditorStarten(const QString& datei);
 
-// Plays a wave file and waits for its end. False when it could not be played.
+// Plays a wave file and waits for its end, 20 seconds at most. False when it could not be played.
 bool KlangAbspielen(const QString& datei);
 
 } // namespace plattform

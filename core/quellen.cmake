@@ -1,5 +1,13 @@
 feldkranz_quellen(modell core/laufzeitfehler.cpp)
-feldkranz_quellen(rand core/datei.h core/pfad.h core/plattform.h)
+feldkranz_quellen(rand core/datei.cpp core/ordner.cpp core/pfad.cpp)
+if(WIN32)
+  feldkranz_quellen(rand core/plattform_windows.cpp)
+  target_link_libraries(rand PUBLIC winmm)
+else()
+  feldkranz_quellen(rand
+    core/plattform_posix.cpp core/plattform_posix_ordner.cpp core/plattform_posix_programme.cpp
+    core/plattform_posix_sichern.cpp core/plattform_posix_ziel.cpp)
+endif()
 feldkranz_quellen(fenster
   core/oberflaeche.cpp
   core/panel.cpp core/panel.h

@@ -1,0 +1,116 @@
+#include "core/datei.h"
+
+#include "core/pfad.h"
+#include "core/plattform.h"
+#include "core/zustand.h"
+
+#include <QDateTime>
+
+#include <new>
+
+namespace {
+
+// A larger file is none of ours, and its text in the model would fill the memory.
+constexpr std::size_t hoechstgroesse = std::size_t{256} << 20U;
+
+// The one file number, in use for as long as this lives.
+struct Dateinummer {
+    Dateinummer() { DateiNr = 1; }
+    Dateinummer(const Dateinummer&) = delete;
+    Dateinummer& operator=(const Dateinummer&) = delete;
+    ~Dateinummer() { DateiNr = 0; }
+};
+
+[[nodiscard]] QString NativerDateipfad(std::string_view pfad) {
+    if (pfad.empty() || pfad.find('\0') != std::string_view::npos) {
+        throw Laufzeitfehler(Fehler::DateinameFalsch);
+    }
+    return NativerPfad(pfad);
+}
+
+[[nodiscard]] plattform::Art ArtVonPfad(std::string_view pfad) {
+    try {
+        return plattform::ArtVon(NativerDateipfad(pfad));
+    } catch (const Laufzeitfehler&) {
+        return plattform::Art::Nichts; // a name that can't exist
+    }
+}
+
+// The folder is closed, so the file itself is overwritten. Killed at any step, either the file or the copy is
+// whole; a copy whose file couldn't be put right again stays.
+void AnOrtSchreiben(const QString& ziel, std::string_view bytes) {
+    const std::string alt = plattform::Lesen(ziel, hoechstgroesse);
+    const QString kopie = plattform::KopieAblegen(ziel, alt);
+    try {
+        plattform::AnOrtUeberschreiben(ziel, bytes);
+    } catch (const Laufzeitfehler&) {
+        try {
+            plattform::AnOrtUeberschreiben(ziel, alt);
+            plattform::Loeschen(kopie);
+        } catch (const Laufzeitfehler&) {
+            // The copy is the only whole file now; the first error is the one to report.
+        }
+        throw;
+    }
+    try {
+        plattform::Loeschen(kopie);
+    } catch (const Laufzeitfehler&) {
+        // A copy too many does no harm.
+    }
+}
+
+} // namespace
+
+std::string DateiLesen(std::string_view pfad) {
+    const QString nativ = NativerDateipfad(pfad);
+    const Dateinummer offen;
+    try {
+        return plattform::Lesen(nativ, hoechstgroesse);
+    } catch (const std::bad_alloc&) {
+        throw Laufzeitfehler(Fehler::SpeicherVoll);
+    }
+}
+
+void DateiSchreiben(std::string_view pfad, std::string_view bytes) {
+    const QString nativ = NativerDateipfad(pfad);
+    const Dateinummer offen;
+    if (!plattform::DauerhaftErsetzen(nativ, bytes)) {
+        AnOrtSchreiben(nativ, bytes);
+    }
+}
+
+bool DateiDa(std::string_view pfad) {
+    const plattform::Art art = ArtVonPfad(pfad);
+    return art == plattform::Art::Datei || art == plattform::Art::Anderes;
+}
+
+bool OrdnerDa(std::string_view pfad) {
+    return ArtVonPfad(pfad) == plattform::Art::Ordner;
+}
+
+void DateiKopieren(std::string_view quelle, std::string_view ziel) {
+    DateiSchreiben(ziel, DateiLesen(quelle));
+}
+
+void DateiLoeschen(std::string_view pfad) {
+    plattform::Loeschen(NativerDateipfad(pfad));
+}
+
+void OrdnerAnlegen(std::string_view pfad) {
+    plattform::OrdnerAnlegen(NativerDateipfad(pfad));
+}
+
+void OrdnerLoeschen(std::string_view pfad) {
+    plattform::OrdnerLoeschen(NativerDateipfad(pfad));
+}
+
+std::int64_t DateiGroesse(std::string_view pfad) {
+    return plattform::Nachsehen(NativerDateipfad(pfad)).groesse;
+}
+
+std::string DateiDatum(std::string_view pfad) {
+    const std::int64_t sekunden = plattform::Nachsehen(NativerDateipfad(pfad)).geaendert;
+    return QDateTime::fromSecsSinceEpoch(sekunden)
+        .toString(QStringLiteral("dd.MM.yyyy hh:mm:ss"))
+        .toStdString();
+}

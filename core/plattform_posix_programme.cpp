@@ -1,0 +1,63 @@
+#include "core/plattform.h"
+
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace plattform {
+
+namespace {
+
+// Editors of the usual desktops; the last one leaves the choice to the desktop.
+constexpr std::array texteditoren{"gnome-text-editor", "gedit",   "kate",    "kwrite",
+                                  "mousepad",          "xed",     "pluma",   "lxqt-featherpad",
+                                  "featherpad",        "leafpad", "xdg-open"};
+
+struct Spieler {
+    const char* programm;
+    const char* schalter; // ahead of the file, "" for none
+};
+constexpr std::array klangspieler{Spieler{"paplay", ""}, Spieler{"pw-play", ""}, Spieler{"aplay", "-q"}};
+
+} // namespace
+
+bool TexteditorStarten(const QString& datei) {
+    return std::ranges::any_of(texteditoren, [&](const char* name) {
+        const QString programm = QStandardPaths::findExecutable(QString::fromLatin1(name));
+        return !programm.isEmpty() && QProcess::startDetached(programm, {datei});
+    });
+}
+
+bool KlangAbspielen(const QString& datei) {
+    constexpr int hoechstdauer = 20000; // milliseconds; a player that hangs must not take the program with it
+    if (ArtVon(datei) != Art::Datei) {
+        return false;
+    }
+    const QDeadlineTimer frist(hoechstdauer);
+    return std::ranges::any_of(klangspieler, [&](const Spieler& spieler) {
+        const QString programm = QStandardPaths::findExecutable(QString::fromLatin1(spieler.programm));
+        if (programm.isEmpty() || frist.hasExpired()) {
+            return false;
+        }
+        QStringList argumente{datei};
+        if (*spieler.schalter != '\0') {
+            argumente.prepend(QString::fromLatin1(spieler.schalter));
+        }
+        QProcess prozess;
+        prozess.setStandardOutputFile(QProcess::nullDevice());
+        prozess.setStandardErrorFile(QProcess::nullDevice());
+        prozess.start(programm, argumente, QIODevice::NotOpen);
+        const bool beendet = prozess.waitForFinished(static_cast<int>(frist.remainingTime()));
+        if (!beendet) {
+            prozess.kill();
+            prozess.waitForFinished(1000);
+        }
+        return beendet && prozess.exitStatus() == QProcess::NormalExit && prozess.exitCode() == 0;
+    });
+}
+
+} // namespace plattform
