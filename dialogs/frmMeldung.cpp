@@ -1,0 +1,138 @@
+#include "dialogs/frmMeldung.h"
+
+#include "core/oberflaeche.h"
+#include "core/panel.h"
+#include "dialogs/meldung.h"
+#include "dialogs/sinnbilder.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+
+namespace {
+
+constexpr double fensterBreite = 5055;
+constexpr double fensterHoehe = 2805;
+constexpr int grussBild = 3;
+
+// The largest face of the row in which the caption fits the width.
+QFont PassendeSchrift(const QString& text, int breite) {
+    for (const double punkt : {10.0, 9.5, 9.0, 8.5, 8.0, 7.5}) {
+        const QFont schrift = Schrift(punkt);
+        if (QFontMetrics(schrift).horizontalAdvance(text) <= breite) {
+            return schrift;
+        }
+    }
+    return Schrift(7);
+}
+
+} // namespace
+
+frmMeldung::frmMeldung()
+    : Dialoggrund(QStringLiteral("frmMeldung"), fensterBreite, fensterHoehe,
+                  Qt::Dialog | Qt::FramelessWindowHint),
+      pnlPic_(new Panel(this, QStringLiteral("pnlPic"))),
+      pnlNr_(new Panel(this, QStringLiteral("pnlNr"))),
+      lblNr_(new QLabel(pnlNr_)),
+      lblMeldung_(new Textschild(this, QStringLiteral("lblMeldung"))),
+      cmdKenntnis_(new QPushButton(this)) {
+    // A message may interrupt a long step; the pointer mustn't go on saying "wait".
+    while (QGuiApplication::overrideCursor() != nullptr) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+    HintergrundLaden("MELDUNG.bmp");
+    TwipsGeometrie(pnlPic_, 2265, 270, 480, 480);
+    pnlPic_->setFrameShape(QFrame::NoFrame);
+    pnlPic_->setAttribute(Qt::WA_NoSystemBackground);
+    pnlPic_->setFarben(Qt::transparent, Qt::black);
+    TwipsGeometrie(lblMeldung_, 60, 930, 4875, 1035);
+    TwipsGeometrie(pnlNr_, fensterBreite - 450, 150, 360, 255);
+    lblNr_->setObjectName(QStringLiteral("lblNr"));
+    lblNr_->setGeometry(pnlNr_->rect());
+    lblNr_->setAlignment(Qt::AlignCenter);
+    lblNr_->setFont(Schrift(7.5));
+    lblNr_->setText(Anzeige(MeldungNummer));
+    lblNr_->installEventFilter(this);
+    for (int i = 0; i < static_cast<int>(picMeldung_.size()); ++i) {
+        auto* bild = SinnbildLabel(pnlPic_, "picMeldung", i, MeldungSinnbild(i));
+        bild->move(Pixel(900), 0);
+        picMeldung_[static_cast<std::size_t>(i)] = bild;
+    }
+    picMeldung_[grussBild]->installEventFilter(this);
+    TasteBauen();
+    Anordnen();
+}
+
+void frmMeldung::TasteBauen() {
+    TwipsGeometrie(cmdKenntnis_, 225, fensterHoehe - 585, fensterBreite - 450, 420);
+    cmdKenntnis_->setObjectName(QStringLiteral("cmdKenntnis"));
+    cmdKenntnis_->setDefault(true);
+    cmdKenntnis_->setFocus();
+    connect(cmdKenntnis_, &QPushButton::clicked, this, &frmMeldung::Kenntnis_Click);
+}
+
+void frmMeldung::Beschriften(const QString& text, const QString& antwort) {
+    lblMeldung_->setText(text);
+    cmdKenntnis_->setFont(PassendeSchrift(antwort, cmdKenntnis_->width() - 10));
+    // An ampersand of a caller is a character and no access key.
+    cmdKenntnis_->setText(QString(antwort).replace(QLatin1Char('&'), QLatin1String("&&")));
+    cmdKenntnis_->setAccessibleName(antwort);
+    if (MeldungBild >= 0 && MeldungBild < static_cast<int>(picMeldung_.size())) {
+        picMeldung_[static_cast<std::size_t>(MeldungBild)]->show();
+    }
+}
+
+// Done again at each painting: the window goes back to the centre and the chosen picture into its panel.
+void frmMeldung::Anordnen() {
+    Zentrieren(fensterHoehe);
+    for (std::size_t i = 1; i < picMeldung_.size(); ++i) {
+        picMeldung_[i]->move(static_cast<int>(i) == MeldungBild ? 0 : Pixel(900), 0);
+    }
+    if (MeldungBild == 0) {
+        picMeldung_[0]->move(0, 0);
+    }
+}
+
+void frmMeldung::paintEvent(QPaintEvent* ereignis) {
+    Dialoggrund::paintEvent(ereignis);
+    QPainter maler(this);
+    maler.setFont(Schrift(9));
+    const int zeilenhoehe = maler.fontMetrics().height();
+    for (int i = 0; i < gruesse_; ++i) {
+        maler.drawText(QRect(0, i * zeilenhoehe, width(), zeilenhoehe), Qt::AlignLeft,
+                       QStringLiteral("Hallo Index !"));
+    }
+    Anordnen();
+}
+
+void frmMeldung::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->key() == Qt::Key_Escape) {
+        cmdKenntnis_->click();
+        return;
+    }
+    Dialoggrund::keyPressEvent(ereignis);
+}
+
+bool frmMeldung::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (objekt == lblNr_ && ereignis->type() == QEvent::MouseButtonDblClick) {
+        done(QDialog::Rejected); // without the button's sound, and the pictures stay
+        return true;
+    }
+    // Has no use, and is to stay.
+    if (objekt == picMeldung_[grussBild] && ereignis->type() == QEvent::MouseButtonRelease) {
+        ++gruesse_;
+        update();
+        return true;
+    }
+    return Dialoggrund::eventFilter(objekt, ereignis);
+}
+
+void frmMeldung::Kenntnis_Click() {
+    for (QLabel* bild : picMeldung_) {
+        bild->hide();
+    }
+    SoundSpielen("dubb");
+    accept();
+}

@@ -1,0 +1,139 @@
+#include "dialogs/frmNachricht.h"
+
+#include "core/oberflaeche.h"
+#include "dialogs/meldung.h"
+#include "dialogs/sinnbilder.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QShowEvent>
+
+namespace {
+
+constexpr double innenBreite = 6585;
+constexpr double innenHoehe = 1950;
+constexpr double fensterHoehe = innenHoehe + titelHoeheTwips;
+constexpr double tastenBreite = 1485;
+constexpr double tastenHoehe = 450;
+constexpr double ungenutzt = -1;
+
+enum Taste { Ja, Nein, Abbrechen, Hilfe, OK };
+
+constexpr std::array<const char*, 5> worte{"Ja", "Nein", "Abbrechen", "Hilfe", "OK"};
+
+// Left edges of the buttons by button set, in twips.
+constexpr std::array<std::array<double, 5>, 5> tastenLinks{{
+    {ungenutzt, ungenutzt, ungenutzt, ungenutzt, 2565},
+    {885, 2565, ungenutzt, 4245, ungenutzt},
+    {120, 1740, 3360, 4980, ungenutzt},
+    {ungenutzt, ungenutzt, 2565, 4245, 885},
+    {885, ungenutzt, 2565, 4245, ungenutzt},
+}};
+
+} // namespace
+
+frmNachricht::frmNachricht()
+    : Dialoggrund(QStringLiteral("frmNachricht"), innenBreite, innenHoehe,
+                  Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      lblNachrichtentext_(new Textschild(this, QStringLiteral("lblNachrichtentext"))) {
+    Zentrieren(fensterHoehe, 450);
+    HintergrundLaden("NACHRICHT.bmp");
+    TwipsGeometrie(lblNachrichtentext_, 750, 255, 5295, 1155);
+    for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
+        auto* bild = SinnbildLabel(this, "picSymbol", i, NachrichtSinnbild(i));
+        bild->move(Pixel(195), Pixel(240));
+        picSymbol_[static_cast<std::size_t>(i)] = bild;
+    }
+    TastenBauen();
+}
+
+void frmNachricht::TastenBauen() {
+    constexpr std::array<double, 5> entwurfLinks{120, 1740, 3360, 4980, 2565};
+    for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
+        auto* taste = new QPushButton(QStringLiteral("&") + QLatin1String(worte[i]), this);
+        taste->setObjectName(QStringLiteral("cmdAntwort(%1)").arg(i));
+        taste->setAccessibleName(QLatin1String(worte[i]));
+        taste->setFont(Schrift(10));
+        TwipsGeometrie(taste, entwurfLinks[i], fensterHoehe - 1140, tastenBreite, tastenHoehe);
+        connect(taste, &QPushButton::clicked, this, [this, i] { Antwort_Click(static_cast<int>(i)); });
+        cmdAntwort_[i] = taste;
+    }
+}
+
+void frmNachricht::Stellen(const QString& text, const QString& titel) {
+    lblNachrichtentext_->setText(text);
+    setWindowTitle(titel);
+    TastenAnordnen();
+}
+
+// Done again at each painting. A button out of use isn't hidden but stands below the window's edge; a set
+// that doesn't exist leaves the buttons where they are.
+void frmNachricht::TastenAnordnen() {
+    if (NachrichtTasten < 0 || NachrichtTasten >= static_cast<int>(tastenLinks.size())) {
+        return;
+    }
+    const auto& links = tastenLinks[static_cast<std::size_t>(NachrichtTasten)];
+    for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
+        QPushButton* taste = cmdAntwort_[i];
+        const bool inGebrauch = links[i] >= 0;
+        const int x = inGebrauch ? Pixel(links[i]) : taste->x();
+        const QPoint ort(x, Pixel(inGebrauch ? fensterHoehe - 930 : fensterHoehe + 60));
+        if (taste->pos() != ort) {
+            taste->move(ort);
+        }
+        taste->setEnabled(inGebrauch);
+    }
+}
+
+void frmNachricht::BildZeigen(bool sichtbar) {
+    if (NachrichtBild >= 1 && NachrichtBild < static_cast<int>(picSymbol_.size())) {
+        picSymbol_[static_cast<std::size_t>(NachrichtBild)]->setVisible(sichtbar);
+    }
+}
+
+void frmNachricht::paintEvent(QPaintEvent* ereignis) {
+    Dialoggrund::paintEvent(ereignis);
+    TastenAnordnen();
+}
+
+void frmNachricht::showEvent(QShowEvent* ereignis) {
+    Dialoggrund::showEvent(ereignis);
+    if (ereignis->spontaneous()) {
+        return;
+    }
+    BildZeigen(true);
+    SoundSpielen("freiz_2");
+    for (const Taste erste : {Ja, OK}) {
+        if (cmdAntwort_[erste]->isEnabled()) {
+            cmdAntwort_[erste]->setFocus();
+            return;
+        }
+    }
+}
+
+void frmNachricht::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->key() == Qt::Key_Escape && cmdAntwort_[Abbrechen]->isEnabled()) {
+        cmdAntwort_[Abbrechen]->click();
+        return;
+    }
+    Dialoggrund::keyPressEvent(ereignis);
+}
+
+// Closing by the frame: no answer, the old one stays.
+void frmNachricht::reject() {
+    BildZeigen(false);
+    done(QDialog::Rejected);
+}
+
+void frmNachricht::Antwort_Click(int taste) {
+    constexpr std::array<int, 5> antworten{antwortJa, antwortNein, antwortAbbrechen, 0, antwortOK};
+    if (taste == Abbrechen) {
+        SoundSpielen("clack");
+    }
+    // Hilfe gives no help: the question stays, without its picture.
+    if (taste != Hilfe) {
+        done(QDialog::Accepted);
+        NachrichtAntwort = static_cast<std::int16_t>(antworten[static_cast<std::size_t>(taste)]);
+    }
+    BildZeigen(false);
+}

@@ -1,0 +1,45 @@
+#include "dialogs/modal.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QWindow>
+
+#include <utility>
+
+namespace {
+
+ModalHandler vertreter;
+
+// The window that the dialog has to stay above: the active one, or any other of the program's that shows.
+QWidget* Bezugsfenster(const QDialog& dialog) {
+    if (QWidget* aktiv = QApplication::activeWindow(); aktiv != nullptr && aktiv != &dialog) {
+        return aktiv;
+    }
+    for (QWidget* fenster : QApplication::topLevelWidgets()) {
+        if (fenster != &dialog && fenster->isVisible() && fenster->windowType() == Qt::Window) {
+            return fenster;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+int ModalZeigen(QDialog& dialog) {
+    if (vertreter && vertreter(dialog)) {
+        return dialog.result();
+    }
+    if (dialog.isVisible()) {
+        return dialog.result(); // it is being answered already
+    }
+    // A dialog that outlives the windows it is shown over can't be their child; the window system is told.
+    if (QWidget* bezug = Bezugsfenster(dialog); bezug != nullptr && dialog.parentWidget() == nullptr) {
+        dialog.winId();
+        dialog.windowHandle()->setTransientParent(bezug->windowHandle());
+    }
+    return dialog.exec();
+}
+
+void ModalHandlerSetzen(ModalHandler handler) {
+    vertreter = std::move(handler);
+}
