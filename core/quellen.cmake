@@ -1,4 +1,4 @@
-feldkranz_quellen(modell core/laufzeitfehler.cpp)
+feldkranz_quellen(modell core/cp1252.cpp core/cp1252_ersatz.cpp core/laufzeitfehler.cpp core/pfadname.cpp)
 feldkranz_quellen(rand core/datei.cpp core/ordner.cpp core/pfad.cpp)
 if(WIN32)
   feldkranz_quellen(rand core/plattform_windows.cpp)

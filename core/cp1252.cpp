@@ -1,0 +1,159 @@
+#include "core/cp1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace {
+
+// Characters of the bytes 0x80 to 0x9F; the five holes are the control characters of the same value.
+constexpr std::array<char32_t, 32> oberesFeld{0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                              0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                              0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                              0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+// Base letter and composed letter in turn, for the combining marks that the code page knows composed.
+struct Zusammensetzung {
+    char32_t zeichen;
+    std::u32string_view paare;
+};
+constexpr std::array<Zusammensetzung, 8> zusammensetzungen{{{0x0300, U"AÀEÈIÌOÒUÙaàeèiìoòuù"},
+                                                            {0x0301, U"AÁEÉIÍOÓUÚYÝaáeéiíoóuúyý"},
+                                                            {0x0302, U"AÂEÊIÎOÔUÛaâeêiîoôuû"},
+                                                            {0x0303, U"AÃNÑOÕaãnñoõ"},
+                                                            {0x0308, U"AÄEËIÏOÖUÜYŸaäeëiïoöuüyÿ"},
+                                                            {0x030A, U"AÅaå"},
+                                                            {0x030C, U"SŠZŽsšzž"},
+                                                            {0x0327, U"CÇcç"}}};
+
+constexpr char32_t keinZeichen = 0xFFFFFFFF;
+
+// Length of the run of ASCII bytes at the beginning, 32 bytes a step: most text has no others at all.
+std::size_t AsciiLaenge(std::string_view text) {
+    constexpr std::uint64_t hoheBits = 0x8080808080808080ULL;
+    std::size_t stelle = 0;
+    for (std::array<std::uint64_t, 4> stueck{}; stelle + sizeof stueck <= text.size();
+         stelle += sizeof stueck) {
+        std::memcpy(stueck.data(), text.data() + stelle, sizeof stueck);
+        if (((stueck[0] | stueck[1] | stueck[2] | stueck[3]) & hoheBits) != 0) {
+            break;
+        }
+    }
+    while (stelle < text.size() && static_cast<unsigned char>(text[stelle]) < 0x80) {
+        ++stelle;
+    }
+    return stelle;
+}
+
+void Utf8Anhaengen(std::string& ziel, char32_t zeichen) {
+    const auto teil = [&](unsigned vorsatz, unsigned bits) {
+        ziel += static_cast<char>(vorsatz | (static_cast<unsigned>(zeichen >> bits) & 0x3FU));
+    };
+    if (zeichen < 0x800) {
+        teil(0xC0, 6);
+    } else {
+        teil(0xE0, 12);
+        teil(0x80, 6);
+    }
+    teil(0x80, 0);
+}
+
+// Takes one character off the front; a byte that begins none is keinZeichen.
+char32_t Utf8Nehmen(std::string_view& text) {
+    const auto erstes = static_cast<unsigned char>(text.front());
+    std::size_t laenge = erstes < 0x80 ? 1U : erstes >= 0xF0 ? 4U : erstes >= 0xE0 ? 3U : 2U;
+    constexpr std::array<unsigned, 5> maske{0, 0x7F, 0x1F, 0x0F, 0x07};
+    constexpr std::array<char32_t, 5> kleinstes{0, 0, 0x80, 0x800, 0x10000};
+    char32_t zeichen = erstes & maske[laenge];
+    bool gut = (erstes < 0x80 || erstes >= 0xC2) && erstes < 0xF5 && laenge <= text.size();
+    for (std::size_t i = 1; gut && i < laenge; ++i) {
+        const auto folge = static_cast<unsigned char>(text[i]);
+        gut = (folge & 0xC0U) == 0x80U;
+        zeichen = (zeichen << 6) | (folge & 0x3FU);
+    }
+    gut = gut && zeichen >= kleinstes[laenge];
+    text.remove_prefix(gut ? laenge : 1);
+    return gut ? zeichen : keinZeichen;
+}
+
+// The byte of a character, -1 where the code page doesn't hold it.
+int Byte(char32_t zeichen) {
+    if (zeichen < 0x80 || (zeichen >= 0xA0 && zeichen <= 0xFF)) {
+        return static_cast<int>(zeichen);
+    }
+    const auto* const fund = std::find(oberesFeld.begin(), oberesFeld.end(), zeichen);
+    return fund == oberesFeld.end() ? -1 : 0x80 + static_cast<int>(fund - oberesFeld.begin());
+}
+
+bool Kombinierend(char32_t zeichen) {
+    return (zeichen >= 0x0300 && zeichen <= 0x036F) || (zeichen >= 0x200B && zeichen <= 0x200D) ||
+           zeichen == 0x2060 || zeichen == 0xFEFF || (zeichen >= 0xFE00 && zeichen <= 0xFE0F);
+}
+
+// A letter followed by a combining mark becomes one letter; a mark without such a partner is dropped.
+void Verbinden(std::string& ziel, char32_t marke) {
+    const auto* const reihe =
+        std::find_if(zusammensetzungen.begin(), zusammensetzungen.end(),
+                     [marke](const Zusammensetzung& eintrag) { return eintrag.zeichen == marke; });
+    if (reihe == zusammensetzungen.end() || ziel.empty()) {
+        return;
+    }
+    for (std::size_t i = 0; i + 1 < reihe->paare.size(); i += 2) {
+        if (Byte(reihe->paare[i]) == static_cast<unsigned char>(ziel.back())) {
+            ziel.back() = static_cast<char>(Byte(reihe->paare[i + 1]));
+            return;
+        }
+    }
+}
+
+void ByteAnhaengen(std::string& ziel, char32_t zeichen) {
+    if (const int byte = Byte(zeichen); byte >= 0) {
+        ziel += static_cast<char>(byte);
+    } else if (Kombinierend(zeichen)) {
+        Verbinden(ziel, zeichen);
+    } else {
+        const std::string ersatz = zeichen == keinZeichen ? std::string() : Ersatzzeichen(zeichen);
+        ziel += ersatz.empty() ? "?" : NachCp1252(ersatz);
+    }
+}
+
+} // namespace
+
+void AusCp1252Anhaengen(std::string& ziel, std::string_view bytes) {
+    while (true) {
+        const std::size_t lauf = AsciiLaenge(bytes);
+        ziel.append(bytes.data(), lauf);
+        bytes.remove_prefix(lauf);
+        if (bytes.empty()) {
+            return;
+        }
+        const auto byte = static_cast<unsigned char>(bytes.front());
+        Utf8Anhaengen(ziel, byte < 0xA0 ? oberesFeld[byte - 0x80U] : byte);
+        bytes.remove_prefix(1);
+    }
+}
+
+std::string AusCp1252(std::string_view bytes) {
+    std::string ergebnis;
+    AusCp1252Anhaengen(ergebnis, bytes);
+    return ergebnis;
+}
+
+std::string NachCp1252(std::string_view utf8) {
+    std::string ergebnis;
+    while (true) {
+        const std::size_t lauf = AsciiLaenge(utf8);
+        ergebnis.append(utf8.data(), lauf);
+        utf8.remove_prefix(lauf);
+        if (utf8.empty()) {
+            return ergebnis;
+        }
+        ByteAnhaengen(ergebnis, Utf8Nehmen(utf8));
+    }
+}
+
+bool InCp1252(char32_t zeichen) {
+    return Byte(zeichen) >= 0;
+}

@@ -1,0 +1,98 @@
+#include "core/pfadname.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// Letters whose two cases don't lie 32 apart, and the pairs that only look as if they did.
+struct Buchstabenpaar {
+    std::string_view gross, klein;
+};
+constexpr std::array<Buchstabenpaar, 4> sonderpaare{{{"Š", "š"}, {"Ž", "ž"}, {"Œ", "œ"}, {"Ÿ", "ÿ"}}};
+
+constexpr char vorsatz = static_cast<char>(0xC3); // first byte of À to ÿ
+constexpr unsigned maldurch = 0x97;               // second byte of × (and of ÷, 32 further): no letters
+
+std::string Umwandeln(std::string_view text, char erstes, unsigned erstesHohes, bool nachGross) {
+    std::string ergebnis(text);
+    const unsigned abstand = 32;
+    const auto verschoben = [&](char zeichen) {
+        const auto wert = static_cast<unsigned char>(zeichen);
+        return static_cast<char>(nachGross ? wert - abstand : wert + abstand);
+    };
+    for (std::size_t i = 0; i < ergebnis.size(); ++i) {
+        if (ergebnis[i] >= erstes && ergebnis[i] <= erstes + 25) {
+            ergebnis[i] = verschoben(ergebnis[i]);
+        } else if (static_cast<unsigned char>(ergebnis[i]) >= 0xC2 && i + 1 < ergebnis.size()) {
+            const unsigned zweites = static_cast<unsigned char>(ergebnis[i + 1]);
+            const std::string_view paar(&ergebnis[i], 2);
+            const auto* const sonder =
+                std::find_if(sonderpaare.begin(), sonderpaare.end(),
+                             [&](const auto& p) { return (nachGross ? p.klein : p.gross) == paar; });
+            if (sonder != sonderpaare.end()) {
+                ergebnis.replace(i, 2, nachGross ? sonder->gross : sonder->klein);
+            } else if (ergebnis[i] == vorsatz && zweites >= erstesHohes && zweites < erstesHohes + 31 &&
+                       zweites != (nachGross ? maldurch + abstand : maldurch)) {
+                ergebnis[i + 1] = verschoben(ergebnis[i + 1]);
+            }
+            ++i;
+        }
+    }
+    return ergebnis;
+}
+
+} // namespace
+
+std::string NurDateiname(std::string_view pfad) {
+    return std::string(pfad.substr(pfad.rfind('\\') + 1));
+}
+
+std::string Dateiendung(std::string_view name) {
+    const auto punkt = name.rfind('.');
+    return punkt == std::string_view::npos ? std::string() : std::string(name.substr(punkt));
+}
+
+PfadTeile PfadZerlegen(std::string_view pfad) {
+    PfadTeile teile{"?", "?", "?", "?"};
+    // The second character, not byte: the first one may take several.
+    std::size_t zweites = pfad.empty() ? 0 : 1;
+    while (zweites < pfad.size() && (static_cast<unsigned char>(pfad[zweites]) & 0xC0U) == 0x80U) {
+        ++zweites;
+    }
+    if (zweites < pfad.size() && pfad[zweites] == ':') {
+        std::size_t ende = std::min(zweites + 2, pfad.size());
+        while (ende < pfad.size() && (static_cast<unsigned char>(pfad[ende]) & 0xC0U) == 0x80U) {
+            ++ende;
+        }
+        teile.laufwerk = pfad.substr(0, ende);
+        pfad.remove_prefix(ende);
+    }
+    const auto strich = pfad.rfind('\\');
+    if (strich == std::string_view::npos) {
+        return teile;
+    }
+    teile.ordner = pfad.substr(0, strich + 1);
+    const std::string_view name = pfad.substr(strich + 1);
+    if (const auto punkt = name.rfind('.'); punkt != std::string_view::npos) {
+        teile.name = name.substr(0, punkt);
+        teile.endung = name.substr(punkt);
+    }
+    return teile;
+}
+
+std::string Grossschreiben(std::string_view text) {
+    return Umwandeln(text, 'a', 0xA0, true);
+}
+
+std::string Kleinschreiben(std::string_view text) {
+    return Umwandeln(text, 'A', 0x80, false);
+}
+
+std::string Getrimmt(std::string_view text) {
+    const auto anfang = text.find_first_not_of(' ');
+    if (anfang == std::string_view::npos) {
+        return {};
+    }
+    return std::string(text.substr(anfang, text.find_last_not_of(' ') - anfang + 1));
+}

@@ -1,0 +1,68 @@
+#include "core/pfadname.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+TEST(Pfadname, TheFileNameIsThePartBehindTheLastBackslash) {
+    EXPECT_EQ(NurDateiname("C:\\KRANZ\\HERBST.FKR"), "HERBST.FKR");
+    EXPECT_EQ(NurDateiname("HERBST.FKR"), "HERBST.FKR");
+    EXPECT_EQ(NurDateiname("C:\\KRANZ\\"), "");
+    EXPECT_EQ(NurDateiname("\\home\\jörg\\Übung.fkr"), "Übung.fkr");
+    EXPECT_EQ(NurDateiname(""), "");
+}
+
+TEST(Pfadname, TheExtensionGoesFromTheLastPointToTheEnd) {
+    EXPECT_EQ(Dateiendung("HERBST.FKR"), ".FKR");
+    EXPECT_EQ(Dateiendung("A.B.C"), ".C");
+    EXPECT_EQ(Dateiendung("OHNE"), "");
+    EXPECT_EQ(Dateiendung("PUNKT."), ".");
+}
+
+TEST(PfadZerlegen, TakesEveryPathApartAsDescribed) {
+    struct Zeile {
+        std::string_view pfad, laufwerk, ordner, name, endung;
+    };
+    constexpr std::array<Zeile, 10> zeilen{{
+        {"C:\\PROG\\KRANZ\\HERBST.FKR", "C:\\", "PROG\\KRANZ\\", "HERBST", ".FKR"},
+        {"C:\\HERBST.FKR", "C:\\", "?", "?", "?"},
+        {"C:\\PROG\\OHNE", "C:\\", "PROG\\", "?", "?"},
+        {"\\home\\kranz\\herbst.fkr", "?", "\\home\\kranz\\", "herbst", ".fkr"},
+        {"HERBST.FKR", "?", "?", "?", "?"},
+        {"C:\\A\\B.C.D", "C:\\", "A\\", "B.C", ".D"},
+        {"C:", "C:", "?", "?", "?"},
+        {"", "?", "?", "?", "?"},
+        {"C:\\A\\", "C:\\", "A\\", "?", "?"},
+        {"Ä:\\A\\B.C", "Ä:\\", "A\\", "B", ".C"},
+    }};
+    for (const Zeile& zeile : zeilen) {
+        const PfadTeile teile = PfadZerlegen(zeile.pfad);
+        EXPECT_EQ(teile.laufwerk, zeile.laufwerk) << zeile.pfad;
+        EXPECT_EQ(teile.ordner, zeile.ordner) << zeile.pfad;
+        EXPECT_EQ(teile.name, zeile.name) << zeile.pfad;
+        EXPECT_EQ(teile.endung, zeile.endung) << zeile.pfad;
+    }
+}
+
+TEST(Schreibweise, LettersOfTheCodePageChangeTheirCase) {
+    EXPECT_EQ(Grossschreiben("jörg àÿ šžœ þ.fkr"), "JÖRG ÀŸ ŠŽŒ Þ.FKR");
+    EXPECT_EQ(Kleinschreiben("JÖRG ÀŸ ŠŽŒ Þ.FKR"), "jörg àÿ šžœ þ.fkr");
+}
+
+TEST(Schreibweise, WhatHasNoOtherCaseStays) {
+    EXPECT_EQ(Grossschreiben("ß÷×µ12[]{}"), "ß÷×µ12[]{}");
+    EXPECT_EQ(Kleinschreiben("ß÷×µ12[]{}"), "ß÷×µ12[]{}");
+    EXPECT_EQ(Grossschreiben("€uro 日本x"), "€URO 日本X");
+    EXPECT_EQ(Kleinschreiben("€URO 日本X"), "€uro 日本x");
+}
+
+TEST(Schreibweise, TrimmingTakesBlanksAtBothEndsOnly) {
+    EXPECT_EQ(Getrimmt("  [FRAGEN] x "), "[FRAGEN] x");
+    EXPECT_EQ(Getrimmt("   "), "");
+    EXPECT_EQ(Getrimmt(""), "");
+    EXPECT_EQ(Getrimmt("\tx"), "\tx");
+}
+
+} // namespace
