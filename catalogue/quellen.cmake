@@ -1,0 +1,1 @@
+feldkranz_quellen(modell catalogue/katalogdatei.cpp catalogue/themen.cpp)

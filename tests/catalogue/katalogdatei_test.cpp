@@ -1,0 +1,154 @@
+#include "catalogue/katalogdatei.h"
+#include "core/laufzeitfehler.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using Spalte = std::vector<std::string>;
+
+// Number of the run-time error that a reading ends in, 0 for none.
+int Fehlernummer(const std::function<void()>& lauf) {
+    try {
+        lauf();
+    } catch (const Laufzeitfehler& fehler) {
+        return fehler.nummer();
+    }
+    return 0;
+}
+
+std::string Namen(int anzahl, const std::string& vorsatz = "Name ") {
+    std::string bytes = "Kopfzeile\r\n";
+    for (int i = 1; i <= anzahl; ++i) {
+        bytes += vorsatz + std::to_string(i) + "\r\n";
+    }
+    return bytes;
+}
+
+TEST(Fragendatei, FourLinesMakeAQuestion) {
+    Fragenliste liste;
+    FragenLesen(
+        "Kopf, egal\r\n1\r\nWo liegt \"K\xF6ln\", genau?\r\nAm Rhein\r\n3\r\n2\r\nWer?\r\n  Ich \r\n\r\n",
+        false, liste);
+    EXPECT_EQ(liste.nr, (Spalte{"1", "2"}));
+    EXPECT_EQ(liste.frage, (Spalte{"Wo liegt \"Köln\", genau?", "Wer?"}));
+    EXPECT_EQ(liste.antwort, (Spalte{"Am Rhein", "  Ich "}));
+    EXPECT_EQ(liste.punkte, (Spalte{"3", ""}));
+}
+
+TEST(Fragendatei, AHeaderAloneGivesEmptyListsAndNoError) {
+    Fragenliste liste;
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("Kopf\r\n", false, liste); }), 0);
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("Kopf", true, liste); }), 0);
+    EXPECT_TRUE(liste.nr.empty());
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("", false, liste); }), 62);
+}
+
+TEST(Fragendatei, ARecordCutBehindItsQuestionIsLostAndTheOthersStay) {
+    Fragenliste liste;
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF1\r\nA1\r\n1\r\n2\r\nF2\r\n", false, liste); }), 62);
+    EXPECT_EQ(liste.frage, Spalte{"F1"});
+    EXPECT_EQ(liste.nr.size(), liste.punkte.size());
+}
+
+TEST(Fragendatei, TheLastLineNeedsNoLineEnd) {
+    Fragenliste liste;
+    FragenLesen("K\r\n1\r\nF\r\nA\r\n5", false, liste);
+    EXPECT_EQ(liste.punkte, Spalte{"5"});
+}
+
+TEST(Fragendatei, RecordsAreAppendedToWhatTheListHolds) {
+    Fragenliste liste;
+    FragenLesen("K\r\n1\r\nF\r\nA\r\n5\r\n", false, liste);
+    FragenLesen("K\r\n1\r\nG\r\nB\r\n6\r\n", false, liste);
+    EXPECT_EQ(liste.frage, (Spalte{"F", "G"}));
+}
+
+constexpr std::string_view mitKommentar = "K\r\n1\r\n'Notiz\r\nF\r\nA\r\n2\r\n";
+
+TEST(Fragendatei, AnApostropheLineOfLandIsAValueAndShiftsTheOthersByOne) {
+    Fragenliste liste;
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen(mitKommentar, ThemaSuchen("Land")->kommentarzeilen, liste); }),
+              62);
+    EXPECT_EQ(liste.frage, Spalte{"'Notiz"});
+    EXPECT_EQ(liste.antwort, Spalte{"F"});
+    EXPECT_EQ(liste.punkte, Spalte{"A"});
+}
+
+TEST(Fragendatei, TheSameApostropheLineOfAufgabenIsSkipped) {
+    Fragenliste liste;
+    FragenLesen(mitKommentar, ThemaSuchen("- Aufgaben -")->kommentarzeilen, liste);
+    EXPECT_EQ(liste.frage, Spalte{"F"});
+    EXPECT_EQ(liste.punkte, Spalte{"2"});
+}
+
+TEST(Fragendatei, AnyNumberOfCommentLinesMayStandAheadOfEachLineButNotOfTheHeader) {
+    Fragenliste liste;
+    FragenLesen("'Kopf\r\n'a\r\n'b\r\n1\r\n'c\r\nF\r\n'd\r\n 'A\r\n''\r\n'\r\n9\r\n", true, liste);
+    EXPECT_EQ(liste.nr, Spalte{"1"});
+    EXPECT_EQ(liste.antwort, Spalte{" 'A"}) << "only a first character makes a comment";
+    EXPECT_EQ(liste.punkte, Spalte{"9"});
+}
+
+TEST(Fragendatei, ACommentBehindTheLastRecordLosesNothing) {
+    Fragenliste liste;
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF\r\nA\r\n2\r\n'Ende\r\n", true, liste); }), 62);
+    EXPECT_EQ(liste.nr, Spalte{"1"});
+}
+
+TEST(Fragendatei, AnEmptyLineBehindTheLastRecordLosesNothing) {
+    Fragenliste liste;
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF\r\nA\r\n2\r\n\r\n", false, liste); }), 62);
+    EXPECT_EQ(liste.nr, Spalte{"1"});
+}
+
+TEST(Fragendatei, CutAtEveryByteItKeepsWholeRecordsOnly) {
+    const std::string ganz = "Kopf\r\n1\r\nF1\r\nA1\r\n1\r\n2\r\nF2\r\nA2\r\n2\r\n";
+    for (std::size_t laenge = 0; laenge <= ganz.size(); ++laenge) {
+        Fragenliste liste;
+        const int nummer =
+            Fehlernummer([&] { FragenLesen(std::string_view(ganz).substr(0, laenge), false, liste); });
+        EXPECT_TRUE(nummer == 0 || nummer == 62) << laenge;
+        EXPECT_EQ(liste.nr.size(), liste.punkte.size()) << laenge;
+        EXPECT_EQ(liste.nr.size(), laenge < 18 ? 0U : laenge < 32 ? 1U : 2U) << laenge;
+    }
+}
+
+TEST(Themenliste, TakesTwentyLinesWholeBehindTheHeader) {
+    Namensliste liste;
+    ThemenlisteLesen(Namen(25, " \"T\", "), liste);
+    EXPECT_EQ(liste[0], "");
+    EXPECT_EQ(liste[1], " \"T\", 1");
+    EXPECT_EQ(liste[20], " \"T\", 20");
+}
+
+TEST(Themenliste, WithTooFewNamesThePlacesNotReachedKeepWhatTheyHeld) {
+    Namensliste liste;
+    liste.fill("alt");
+    EXPECT_EQ(Fehlernummer([&] { ThemenlisteLesen("Kopf\r\nH\xE4uptlingsbuch\r\n\r\n", liste); }), 62);
+    EXPECT_EQ(liste[1], "Häuptlingsbuch");
+    EXPECT_EQ(liste[2], "");
+    EXPECT_EQ(liste[3], "alt");
+}
+
+TEST(Unterthemenliste, IsReadTokenByToken) {
+    Namensliste liste;
+    UnterthemenlisteLesen("Kopf\r\n\"Erste Hilfe\"\r\nRot, Gr\xFCn\r\n\r\n" + Namen(20), liste);
+    EXPECT_EQ(liste[1], "Erste Hilfe");
+    EXPECT_EQ(liste[2], "Rot");
+    EXPECT_EQ(liste[3], "Grün");
+    EXPECT_EQ(liste[4], "");
+    EXPECT_EQ(liste[5], "Kopfzeile");
+    EXPECT_EQ(liste[20], "Name 15");
+}
+
+TEST(Unterthemenliste, WithFewerThanTwentyNamesEndsInError62) {
+    Namensliste liste;
+    EXPECT_EQ(Fehlernummer([&] { UnterthemenlisteLesen(Namen(19), liste); }), 62);
+    EXPECT_EQ(liste[19], "Name 19");
+    EXPECT_EQ(Fehlernummer([&] { UnterthemenlisteLesen(Namen(20), liste); }), 0);
+}
+
+} // namespace
