@@ -2,6 +2,8 @@
 # modell links no Qt, so that a toolkit type in the model is a build error.
 add_library(modell STATIC)
 target_link_libraries(modell PUBLIC warnungen)
+# In the other layers the toolkit's own inline pointers would raise it.
+target_compile_options(modell PRIVATE -Wnull-dereference)
 target_include_directories(modell PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/erzeugt")
 
 add_library(rand STATIC)

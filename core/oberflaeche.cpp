@@ -51,13 +51,27 @@ std::string Modelltext(const QString& text) {
     return modell.toStdString();
 }
 
-QColor Systemflaeche() { return QGuiApplication::palette().color(QPalette::Active, QPalette::Button); }
+QColor Systemflaeche() {
+    return QGuiApplication::palette().color(QPalette::Active, QPalette::Button);
+}
 
 QFont Schrift(double punkt, bool fett) {
     QFont schrift(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
     schrift.setPixelSize(static_cast<int>(std::lround(punkt * 96.0 / 72.0)));
     schrift.setBold(fett);
     return schrift;
+}
+
+void SanduhrZeigen() {
+    if (QGuiApplication::overrideCursor() == nullptr) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+}
+
+void NormalerZeiger() {
+    while (QGuiApplication::overrideCursor() != nullptr) {
+        QGuiApplication::restoreOverrideCursor();
+    }
 }
 
 void OberflaecheEinrichten() {
@@ -79,7 +93,9 @@ QSize Bildschirmgroesse(const QWidget* fenster) {
     return schirm != nullptr ? schirm->size() : QSize(1280, 1024);
 }
 
-void BildschirmgroesseVorgeben(QSize groesse) { vorgegebeneGroesse = groesse; }
+void BildschirmgroesseVorgeben(QSize groesse) {
+    vorgegebeneGroesse = groesse;
+}
 
 void TwipsGeometrie(QWidget* steuerelement, double links, double oben, double breite, double hoehe) {
     const int x = Pixel(links);

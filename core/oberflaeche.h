@@ -34,6 +34,10 @@ class QWidget;
 // windows' measures are, so that captions fit whatever resolution the desktop claims.
 [[nodiscard]] QFont Schrift(double punkt, bool fett = false);
 
+// Mouse pointer to the hourglass, and back to normal. Either may be called twice.
+void SanduhrZeigen();
+void NormalerZeiger();
+
 // Fusion style, the one light palette and the toolkit's own texts in German. Once, before the first window.
 void OberflaecheEinrichten();
 

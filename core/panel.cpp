@@ -37,9 +37,13 @@ void Panel::setFarben(const QColor& grund, const QColor& schrift) {
     update();
 }
 
-QColor Panel::grund() const { return grund_.isValid() ? grund_ : Systemflaeche(); }
+QColor Panel::grund() const {
+    return grund_.isValid() ? grund_ : Systemflaeche();
+}
 
-QColor Panel::schrift() const { return schrift_.isValid() ? schrift_ : palette().color(QPalette::ButtonText); }
+QColor Panel::schrift() const {
+    return schrift_.isValid() ? schrift_ : palette().color(QPalette::ButtonText);
+}
 
 void Panel::setAusrichtung(Qt::Alignment ausrichtung) {
     ausrichtung_ = ausrichtung;

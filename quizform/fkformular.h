@@ -2,6 +2,9 @@
 // copy and the window together. Each does nothing where it needs an open window and there is none.
 #pragma once
 
+#include "catalogue/themen.h"
+
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -16,6 +19,8 @@ void FK_Neu();
 void FK_FormularZeigen(std::string_view titel);
 // Caption of the open form.
 void FK_FenstertitelSetzen(std::string_view titel);
+// Closes the window with its closing check; true when it is gone.
+bool FK_Schliessen();
 // Closes the window without asking; what is on it is discarded.
 void FK_Entladen();
 
@@ -24,6 +29,8 @@ void FK_KopfLeeren();
 void FK_TitelLeeren();
 void FK_ModusSetzen();
 void FK_Merken();
+// The three boxes of the head into FormNr, FormDatum and FormZeit.
+void FK_KopfMerken();
 void FK_AlleFelderZeigen();
 void FK_AlleSpezialZeigen();
 void FK_FragenRegel();
@@ -46,10 +53,14 @@ std::string FK_Frage(int n);
 std::string FK_Antwort(int n);
 void FK_FeldLeeren(int n);
 
+// Places a question in a cell, as a drop does: asks where the cell is occupied, takes the answer from where
+// DragArt and DragFeld say.
+void FK_Ablegen(int n, const std::string& frage);
+
 // What of the form the printing needs and only the window knows; false and empty without a form.
 bool FK_FrageSichtbar(int n);
 bool FK_AntwortSichtbar(int n);
 bool FK_GebietBenutzbar(int a);
 
-// Fills the list of titles anew with the twenty entries of the list last read, without a leading "".
-void FK_TitellisteFuellen(bool ausHaeuptlingsbuch);
+// Fills the list of titles anew with the twenty entries of a list (index 0 isn't used), without a leading "".
+void FK_TitellisteFuellen(const std::array<std::string, anzahlListenplaetze + 1>& liste);

@@ -1,0 +1,143 @@
+#include "core/ablage.h"
+
+#include "catalogue/auswahl.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+#include "core/panel.h"
+#include "core/ziehen.h"
+#include "core/zustand.h"
+#include "dialogs/meldung.h"
+#include "periphery/hinweise.h"
+#include "quizform/fkformular.h"
+#include "quizform/texte.h"
+#include "quizform/ziehregeln.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+
+namespace {
+
+QPointer<Panel> pnlCopyF;
+QPointer<Panel> pnlCopyA;
+
+constexpr std::string_view tippFrage =
+    "In dieses Feld können mit [Shift]+Linksklick Fragen aus dem Formular gezogen werden.\r\n"
+    "Die Antwort wird automatisch in das Feld 'Antwort' (rechts) übernommen.\r\n"
+    "(Kann mit Doppelklick gelöscht werden.)";
+constexpr std::string_view tippAntwort =
+    "Antwort zur abgelegten Frage.\r\n(Kann mit Doppelklick gelöscht werden.)";
+constexpr std::string_view status = " Ablage für Fragen";
+
+// A press on the parked question. True when it was more than an ordinary click.
+bool Druck(Qt::KeyboardModifiers tasten) {
+    DragHerkunft = "FKFragen";
+    const ZiehBeginn beginn =
+        ZiehBeginnFuer(tasten.testFlag(Qt::ShiftModifier), tasten.testFlag(Qt::ControlModifier),
+                       tasten.testFlag(Qt::AltModifier), "", false);
+    if (beginn.art == 0) {
+        return false;
+    }
+    if (AblageFrage().empty()) {
+        Systemkasten(Kastenart::Schlicht, "", fktexte::keineFrage);
+        return true;
+    }
+    DragArt = beginn.art;
+    DragFeld = 0;
+    Ziehen(pnlCopyF, AblageFrage());
+    return true;
+}
+
+class Druckwaechter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
+        if (ereignis->type() == QEvent::MouseButtonPress) {
+            return Druck(static_cast<QMouseEvent*>(ereignis)->modifiers());
+        }
+        return QObject::eventFilter(objekt, ereignis);
+    }
+};
+
+Panel* PanelBauen(QWidget* hilfepanel, const char* name, std::string_view tipp) {
+    auto* panel = new Panel(hilfepanel, QLatin1String(name));
+    panel->setAusrichtung(Qt::AlignLeft);
+    panel->setFrameShadow(QFrame::Sunken);
+    panel->setFont(Schrift(8.25));
+    HinweisSetzen(panel, tipp, "Hilfe", status);
+    QObject::connect(panel, &Panel::doppeltGeklickt, panel, [] { AblageLeeren(); });
+    return panel;
+}
+
+} // namespace
+
+std::string AblageFrage() {
+    return pnlCopyF.isNull() ? std::string() : Modelltext(pnlCopyF->caption());
+}
+
+std::string AblageAntwort() {
+    return pnlCopyA.isNull() ? std::string() : Modelltext(pnlCopyA->caption());
+}
+
+void AblageBauen(QWidget* hilfepanel) {
+    pnlCopyF = PanelBauen(hilfepanel, "pnlCopyF", tippFrage);
+    pnlCopyA = PanelBauen(hilfepanel, "pnlCopyA", tippAntwort);
+    pnlCopyF->setFocusPolicy(Qt::TabFocus);
+    pnlCopyF->installEventFilter(new Druckwaechter(pnlCopyF));
+    TastenEinrichten(pnlCopyF, [](Qt::KeyboardModifiers tasten) { Druck(tasten); });
+    ZielEinrichten(pnlCopyF, ZiehBild::Ablegen, [] { AblageAblegen(GezogeneFrage(), false); });
+    ZielEinrichten(hilfepanel, ZiehBild::Ablegen, [] { AblageAblegen(GezogeneFrage(), true); });
+}
+
+void AblageAnordnen() {
+    if (pnlCopyF.isNull()) {
+        return;
+    }
+    constexpr int links = 3600;
+    constexpr int breite = 2400;
+    TwipsGeometrie(pnlCopyF, links, 45, breite, 285);
+    TwipsGeometrie(pnlCopyA, links + breite + 60, 45, breite / 2, 285);
+}
+
+void AblageAblegen(const std::string& frage, bool vomHilfepanel) {
+    if (pnlCopyF.isNull() || (!AblageFrage().empty() && !ErsetzenErlaubt(fktexte::ablageBesetzt))) {
+        return;
+    }
+    const bool ausForm = DragArt == 1 || DragArt == 2;
+    const std::string antwort =
+        !ausForm ? AuswahlAntwort() : (DragFeld == 0 ? AblageAntwort() : FK_Antwort(DragFeld));
+    pnlCopyF->setCaption(Anzeige(frage));
+    pnlCopyA->setCaption(Anzeige(antwort));
+    if (DragArt == 1) {
+        FK_FeldLeeren(DragFeld);
+    }
+    if (ausForm) {
+        DragArt = 0;
+    }
+    if (vomHilfepanel) {
+        pnlCopyF->show();
+    } else {
+        pnlCopyF->setFarben(Qt::white, Qt::black);
+        pnlCopyA->setFarben(Qt::white, Qt::black);
+    }
+    FK_Merken();
+    FK_FelderFaerben();
+    if (!FormTyp.empty()) {
+        FormStatusSetzen(1); // without a form there is nothing that could be saved
+    }
+}
+
+void AblageLeeren() {
+    if (!pnlCopyF.isNull()) {
+        pnlCopyF->setCaption(QString());
+        pnlCopyA->setCaption(QString());
+    }
+}
+
+bool ErsetzenErlaubt(const NachrichtText& frage) {
+    NachrichtAntwort = antwortAbbrechen;
+    do {
+        Nachricht(frage);
+    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortAbbrechen);
+    return NachrichtAntwort == antwortJa;
+}

@@ -1,0 +1,132 @@
+#include "core/befehle.h"
+
+#include "catalogue/auswahl.h"
+#include "core/formularbefehle.h"
+#include "core/hauptfenster.h"
+#include "core/texte.h"
+#include "dialogs/meldung.h"
+#include "persistence/oeffnen.h"
+#include "printing/drucken.h"
+#include "quizform/fkformular.h"
+
+#include <QAbstractButton>
+#include <QAction>
+
+#include <algorithm>
+#include <array>
+#include <new>
+
+namespace {
+
+void HilfeTaste() {
+    Meldung(kerntexte::hilfeTaste);
+}
+void HilfeMenue() {
+    Meldung(kerntexte::hilfeMenue);
+}
+void HilfeFormular() {
+    Meldung(kerntexte::hilfeFK);
+}
+void HinweisTarvo() {
+    Nachricht(kerntexte::tarvo);
+}
+void HinweisBrennek() {
+    Nachricht(kerntexte::brennek);
+}
+// The entry turns its own check mark over and has no other effect; that is meant.
+void NurHaken() {}
+
+struct Zuordnung {
+    std::string_view name;
+    Befehl befehl;
+};
+
+constexpr std::array zuordnungen{
+    Zuordnung{"cmdNeuFK", FK_Neu},
+    Zuordnung{"mDatei(1)", FK_Neu},
+    Zuordnung{"cmdDateiFK(1)", FK_Neu},
+    Zuordnung{"mDateiFK(1)", FK_Neu},
+    Zuordnung{"cmdLaden", FormularOeffnen},
+    Zuordnung{"mDatei(4)", FormularOeffnen},
+    Zuordnung{"cmdDateiFK(2)", FormularOeffnen},
+    Zuordnung{"mDateiFK(3)", FormularOeffnen},
+    Zuordnung{"cmdDateiHB(2)", FormularOeffnen},
+    Zuordnung{"mAuswahl(1)", AuswahlZeigen},
+    Zuordnung{"cmdAuswahl(0)", AuswahlZeigen},
+    Zuordnung{"cmdAuswahl(1)", AuswahlZeigen},
+    Zuordnung{"mFKFragenauswahl", AuswahlZeigen},
+    Zuordnung{"cmdDateiFK(3)", befehle::FKSpeichern},
+    Zuordnung{"mDateiFK(5)", befehle::FKSpeichern},
+    Zuordnung{"cmdDateiFK(4)", befehle::FKSpeichernUnter},
+    Zuordnung{"mDateiFK(6)", befehle::FKSpeichernUnter},
+    Zuordnung{"cmdDateiFK(5)", befehle::FKBeenden},
+    Zuordnung{"cmdDruckenFK(1)", DruckerWahl},
+    Zuordnung{"mDateiFK(10)", DruckerWahl},
+    Zuordnung{"cmdDruckenHB(1)", DruckerWahl},
+    Zuordnung{"cmdDruckenFK(2)", FormularDrucken},
+    Zuordnung{"mDateiFK(8)", FormularDrucken},
+    Zuordnung{"mDateiFK(9)", befehle::FKBlankoDrucken},
+    Zuordnung{"cmdFKFLoeschen", befehle::FKFragenLoeschen},
+    Zuordnung{"cmdFKFLaden", FK_FragenEinfuegen},
+    Zuordnung{"cmdFKSLoeschen", befehle::FKSpezialLoeschen},
+    Zuordnung{"cmdFKSLaden", FK_SpezialEinfuegen},
+    Zuordnung{"mFKFragen(1)", befehle::FKFragenLoeschen},
+    Zuordnung{"mFKFragen(2)", FK_FragenEinfuegen},
+    Zuordnung{"mFKSpezial(1)", befehle::FKSpezialLoeschen},
+    Zuordnung{"mFKSpezial(2)", FK_SpezialEinfuegen},
+    Zuordnung{"cmdFKSchliessen", befehle::FKSchliessen},
+    Zuordnung{"cmdFKZurueck", befehle::FKZurueck},
+    Zuordnung{"mFKFormular", befehle::FKZurueck},
+    Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},
+    Zuordnung{"mThemenHB", befehle::ThemenquelleUmschalten},
+    Zuordnung{"cmdHilfe", HilfeTaste},
+    Zuordnung{"mHilfen(1)", HilfeMenue},
+    Zuordnung{"mHilfeFK", HilfeFormular},
+    Zuordnung{"cmdTarvo", HinweisTarvo},
+    Zuordnung{"mInfos(1)", HinweisTarvo},
+    Zuordnung{"cmdBrennek", HinweisBrennek},
+    Zuordnung{"mInfos(2)", HinweisBrennek},
+    Zuordnung{"mBackUp", NurHaken},
+    Zuordnung{"cmdEnde", ProgrammEnde},
+    Zuordnung{"mDatei(6)", ProgrammEnde},
+    Zuordnung{"mDateiFK(12)", ProgrammEnde},
+};
+
+// Runs a command; a run-time error that it lets through is reported with the control as its place.
+void Ausfuehren(Befehl befehl, const std::string& name) {
+    const std::string ort = "FK : " + name.substr(0, name.find('(')) + "_Click";
+    try {
+        befehl();
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden(ort, fehler);
+    } catch (const std::bad_alloc&) {
+        FehlerMelden(ort, Laufzeitfehler(Fehler::SpeicherVoll));
+    }
+}
+
+} // namespace
+
+Befehl BefehlFuer(std::string_view name) {
+    const auto* const fund = std::find_if(zuordnungen.begin(), zuordnungen.end(),
+                                          [name](const Zuordnung& zeile) { return zeile.name == name; });
+    return fund == zuordnungen.end() ? nullptr : fund->befehl;
+}
+
+void BefehlVerbinden(QAbstractButton* schaltflaeche) {
+    const std::string name = schaltflaeche->objectName().toStdString();
+    const Befehl befehl = BefehlFuer(name);
+    schaltflaeche->setEnabled(befehl != nullptr);
+    if (befehl != nullptr) {
+        QObject::connect(schaltflaeche, &QAbstractButton::clicked, schaltflaeche,
+                         [befehl, name] { Ausfuehren(befehl, name); });
+    }
+}
+
+void BefehlVerbinden(QAction* eintrag) {
+    const std::string name = eintrag->objectName().toStdString();
+    const Befehl befehl = BefehlFuer(name);
+    eintrag->setEnabled(befehl != nullptr);
+    if (befehl != nullptr) {
+        QObject::connect(eintrag, &QAction::triggered, eintrag, [befehl, name] { Ausfuehren(befehl, name); });
+    }
+}

@@ -1,0 +1,134 @@
+#include "core/frmMDI.h"
+
+#include "core/ablage.h"
+#include "core/fortschrittsbalken.h"
+#include "core/hauptfenster.h"
+#include "core/hilfepanel.h"
+#include "core/menueleiste.h"
+#include "core/oberflaeche.h"
+#include "core/texte.h"
+#include "core/werkzeugleisten.h"
+#include "core/zustand.h"
+#include "periphery/hinweise.h"
+#include "settings/einstellungen.h"
+#include "persistence/einstellungenladen.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QVBoxLayout>
+
+namespace {
+
+QPointer<frmMDI> hauptfenster;
+
+constexpr int kranzHoehe = 495; // twips
+constexpr int hilfeHoehe = 375;
+constexpr int felderBreite = 3615;
+
+Panel* FelderPanelBauen(QWidget* pnlHilfe) {
+    auto* panel = new Panel(pnlHilfe, QStringLiteral("pnlFKFelder"));
+    panel->setFont(Schrift(8.25));
+    HinweisSetzen(panel, "Aktuelle Anzahl der Fragen, Fragen pro Wissensgebiet und Wissensgebiete.",
+                  "Feldkranz", " Aktuelle Anzahl der Fragen- und Spezialfelder");
+    panel->hide();
+    return panel;
+}
+
+} // namespace
+
+frmMDI::frmMDI() {
+    hauptfenster = this;
+    setObjectName(QStringLiteral("frmMDI"));
+    setWindowTitle(Anzeige(kerntexte::hauptfenster));
+    FlaechenBauen();
+    WerkzeugleistenBauen(pnlKranz_);
+    AblageBauen(pnlHilfe_);
+    FortschrittsbalkenBauen(pnlHilfe_);
+    MenueleisteBauen(*this);
+    HinweisSetzen(pnlHilfe_, "", "Hilfe", " 'Kurzhilfe'  und  'Ablage für Fragen'");
+    connect(kindflaeche_, &QMdiArea::subWindowActivated, this, &frmMDI::KindGewechselt);
+    findChild<QAction*>(QStringLiteral("mBackUp"))->setChecked(OptionDatei == 1);
+    DateilisteAnzeigen();
+    setMinimumSize(640, 400);
+    resize(Bildschirmgroesse(this) * 3 / 4); // the size for a user who takes it out of full screen
+    Anordnen();
+}
+
+frmMDI::~frmMDI() = default;
+
+void frmMDI::FlaechenBauen() {
+    auto* mitte = new QWidget(this);
+    auto* anordnung = new QVBoxLayout(mitte);
+    anordnung->setContentsMargins(0, 0, 0, 0);
+    anordnung->setSpacing(0);
+    pnlKranz_ = new Panel(mitte, QStringLiteral("pnlKranz"));
+    pnlKranz_->setFixedHeight(Pixel(kranzHoehe));
+    kindflaeche_ = new QMdiArea(mitte);
+    kindflaeche_->setObjectName(QStringLiteral("kindflaeche"));
+    kindflaeche_->setBackground(QColor(128, 134, 128));
+    kindflaeche_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    kindflaeche_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    pnlHilfe_ = new Hilfepanel(mitte);
+    pnlHilfe_->setFixedHeight(Pixel(hilfeHoehe));
+    pnlFKFelder_ = FelderPanelBauen(pnlHilfe_);
+    anordnung->addWidget(pnlKranz_);
+    anordnung->addWidget(kindflaeche_, 1);
+    anordnung->addWidget(pnlHilfe_);
+    setCentralWidget(mitte);
+}
+
+void frmMDI::Anordnen() {
+    WerkzeugleistenAnordnen(pnlKranz_);
+    AblageAnordnen();
+    TwipsGeometrie(pnlFKFelder_, pnlHilfe_->width() * 15.0 - 3675, 45, felderBreite, 285);
+}
+
+void frmMDI::resizeEvent(QResizeEvent* ereignis) {
+    QMainWindow::resizeEvent(ereignis);
+    // The layout gives the panels their width only now.
+    centralWidget()->layout()->activate();
+    Anordnen();
+}
+
+void frmMDI::closeEvent(QCloseEvent* ereignis) {
+    // Each child's own closing question runs, and can keep the window; nothing else is asked.
+    kindflaeche_->closeAllSubWindows();
+    const bool allesZu = kindflaeche_->subWindowList().isEmpty();
+    ereignis->setAccepted(allesZu);
+    if (allesZu) {
+        QCoreApplication::quit();
+    }
+}
+
+void frmMDI::KindGewechselt(const QMdiSubWindow* kind) {
+    if (kind == nullptr && QApplication::activeWindow() != nullptr && QApplication::activeWindow() != this &&
+        !kindflaeche_->subWindowList().isEmpty()) {
+        return; // a tool window has the focus, the child is in front all the same
+    }
+    MenueFKZeigen(*this, AktivesKind() == "FKFragen");
+}
+
+frmMDI* MDIFenster() {
+    return hauptfenster;
+}
+
+QWidget* Hauptfenster() {
+    return hauptfenster;
+}
+
+void HauptfensterZeigen() {
+    SanduhrZeigen();
+    try {
+        EinstellungenLesen();
+    } catch (const Laufzeitfehler&) {
+        // A missing or damaged settings file leaves what was read so far, without a word.
+    }
+    auto* fenster = new frmMDI;
+    fenster->setAttribute(Qt::WA_DeleteOnClose);
+    fenster->showMaximized();
+    NormalerZeiger();
+}

@@ -1,0 +1,151 @@
+#include "core/hauptfenster.h"
+
+#include "core/flaggen.h"
+#include "core/frmMDI.h"
+#include "core/laufzeitfehler.h"
+#include "core/oberflaeche.h"
+#include "core/panel.h"
+#include "core/zustand.h"
+#include "dialogs/texte.h"
+#include "settings/einstellungen.h"
+
+#include <QAbstractButton>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include <array>
+
+namespace {
+
+template <typename Steuerelement>
+Steuerelement* Teil(const char* name) {
+    frmMDI* fenster = MDIFenster();
+    return fenster == nullptr ? nullptr : fenster->findChild<Steuerelement*>(QLatin1String(name));
+}
+
+// Exactly one of the three toolbars stands; the end of the program is offered beside the main one only.
+void LeisteZeigen(const char* sichtbar) {
+    frmMDI* fenster = MDIFenster();
+    if (fenster == nullptr) {
+        return;
+    }
+    for (const char* name : {"picKranz", "picFK", "picHB"}) {
+        Teil<QWidget>(name)->setVisible(qstrcmp(name, sichtbar) == 0);
+    }
+    Teil<QWidget>("cmdEnde")->setVisible(qstrcmp(sichtbar, "picKranz") == 0);
+    fenster->Anordnen();
+}
+
+void Freigeben(std::initializer_list<const char*> namen, bool frei) {
+    for (const char* name : namen) {
+        auto* taste = Teil<QAbstractButton>(name);
+        if (taste != nullptr) {
+            taste->setEnabled(frei);
+        }
+    }
+}
+
+QMdiSubWindow* KindMit(std::string_view tag) {
+    frmMDI* fenster = MDIFenster();
+    if (fenster == nullptr) {
+        return nullptr;
+    }
+    for (QMdiSubWindow* kind : fenster->Kindflaeche()->subWindowList()) {
+        if (kind->widget() != nullptr && Modelltext(kind->widget()->property("tag").toString()) == tag) {
+            return kind;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void HilfeText(std::string_view text) {
+    auto* panel = Teil<Panel>("pnlHilfe");
+    if (panel != nullptr) {
+        panel->setCaption(Anzeige(text) + QLatin1Char(' '));
+    }
+}
+
+void ModusFK() {
+    FormTyp = "FK";
+    if (AnzahlWissen == 0) {
+        AnzahlWissen = 6;
+    }
+    if (FragenProWissen == 0) {
+        FragenProWissen = 5;
+    }
+    auto* felder = Teil<Panel>("pnlFKFelder");
+    if (felder != nullptr) {
+        felder->show();
+    }
+    FelderAnzeigen();
+    LeisteZeigen("picFK");
+}
+
+void ModusTest() {
+    auto* felder = Teil<Panel>("pnlFKFelder");
+    if (felder != nullptr) {
+        felder->hide();
+    }
+    FormTyp = "Test";
+    LeisteZeigen("picHB");
+}
+
+void ModusHaupt() {
+    LeisteZeigen("picKranz");
+    for (const char* name : {"picEingabeFlagGruen", "picEingabeFlagRot"}) {
+        auto* flagge = Teil<QWidget>(name);
+        if (flagge != nullptr) {
+            flagge->hide(); // they belong to a form's toolbar
+        }
+    }
+}
+
+void FelderAnzeigen() {
+    const int gesamt = Zaehler(FragenProWissen * AnzahlWissen);
+    auto* felder = Teil<Panel>("pnlFKFelder");
+    if (felder != nullptr) {
+        felder->setCaption(Anzeige(Einsetzen(
+            " {} Fragen : je {} Fragen aus {} Wissensgebieten",
+            {std::to_string(gesamt), std::to_string(FragenProWissen), std::to_string(AnzahlWissen)})));
+    }
+}
+
+void BefehleFKFreigeben(bool frei) {
+    Freigeben({"cmdFKFLaden", "cmdFKFLoeschen", "cmdFKSLaden", "cmdFKSLoeschen", "cmdFKSchliessen"}, frei);
+}
+
+void BefehleHBFreigeben(bool frei) {
+    Freigeben({"cmdHBFLaden", "cmdHBFLoeschen", "cmdHBALaden", "cmdHBALoeschen", "cmdHBPLaden",
+               "cmdHBPLoeschen", "cmdHBSchliessen"},
+              frei);
+}
+
+QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster) {
+    frmMDI* haupt = MDIFenster();
+    if (haupt == nullptr) {
+        return nullptr;
+    }
+    QMdiSubWindow* kind = haupt->Kindflaeche()->addSubWindow(
+        fenster, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    kind->setAttribute(Qt::WA_DeleteOnClose);
+    kind->adjustSize();
+    return kind;
+}
+
+std::string AktivesKind() {
+    frmMDI* fenster = MDIFenster();
+    const QMdiSubWindow* kind = fenster == nullptr ? nullptr : fenster->Kindflaeche()->currentSubWindow();
+    if (kind == nullptr || kind->widget() == nullptr) {
+        return {};
+    }
+    return Modelltext(kind->widget()->property("tag").toString());
+}
+
+void KindNachVorn(std::string_view tag) {
+    QMdiSubWindow* kind = KindMit(tag);
+    if (kind != nullptr) {
+        MDIFenster()->Kindflaeche()->setActiveSubWindow(kind);
+    }
+}

@@ -1,0 +1,172 @@
+#include "core/menueleiste.h"
+
+#include "core/befehle.h"
+#include "core/hauptfenster.h"
+#include "core/konfiguration.h"
+#include "core/oberflaeche.h"
+#include "core/zustand.h"
+#include "persistence/oeffnen.h"
+#include "persistence/speichern.h"
+#include "settings/einstellungen.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <array>
+#include <initializer_list>
+
+namespace {
+
+enum class Fuer { Haupt, FK, Alle };
+
+struct Menue {
+    Fuer fuer;
+    std::string_view name;
+    std::string_view text;
+};
+
+constexpr std::array menues{
+    Menue{Fuer::Haupt, "mDateien", "&Datei"},    Menue{Fuer::FK, "mDateienFK", "&Datei"},
+    Menue{Fuer::FK, "mFormularFK", "&Formular"}, Menue{Fuer::Alle, "mFragen", "&Ansicht"},
+    Menue{Fuer::Alle, "mOptionen", "&Optionen"}, Menue{Fuer::Alle, "mInfo", "&Info"},
+    Menue{Fuer::Alle, "mEditor", "&Editor"},     Menue{Fuer::Alle, "mHilfe", "&Hilfe"},
+};
+
+// An entry without a text is a separator.
+struct Eintrag {
+    std::string_view menue;
+    std::string_view name;
+    std::string_view text;
+    const char* tasten = "";
+    bool haken = false;
+};
+
+constexpr std::array eintraege{
+    Eintrag{"mDateien", "mDatei(1)", "Feld&kranz-Formular neu", "Ctrl+N"},
+    Eintrag{"mDateien", "mDatei(2)", "&Test-Formular neu"},
+    Eintrag{"mDateien", "mDatei(3)", ""},
+    Eintrag{"mDateien", "mDatei(4)", "Ö&ffnen", "Ctrl+O"},
+    Eintrag{"mDateien", "mDatei(5)", ""},
+    Eintrag{"mDateien", "mDatei(6)", "&Ende", "Ctrl+Q"},
+
+    Eintrag{"mDateienFK", "mDateiFK(1)", "Feld&kranz-Formular neu", "Ctrl+N"},
+    Eintrag{"mDateienFK", "mDateiFK(2)", ""},
+    Eintrag{"mDateienFK", "mDateiFK(3)", "Ö&ffnen", "Ctrl+O"},
+    Eintrag{"mDateienFK", "mDateiFK(4)", ""},
+    Eintrag{"mDateienFK", "mDateiFK(5)", "&Speichern", "Ctrl+S"},
+    Eintrag{"mDateienFK", "mDateiFK(6)", "Speichern &unter ...", "Ctrl+Shift+S"},
+    Eintrag{"mDateienFK", "mDateiFK(7)", ""},
+    Eintrag{"mDateienFK", "mDateiFK(8)", "&Drucken", "Ctrl+P"},
+    Eintrag{"mDateienFK", "mDateiFK(9)", "&Blanko drucken"},
+    Eintrag{"mDateienFK", "mDateiFK(10)", "D&rucker einrichten ..."},
+    Eintrag{"mDateienFK", "mDateiFK(11)", ""},
+    Eintrag{"mDateienFK", "mDateiGeoeffnet(0)", " "},
+    Eintrag{"mDateienFK", "mDateiGeoeffnet(1)", " "},
+    Eintrag{"mDateienFK", "mDateiGeoeffnet(2)", " "},
+    Eintrag{"mDateienFK", "mDateiGeoeffnet(3)", " "},
+    Eintrag{"mDateienFK", "mTrennerGeoeffnet", ""},
+    Eintrag{"mDateienFK", "mDateiFK(12)", "&Ende", "Ctrl+Q"},
+
+    Eintrag{"mFormularFK", "mFKFragenauswahl", "Fragen&auswahl"},
+    Eintrag{"mFormularFK", "mThemenHB", "Themen aus dem &Häuptlingsbuch", "", true},
+    Eintrag{"mFormularFK", "mTrennerFragen", ""},
+    Eintrag{"mFormularFK", "mFKFragen(1)", "&Fragen löschen"},
+    Eintrag{"mFormularFK", "mFKFragen(2)", "Fragen &einfügen"},
+    Eintrag{"mFormularFK", "mFKSpezial(1)", "&Spezialfelder löschen"},
+    Eintrag{"mFormularFK", "mFKSpezial(2)", "Spezialfelder e&infügen"},
+    Eintrag{"mFormularFK", "mTrennerFormular", ""},
+    Eintrag{"mFormularFK", "mFKFormular", "&Zurück zum Hauptmenü"},
+
+    Eintrag{"mFragen", "mAuswahl(1)", "Fragen&auswahl"},
+    Eintrag{"mFragen", "mAuswahl(2)", "&Dateiliste"},
+    Eintrag{"mOptionen", "mBackUp", "Speichern mit &BackUp", "", true},
+    Eintrag{"mInfo", "mInfos(1)", "&Tarvo"},
+    Eintrag{"mInfo", "mInfos(2)", "&Brennek"},
+    Eintrag{"mEditor", "mEditorKranz", "&Editor aufrufen"},
+    Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
+    Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},
+    Eintrag{"mHilfe", "mHilfen(2)", konfiguration::homepageText},
+    Eintrag{"mHilfe", "mHilfen(3)", konfiguration::mailText},
+};
+
+// A file of the list is opened as if it had been chosen in the file dialog.
+void GelisteteDateiOeffnen(const std::string& pfad) {
+    if (FormGeaendert == 1 && AuswertungSpeichernFragen() == 1) {
+        return;
+    }
+    DateiName = pfad;
+    FormularLaden();
+}
+
+void DateilistenEintraegeVerbinden(QMainWindow& fenster) {
+    for (int i = 0; i < 4; ++i) {
+        auto* eintrag = fenster.findChild<QAction*>(QStringLiteral("mDateiGeoeffnet(%1)").arg(i));
+        eintrag->setVisible(false);
+        eintrag->setEnabled(true);
+        QObject::connect(eintrag, &QAction::triggered, &fenster, [i] {
+            GelisteteDateiOeffnen(std::array{Datei1, Datei2, Datei3, Datei4}.at(static_cast<std::size_t>(i)));
+        });
+    }
+}
+
+void EintragBauen(QMenu& menue, const Eintrag& zeile) {
+    QAction* eintrag = zeile.text.empty() ? menue.addSeparator() : menue.addAction(Anzeige(zeile.text));
+    eintrag->setObjectName(Anzeige(zeile.name));
+    if (zeile.text.empty()) {
+        return;
+    }
+    eintrag->setCheckable(zeile.haken);
+    eintrag->setShortcut(QKeySequence(QLatin1String(zeile.tasten)));
+    BefehlVerbinden(eintrag);
+}
+
+} // namespace
+
+void MenueleisteBauen(QMainWindow& fenster) {
+    for (const Menue& zeile : menues) {
+        QMenu* menue = fenster.menuBar()->addMenu(Anzeige(zeile.text));
+        menue->setObjectName(Anzeige(zeile.name));
+        for (const Eintrag& eintrag : eintraege) {
+            if (eintrag.menue == zeile.name) {
+                EintragBauen(*menue, eintrag);
+            }
+        }
+    }
+    DateilistenEintraegeVerbinden(fenster);
+    MenueFKZeigen(fenster, false);
+}
+
+void MenueFKZeigen(QMainWindow& fenster, bool zeigen) {
+    for (const Menue& zeile : menues) {
+        if (zeile.fuer == Fuer::Alle) {
+            continue;
+        }
+        auto* menue = fenster.findChild<QMenu*>(Anzeige(zeile.name));
+        const bool sichtbar = (zeile.fuer == Fuer::FK) == zeigen;
+        menue->menuAction()->setVisible(sichtbar);
+        // Out of sight, the entries' keys must not answer either.
+        menue->setEnabled(sichtbar);
+        for (QAction* eintrag : menue->actions()) {
+            eintrag->setShortcutContext(sichtbar ? Qt::WindowShortcut : Qt::WidgetShortcut);
+        }
+    }
+    fenster.findChild<QAction*>(QStringLiteral("mHilfen(1)"))->setVisible(!zeigen);
+    fenster.findChild<QAction*>(QStringLiteral("mHilfeFK"))->setVisible(zeigen);
+}
+
+void DateilisteAnzeigen() {
+    QWidget* haupt = Hauptfenster();
+    if (haupt == nullptr) {
+        return;
+    }
+    int i = 0;
+    for (const std::string* datei : {&Datei1, &Datei2, &Datei3, &Datei4}) {
+        auto* eintrag = haupt->findChild<QAction*>(QStringLiteral("mDateiGeoeffnet(%1)").arg(i++));
+        if (eintrag != nullptr) {
+            eintrag->setText(Anzeige(*datei).replace(QLatin1Char('&'), QLatin1String("&&")));
+            eintrag->setVisible(!datei->empty());
+        }
+    }
+}

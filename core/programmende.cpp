@@ -1,0 +1,75 @@
+#include "core/programmende.h"
+
+#include "core/frmMDI.h"
+#include "core/hauptfenster.h"
+#include "core/texte.h"
+#include "core/zustand.h"
+#include "dialogs/meldung.h"
+#include "persistence/speichern.h"
+#include "quizform/fkformular.h"
+#include "persistence/einstellungenladen.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+std::function<void()> beenden;
+
+// Asks until the answer is Ja or Nein. False when the user cancelled.
+bool EinstellungenErledigt() {
+    do {
+        NachrichtAntwort = antwortAbbrechen;
+        Nachricht(kerntexte::iniSpeichern);
+        if (NachrichtAntwort == antwortAbbrechen) {
+            return false;
+        }
+        if (NachrichtAntwort == antwortNein) {
+            Meldung(kerntexte::iniNichtGespeichert);
+        }
+    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortNein);
+    if (NachrichtAntwort == antwortJa) {
+        try {
+            EinstellungenSchreiben();
+        } catch (const Laufzeitfehler& fehler) {
+            Meldung(kerntexte::iniFehler, {fehler.text()});
+        }
+    }
+    return true;
+}
+
+// Asks until the answer is Ja. False on Nein.
+bool EndeBestaetigt() {
+    do {
+        NachrichtAntwort = antwortAbbrechen; // closing the question by its frame asks again
+        Nachricht(kerntexte::ende);
+    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortNein);
+    return NachrichtAntwort == antwortJa;
+}
+
+} // namespace
+
+void ProgrammBeendenDurch(std::function<void()> ende) {
+    beenden = std::move(ende);
+}
+
+void ProgrammEnde() {
+    if (FormGeaendert == 1) {
+        FK_Merken();
+        if (AuswertungSpeichernFragen() == 1) {
+            return;
+        }
+    }
+    if (!EinstellungenErledigt() || !EndeBestaetigt()) {
+        return;
+    }
+    SoundSpielen("trompete");
+    if (beenden) {
+        beenden();
+        return;
+    }
+    // The open form goes without its closing question: the first one has taken its place.
+    FormGeaendert = 0;
+    FK_Entladen();
+    delete MDIFenster();
+    QCoreApplication::quit();
+}

@@ -1,0 +1,140 @@
+#include "core/werkzeugleisten.h"
+
+#include "core/befehle.h"
+#include "core/flaggen.h"
+#include "core/oberflaeche.h"
+#include "core/panel.h"
+#include "core/schaltflaechen.h"
+#include "core/spezialraster.h"
+#include "periphery/hinweise.h"
+
+#include <QFrame>
+#include <QToolButton>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int leistenHoehe = 375; // twips
+constexpr int leistenRand = 60;
+
+struct Leistenname {
+    Leiste leiste;
+    const char* name;
+};
+constexpr std::array leistennamen{Leistenname{Leiste::Kranz, "picKranz"}, Leistenname{Leiste::FK, "picFK"},
+                                  Leistenname{Leiste::HB, "picHB"}};
+
+QWidget* Traeger(QWidget* pnlKranz, Leiste leiste) {
+    for (const auto& [wer, name] : leistennamen) {
+        if (wer == leiste) {
+            return pnlKranz->findChild<QWidget*>(QLatin1String(name));
+        }
+    }
+    return pnlKranz;
+}
+
+void SchaltflaecheBauen(QWidget* pnlKranz, const Schaltflaeche& zeile) {
+    auto* taste = new QToolButton(Traeger(pnlKranz, zeile.leiste));
+    taste->setObjectName(Anzeige(zeile.name));
+    taste->setText(Anzeige(zeile.aufschrift));
+    taste->setAccessibleName(Anzeige(zeile.tipp).section(QLatin1Char('\n'), 0, 0));
+    // A click takes the focus, so that typed text reaches the stored copy before the command runs.
+    taste->setFocusPolicy(Qt::StrongFocus);
+    taste->setCheckable(zeile.schalter);
+    HinweisSetzen(taste, zeile.tipp, zeile.titel, zeile.status);
+    BefehlVerbinden(taste);
+}
+
+// Places the buttons of one bar from the left and returns where the next would stand, in pixels.
+int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const QFont& schrift) {
+    for (const Schaltflaeche& zeile : Schaltflaechen()) {
+        auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
+        if (zeile.leiste != leiste || taste == nullptr) {
+            continue;
+        }
+        taste->setFont(schrift);
+        const int breite = QFontMetrics(schrift).horizontalAdvance(taste->text()) + 11;
+        x += zeile.abstand ? 7 : 0;
+        taste->setGeometry(x, oben, breite, Pixel(leistenHoehe));
+        x += breite;
+    }
+    return x;
+}
+
+// Width that the quiz toolbar and the constant buttons need together with that face.
+int Bedarf(const QFont& schrift) {
+    int bedarf = Pixel(525 + 120) + 40;
+    for (const Schaltflaeche& zeile : Schaltflaechen()) {
+        if (zeile.leiste == Leiste::FK || zeile.leiste == Leiste::Immer) {
+            bedarf += QFontMetrics(schrift).horizontalAdvance(Anzeige(zeile.aufschrift)) + 11 + 7;
+        }
+    }
+    return bedarf;
+}
+
+// The largest face with which everything finds its place; below the last one it is too small to read.
+QFont LeistenSchrift(int breite) {
+    for (const double punkt : {8.25, 7.5}) {
+        if (Bedarf(Schrift(punkt)) <= breite) {
+            return Schrift(punkt);
+        }
+    }
+    return Schrift(6.75);
+}
+
+// picSpezial stands at the right end of the quiz toolbar, pnlHBPun at that of the test toolbar.
+void FKLeisteAnordnen(QWidget* pnlKranz, const QFont& schrift) {
+    QWidget* picFK = Traeger(pnlKranz, Leiste::FK);
+    const int ende = Aufreihen(pnlKranz, Leiste::FK, 0, 0, schrift) + 4;
+    picFK->setGeometry(Pixel(leistenRand), Pixel(leistenRand), ende + Pixel(525), Pixel(leistenHoehe));
+    picFK->findChild<QWidget*>(QStringLiteral("picSpezial"))
+        ->setGeometry(picFK->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
+    QWidget* picHB = Traeger(pnlKranz, Leiste::HB);
+    const int endeHB = Aufreihen(pnlKranz, Leiste::HB, 0, 0, schrift) + 4;
+    picHB->setGeometry(Pixel(leistenRand), Pixel(leistenRand), endeHB + Pixel(525), Pixel(leistenHoehe));
+    picHB->findChild<QWidget*>(QStringLiteral("pnlHBPun"))
+        ->setGeometry(picHB->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
+}
+
+} // namespace
+
+void WerkzeugleistenBauen(QWidget* pnlKranz) {
+    for (const auto& [leiste, name] : leistennamen) {
+        auto* traeger = new QFrame(pnlKranz);
+        traeger->setObjectName(QLatin1String(name));
+        traeger->setVisible(leiste == Leiste::Kranz);
+    }
+    HinweisSetzen(Traeger(pnlKranz, Leiste::Kranz), "", "Feldkranz! 2008", "");
+    auto* picSpezial = new QFrame(Traeger(pnlKranz, Leiste::FK));
+    picSpezial->setObjectName(QStringLiteral("picSpezial"));
+    picSpezial->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
+    picSpezial->setAccessibleName(QStringLiteral("Verteilung der Fragen und Spezialfelder"));
+    SpezialRasterAufbauen(picSpezial);
+    auto* punkte = new Panel(Traeger(pnlKranz, Leiste::HB), QStringLiteral("pnlHBPun"));
+    HinweisSetzen(punkte, "Summe der Punkte im Testformular.", "Testformular",
+                  " Gesamtpunkte des Testformulars");
+    for (const Schaltflaeche& zeile : Schaltflaechen()) {
+        SchaltflaecheBauen(pnlKranz, zeile);
+    }
+    FlaggenBauen(pnlKranz);
+}
+
+void WerkzeugleistenAnordnen(QWidget* pnlKranz) {
+    const QFont schrift = LeistenSchrift(pnlKranz->width());
+    QWidget* picKranz = Traeger(pnlKranz, Leiste::Kranz);
+    picKranz->setGeometry(Pixel(leistenRand), Pixel(leistenRand), pnlKranz->width() - Pixel(2 * leistenRand), Pixel(leistenHoehe));
+    Aufreihen(pnlKranz, Leiste::Kranz, 0, 0, schrift);
+    FKLeisteAnordnen(pnlKranz, schrift);
+    // The constant buttons end at the right edge, above the toolbars' empty right part.
+    const int laenge = Aufreihen(pnlKranz, Leiste::Immer, 0, Pixel(leistenRand), schrift);
+    Aufreihen(pnlKranz, Leiste::Immer, std::max(0, pnlKranz->width() - Pixel(leistenRand) - laenge), Pixel(leistenRand),
+              schrift);
+    for (const Schaltflaeche& zeile : Schaltflaechen()) {
+        if (zeile.leiste == Leiste::Immer) {
+            pnlKranz->findChild<QWidget*>(Anzeige(zeile.name))->raise();
+        }
+    }
+    FlaggenAnordnen(pnlKranz);
+}

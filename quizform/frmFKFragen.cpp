@@ -1,0 +1,146 @@
+#include "quizform/frmFKFragen.h"
+
+#include "catalogue/katalogladen.h"
+#include "core/oberflaeche.h"
+#include "persistence/speichern.h"
+#include "quizform/fkereignisse.h"
+#include "quizform/fkformular.h"
+#include "quizform/spezialfelder.h"
+#include "quizform/texte.h"
+#include "settings/einstellungen.h"
+
+#include <QCloseEvent>
+
+namespace {
+
+std::size_t Stelle(int n) {
+    return static_cast<std::size_t>(n);
+}
+
+QString Name(const char* feld, int n) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(feld)).arg(n);
+}
+
+} // namespace
+
+frmFKFragen::frmFKFragen() {
+    FK_Vorgaben();
+    setObjectName(QStringLiteral("frmFKFragen"));
+    setProperty("tag", QStringLiteral("FKFragen"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAutoFillBackground(true);
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        FeldPunkte.at(Stelle(n)) = static_cast<std::int16_t>(ZeileVon(n));
+    }
+    KopfBauen();
+    TitelBauen();
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        FeldBauen(n);
+    }
+    ListenBauen();
+    Anordnen(FormMasseFuer(HolAuflösungX()));
+    TabfolgeSetzen();
+    if (FarbeHintergrund == 0) {
+        FarbeHintergrund = 7;
+    }
+    HintergrundMalen(FarbeHintergrund);
+    HinweiseSetzen();
+    EreignisseVerbinden();
+}
+
+int frmFKFragen::HolAuflösungX() const {
+    return Bildschirmgroesse(this).width();
+}
+
+int frmFKFragen::HolAuflösungY() const {
+    return Bildschirmgroesse(this).height();
+}
+
+void frmFKFragen::HintergrundMalen(int farbe) {
+    QPalette farben = palette();
+    farben.setColor(QPalette::Window, Qfarbe(FormularFarbe(farbe)));
+    setPalette(farben);
+}
+
+void frmFKFragen::KopfBauen() {
+    pnlKranz = new Panel(this, QStringLiteral("pnlKranz"));
+    pnlKranz->setCaption(QStringLiteral("FELDKRANZ!"));
+    pnlDatum = new Panel(this, QStringLiteral("pnlDatum"));
+    pnlZeit = new Panel(this, QStringLiteral("pnlZeit"));
+    pnlNr = new Panel(this, QStringLiteral("pnlNr"));
+    txtDatum = new Textzeile(pnlDatum, QStringLiteral("txtDatum"));
+    txtZeit = new Textzeile(pnlZeit, QStringLiteral("txtZeit"));
+    txtNr = new Textzeile(pnlNr, QStringLiteral("txtNr"));
+    struct Kopfteil {
+        Panel* panel;
+        Textzeile* zeile;
+        const char* aufschrift;
+    };
+    for (const auto& teil : {Kopfteil{pnlDatum, txtDatum, " Datum :"}, Kopfteil{pnlZeit, txtZeit, " Zeit :"},
+                             Kopfteil{pnlNr, txtNr, " Nr. :"}}) {
+        teil.panel->setCaption(QString::fromUtf8(teil.aufschrift));
+        teil.panel->setAusrichtung(Qt::AlignLeft);
+        teil.zeile->setAccessibleName(teil.panel->caption().trimmed());
+    }
+    cmdFKSchliessen = new QPushButton(QStringLiteral("Schließen"), this);
+    cmdFKSchliessen->setObjectName(QStringLiteral("cmdFKSchliessen"));
+}
+
+void frmFKFragen::TitelBauen() {
+    for (int a = 1; a <= anzahlGebiete; ++a) {
+        auto* titel = new Panel(this, Name("pnlWissen", a));
+        titel->setCaption(QStringLiteral("Wissen"));
+        titel->setFocusPolicy(Qt::TabFocus);
+        titel->setCursor(Qt::PointingHandCursor);
+        pnlWissen.at(Stelle(a)) = titel;
+    }
+}
+
+void frmFKFragen::FeldBauen(int n) {
+    auto* rahmen = new QWidget(this); // made first, so that it lies behind the cell
+    rahmen->setObjectName(Name("shpFrage", n));
+    rahmen->setAutoFillBackground(true);
+    rahmen->hide();
+    shpFrage.at(Stelle(n)) = rahmen;
+    auto* punkte = new Panel(this, Name("pnlPunkte", n));
+    punkte->setCaption(QString::number(FeldPunkte.at(Stelle(n))));
+    pnlPunkte.at(Stelle(n)) = punkte;
+    auto* spezial = new Panel(this, Name("pnlSpezial", n));
+    spezial->setFocusPolicy(Qt::TabFocus);
+    spezial->setCursor(Qt::PointingHandCursor);
+    pnlSpezial.at(Stelle(n)) = spezial;
+    txtFrage.at(Stelle(n)) = new Textfeld(this, Name("txtFrage", n));
+    txtAntwort.at(Stelle(n)) = new Textfeld(this, Name("txtAntwort", n));
+    const QString ort = QStringLiteral(" %1, Wissensgebiet %2").arg(ZeileVon(n)).arg(GebietVon(n));
+    txtFrage.at(Stelle(n))->setAccessibleName(QStringLiteral("Frage") + ort);
+    txtAntwort.at(Stelle(n))->setAccessibleName(QStringLiteral("Antwort") + ort);
+}
+
+void frmFKFragen::ListenBauen() {
+    cmbSpezial = new QComboBox(this);
+    cmbSpezial->setObjectName(QStringLiteral("cmbSpezial"));
+    cmbSpezial->setAccessibleName(QStringLiteral("Spezialfeld"));
+    for (const std::string_view eintrag : spezialListe) {
+        cmbSpezial->addItem(Anzeige(eintrag));
+    }
+    cmbSpezial->hide();
+    cmbWissen = new QComboBox(this);
+    cmbWissen->setObjectName(QStringLiteral("cmbWissen"));
+    cmbWissen->setAccessibleName(QStringLiteral("Wissensgebiet"));
+    cmbWissen->setMaxVisibleItems(anzahlListenplaetze + 1);
+    ThemenLaden();
+    cmbWissen->addItem(QString());
+    for (int i = 1; i <= anzahlListenplaetze; ++i) {
+        cmbWissen->addItem(Anzeige(ThemenListe.at(Stelle(i))));
+    }
+    cmbWissen->hide();
+}
+
+void frmFKFragen::closeEvent(QCloseEvent* ereignis) {
+    if (SchliessenPruefen("FKFragen") == 1) {
+        ereignis->ignore();
+        return;
+    }
+    ereignis->accept();
+    Q_EMIT geschlossen();
+}

@@ -1,0 +1,76 @@
+// The window of the quiz form: 30 cells in six columns, the titles, the head and the two lists that open over
+// a panel. It builds and places its controls and passes events on; the rules are in the model, the routines
+// that act on the controls in quizform/fkformular.h and its sources.
+#pragma once
+
+#include "core/panel.h"
+#include "core/textfeld.h"
+#include "quizform/formdaten.h"
+#include "quizform/formmasse.h"
+
+#include <QComboBox>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+#include <string>
+
+template <typename Steuerelement>
+using JeFeld = std::array<Steuerelement*, anzahlFelder + 1>; // index 0 isn't used
+
+class frmFKFragen : public QWidget {
+    Q_OBJECT
+
+public:
+    frmFKFragen();
+
+    // Width and height of the screen in pixels.
+    [[nodiscard]] int HolAuflösungX() const;
+    [[nodiscard]] int HolAuflösungY() const;
+
+    // Where the window belongs in the main window's child area, for its size with the frame.
+    [[nodiscard]] QPoint Platz(QSize mitRahmen, QPoint wieGeoeffnet) const;
+
+    // Paints the background for FarbeHintergrund, or for another index before it is applied.
+    void HintergrundMalen(int farbe);
+    // The tips of the special panels name the limits in force.
+    void SpezialTippsErneuern();
+
+    JeFeld<Textfeld> txtFrage{};
+    JeFeld<Textfeld> txtAntwort{};
+    JeFeld<Panel> pnlPunkte{};
+    JeFeld<Panel> pnlSpezial{};
+    JeFeld<QWidget> shpFrage{};
+    std::array<Panel*, anzahlGebiete + 1> pnlWissen{};
+    Textzeile* txtNr = nullptr;
+    Textzeile* txtDatum = nullptr;
+    Textzeile* txtZeit = nullptr;
+    Panel* pnlNr = nullptr;
+    Panel* pnlDatum = nullptr;
+    Panel* pnlZeit = nullptr;
+    Panel* pnlKranz = nullptr;
+    QComboBox* cmbSpezial = nullptr;
+    QComboBox* cmbWissen = nullptr;
+    QPushButton* cmdFKSchliessen = nullptr;
+
+    // Texts of the cell at the moment its question took the focus.
+    std::string AlteFrage;
+    std::string AlteAntwort;
+
+Q_SIGNALS:
+    // The window has been closed after its check and is about to go.
+    void geschlossen();
+
+protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+
+private:
+    void KopfBauen();
+    void TitelBauen();
+    void FeldBauen(int n);
+    void ListenBauen();
+    void Anordnen(const FormMasse& masse);
+    void TabfolgeSetzen();
+    void HinweiseSetzen();
+    void EreignisseVerbinden();
+};

@@ -1,0 +1,15 @@
+feldkranz_quellen(modell
+  quizform/feldbild.cpp
+  quizform/feldregeln.cpp
+  quizform/spezialfelder.cpp
+  quizform/texte.cpp
+  quizform/ziehregeln.cpp)
+feldkranz_quellen(fenster
+  quizform/fkanordnung.cpp
+  quizform/fkblanko.cpp
+  quizform/fkereignisse.cpp
+  quizform/fkfarben.cpp
+  quizform/fkformular.cpp
+  quizform/fkregeln.cpp
+  quizform/fkziehen.cpp
+  quizform/frmFKFragen.cpp quizform/frmFKFragen.h)
