@@ -10,7 +10,7 @@ namespace {
 
 QString Ablegen(const QPixmap& bild, const QString& name) {
     const QString ordner = QStringLiteral(FELDKRANZ_BILDER);
-    const QString pfad = ordner + u'/' + name + QStringLiteral(".png");
+    QString pfad = ordner + u'/' + name + QStringLiteral(".png");
     if (!QDir().mkpath(ordner) || !bild.save(pfad)) {
         qWarning("Can't write %s", qPrintable(pfad));
     }

@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <utility>
+
 namespace {
 
 constexpr int frist = 10000;     // for a gesture, milliseconds
@@ -115,9 +117,9 @@ void KlickenMit(const QWidget* ziel, const QStringList& klick, int anzahl, Qt::K
 // One drag. The steps hang on the clock, because the program is inside its own drag loop most of the time.
 class Zug : public QObject {
 public:
-    Zug(QPoint von, QPoint nach, Qt::KeyboardModifiers tasten, const std::function<bool()>& ueberZiel,
+    Zug(QPoint von, QPoint nach, Qt::KeyboardModifiers tasten, std::function<bool()> ueberZiel,
         Stelle aufrufer)
-        : von_(von), nach_(nach), tasten_(tasten), ueberZiel_(ueberZiel), aufrufer_(aufrufer) {
+        : von_(von), nach_(nach), tasten_(tasten), ueberZiel_(std::move(ueberZiel)), aufrufer_(aufrufer) {
         Senden(Hinweg(), aufrufer, [this] { Ankommen(); });
     }
     [[nodiscard]] bool fertig() const { return fertig_; }
