@@ -1,0 +1,30 @@
+// The program's printer: one object from its first use to the end of the program, and the measures of its
+// page. Where the system knows no printer it makes PDF files. Prints nothing: that is printing/druckseite.h.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+class QPrinter;
+
+// Physical page in whole mm: offsets of the printable area, size of the paper, margins at the far side.
+struct Seitenmasse {
+    std::int32_t links = 0, oben = 0, breite = 0, hoehe = 0, rechts = 0, unten = 0;
+};
+[[nodiscard]] Seitenmasse SeiteMessen(const QPrinter& drucker);
+// The measures as a text for the user.
+[[nodiscard]] std::string SeitenmasseText(const Seitenmasse& masse);
+
+// The printer, made at the first call: the system's default one on A4, or PDF where it knows none. The
+// system's printers are looked up here, never at start-up.
+[[nodiscard]] QPrinter& Drucker();
+// A second object for the same printer, for the printer dialog to work on. pdfVorschlag: path of the PDF file
+// that the dialog proposes where there is no printer, in the program's notation.
+[[nodiscard]] std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag);
+// Takes the printer chosen in the dialog; it serves until the program ends. A PDF file named by the user
+// there counts as a choice too.
+void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlt);
+
+// Where a sheet goes as a PDF: the file that the user named in the dialog, else the proposal.
+[[nodiscard]] std::string PdfZiel(const std::string& pdfVorschlag);

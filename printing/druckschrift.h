@@ -1,0 +1,37 @@
+// The fonts of the pages and their measures at the printer's resolution. Where Arial or Arial Black is
+// missing, the best face of the same metrics serves.
+#pragma once
+
+#include "printing/zeichnung.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+
+#include <vector>
+
+class QPaintDevice;
+
+// The toolkit's font for a font of the page.
+[[nodiscard]] QFont DruckFont(const Schrift& schrift);
+
+// Measures as the device will set them; the device must outlive the object.
+class Druckschriften final : public Schriftmass {
+public:
+    explicit Druckschriften(QPaintDevice& geraet);
+
+    [[nodiscard]] float Breite(std::string_view text, const Schrift& schrift) const override;
+    [[nodiscard]] float Hoehe(const Schrift& schrift) const override;
+
+    struct Eintrag {
+        Schrift schrift;
+        QFont font;
+        QFontMetricsF mass; // in device units
+    };
+    // Font and measures, made at the first use. Valid until the next call.
+    [[nodiscard]] const Eintrag& Finden(const Schrift& schrift) const;
+
+private:
+    QPaintDevice& geraet_;
+    double mmJePunkt_;
+    mutable std::vector<Eintrag> eintraege_;
+};

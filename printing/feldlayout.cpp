@@ -1,0 +1,166 @@
+#include "printing/feldlayout.h"
+
+#include "printing/texte.h"
+#include "printing/zeilenumbruch.h"
+
+#include <cstddef>
+
+namespace {
+
+// What the kind of a cell decides. A kind with a word shows only that, without dividers and texts.
+struct Feldart {
+    char buchstabe;
+    Farbe grund;
+    Farbe linie;
+    std::string_view wort;
+};
+
+constexpr std::array<Feldart, 5> feldarten{{
+    {'J', {255, 255, 191}, {159, 159, 0}, drucktexte::joker},
+    {'E', {255, 223, 191}, {255, 127, 0}, drucktexte::ereignis},
+    {'R', {255, 223, 223}, {255, 0, 0}, {}},
+    {'G', {223, 255, 223}, {0, 255, 0}, {}},
+    {'A', {223, 223, 255}, {0, 0, 255}, {}},
+}};
+
+// The kind of a cell; nullptr for a plain one and for one that is not in play.
+const Feldart* ArtVon(const FKDruckfeld& feld) {
+    if (feld.frageSichtbar && feld.spezial.size() == 1) {
+        for (const Feldart& art : feldarten) {
+            if (art.buchstabe == feld.spezial.front()) {
+                return &art;
+            }
+        }
+    }
+    return nullptr;
+}
+
+bool HatWort(const Feldart* art) {
+    return art != nullptr && !art->wort.empty();
+}
+
+// A cell with its place on the page and everything the passes need.
+struct Stelle {
+    const FKDruckdaten& daten;
+    const Druckgeometrie& g;
+    const Schriftmass& mass;
+    const FKDruckfeld& feld;
+    const Feldart* art;
+    int zeile; // 1 to 5, the worth of a plain cell
+    float x, y;
+};
+
+void RahmenZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+    const Druckgeometrie& g = s.g;
+    const float hoehe = g.FrageHoehe + g.AntwortHoehe;
+    const Rechteck aussen{s.x, s.y, g.SpaltenBreite, hoehe, {g.StrichDuenn, farbeSchwarz}, {}};
+    zeichnung.emplace_back(aussen);
+    if (s.art == nullptr) {
+        return;
+    }
+    // The bottom edge stands 0.1 mm higher than the inset asks for.
+    Rechteck innen{s.x + g.RahmenEinzug,
+                   s.y + g.RahmenEinzug,
+                   g.SpaltenBreite - 2.0F * g.RahmenEinzug,
+                   hoehe - 2.0F * g.RahmenEinzug - 0.1F,
+                   {g.StrichFeld, farbeSchwarz},
+                   {}};
+    if (s.daten.rahmenFarbig) {
+        innen.stift.farbe = s.art->linie;
+    }
+    if (s.daten.spezialFarbig) {
+        innen.fuellung = s.art->grund;
+    }
+    zeichnung.emplace_back(innen);
+    if (!HatWort(s.art)) {
+        zeichnung.emplace_back(aussen); // again, so that it stays on top
+    }
+}
+
+void TeilerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+    const Druckgeometrie& g = s.g;
+    const Stift stift{g.StrichDuenn, farbeSchwarz};
+    const float links = s.x + g.NummerBreite;
+    const float mitte = s.y + g.FrageHoehe;
+    zeichnung.emplace_back(Strich{links, mitte, s.x + g.SpaltenBreite, mitte, stift});
+    zeichnung.emplace_back(Strich{links, s.y, links, mitte + g.AntwortHoehe, stift});
+}
+
+// Lines run on below the cell when there are many: nothing is cut off, and that is meant.
+void FeldtextZeichnen(Zeichnung& zeichnung, const Stelle& s, const std::string& text, float y, bool fett) {
+    const Schrift schrift{Schriftart::Arial, 8.0F * s.g.Massstab, fett};
+    const auto zeilen =
+        Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) { return s.mass.Breite(teil, schrift); });
+    TextZeilen(zeichnung, s.mass, s.x + s.g.TextEinzug, y, schrift, zeilen);
+}
+
+void FrageZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+    RahmenZeichnen(zeichnung, s);
+    if (HatWort(s.art)) {
+        const Schrift schrift{Schriftart::Arial, 18.0F * s.g.Massstab, true};
+        TextZentriert(zeichnung, s.mass, s.x + s.g.SpaltenBreite / 2.0F,
+                      s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->wort);
+        return;
+    }
+    TeilerZeichnen(zeichnung, s);
+    if (s.feld.frageSichtbar) {
+        FeldtextZeichnen(zeichnung, s, s.feld.frage, s.y + s.g.TextOben, false);
+    }
+}
+
+void AntwortZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+    if (!HatWort(s.art) && s.feld.antwortSichtbar) {
+        FeldtextZeichnen(zeichnung, s, s.feld.antwort, s.y + s.g.AntwortOben + s.g.FrageHoehe, true);
+    }
+}
+
+// Points of the cell's kind, or what stands for them.
+std::string Nummer(const Stelle& s) {
+    const auto oder = [&](bool gilt, int punkte) { return std::to_string(gilt ? punkte : s.zeile); };
+    const FKDruckdaten& d = s.daten;
+    switch (s.art == nullptr ? ' ' : s.art->buchstabe) {
+    case 'J':
+        return oder(d.punkteJ > 0, d.punkteJ);
+    case 'E':
+        return oder(d.punkteJ > 0, d.punkteE); // the Joker's points decide here too, and that is meant
+    case 'R':
+        return d.punkteR > 0 ? std::to_string(d.punkteR) : "?";
+    case 'G':
+        return oder(d.punkteG > 0, d.punkteG);
+    case 'A':
+        return oder(d.punkteA > 0, d.punkteA);
+    default:
+        return std::to_string(s.zeile);
+    }
+}
+
+void NummerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+    if (!s.feld.frageSichtbar) {
+        return; // not in play
+    }
+    const Schrift schrift{Schriftart::Arial, 12.0F * s.g.Massstab, true};
+    const float x = s.x + s.g.NummerBreite / 2.0F;
+    TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe / 2.0F, schrift, Nummer(s));
+    if (s.art != nullptr && !HatWort(s.art)) {
+        TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe + s.g.AntwortHoehe / 2.0F, schrift,
+                      s.feld.spezial);
+    }
+}
+
+} // namespace
+
+void FelderZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
+                    const Schriftmass& mass) {
+    using Durchgang = void (*)(Zeichnung&, const Stelle&);
+    for (const Durchgang durchgang :
+         {Durchgang{FrageZeichnen}, Durchgang{AntwortZeichnen}, Durchgang{NummerZeichnen}}) {
+        for (std::size_t n = 1; n < daten.felder.size(); ++n) {
+            const auto spalte = static_cast<float>((n - 1) / 5);
+            const auto zeile = (n - 1) % 5;
+            const FKDruckfeld& feld = daten.felder[n];
+            durchgang(zeichnung, Stelle{daten, g, mass, feld, ArtVon(feld), static_cast<int>(zeile) + 1,
+                                        g.RandLinks + spalte * g.SpaltenRaster,
+                                        g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
+        }
+    }
+}

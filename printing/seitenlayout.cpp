@@ -1,0 +1,67 @@
+#include "printing/seitenlayout.h"
+
+#include "printing/feldlayout.h"
+#include "printing/texte.h"
+
+#include <cstddef>
+
+namespace {
+
+constexpr Farbe kopfGrund{255, 255, 191};
+constexpr Farbe gebietGrund{223, 223, 223};
+
+void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g) {
+    Rechteck rahmen{g.RandLinks,
+                    g.RandOben,
+                    6.0F * g.SpaltenRaster - g.LueckeX,
+                    g.KopfHoehe,
+                    {g.StrichKopf, farbeSchwarz},
+                    {}};
+    if (daten.titelGrau) {
+        rahmen.fuellung = kopfGrund;
+    }
+    zeichnung.emplace_back(rahmen);
+
+    const Schrift gross{Schriftart::Arial, 20.0F * g.Massstab, true};
+    const Schrift klein{Schriftart::Arial, 11.0F * g.Massstab, true};
+    const float hoehe = g.RandOben + 4.5F * g.Massstab;
+    const auto setzen = [&](float spalte, std::string_view vorsatz, const std::string& wert) {
+        zeichnung.emplace_back(
+            Textstelle{g.RandLinks + spalte * g.SpaltenRaster, hoehe, klein, std::string(vorsatz) + wert});
+    };
+    zeichnung.emplace_back(Textstelle{g.RandLinks + 3.0F * g.Massstab, g.RandOben + 2.0F * g.Massstab, gross,
+                                      std::string(drucktexte::kopf)});
+    setzen(3.0F, drucktexte::datum, daten.datum);
+    setzen(4.0F, drucktexte::zeit, daten.zeit);
+    setzen(5.0F, drucktexte::nummer, daten.nummer);
+}
+
+void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
+                     const Schriftmass& mass) {
+    const Schrift schrift{Schriftart::Arial, 14.0F * g.Massstab, true};
+    const float y = g.RandOben + g.KopfHoehe + g.KopfLuecke;
+    for (std::size_t a = 1; a < daten.gebiete.size(); ++a) {
+        const float x = g.RandLinks + static_cast<float>(a - 1) * g.SpaltenRaster;
+        Rechteck kopf{x, y, g.SpaltenBreite, g.GebietHoehe, {g.StrichFeld, farbeSchwarz}, {}};
+        if (daten.gebieteGrau) {
+            kopf.fuellung = gebietGrund;
+        }
+        zeichnung.emplace_back(kopf);
+        const FKDruckgebiet& gebiet = daten.gebiete[a];
+        if (!daten.blanko && gebiet.benutzbar && gebiet.titel != drucktexte::keinTitel) {
+            TextZentriert(zeichnung, mass, x + g.SpaltenBreite / 2.0F, y + g.GebietHoehe / 2.0F, schrift,
+                          gebiet.titel);
+        }
+    }
+}
+
+} // namespace
+
+Zeichnung FormularZeichnen(const FKDruckdaten& daten, const Druckgeometrie& g, const Schriftmass& mass) {
+    Zeichnung zeichnung;
+    zeichnung.reserve(300);
+    KopfZeichnen(zeichnung, daten, g);
+    GebieteZeichnen(zeichnung, daten, g, mass);
+    FelderZeichnen(zeichnung, daten, g, mass);
+    return zeichnung;
+}

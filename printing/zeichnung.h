@@ -1,0 +1,75 @@
+// A page as a list of what stands on it: rectangles, lines, circles and texts in millimetres from the
+// printer's printable origin, in the order in which they are drawn. Layout routines make the list; printer,
+// PDF and tests take it from there.
+#pragma once
+
+#include "core/farbe.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+// The two families that the pages use; where one is missing, a face of the same metrics serves.
+enum class Schriftart : unsigned char { Arial, ArialBlack };
+
+struct Schrift {
+    Schriftart art = Schriftart::Arial;
+    float groesse = 10.0F; // points
+    bool fett = false;
+    friend bool operator==(const Schrift&, const Schrift&) = default;
+};
+
+// Width of a line in dots, 600 to the inch, and its colour.
+struct Stift {
+    int punkte = 5;
+    Farbe farbe = farbeSchwarz;
+};
+
+struct Rechteck {
+    float x, y, breite, hoehe;
+    Stift stift;
+    std::optional<Farbe> fuellung; // no value: unfilled
+};
+
+struct Strich {
+    float x1, y1, x2, y2;
+    Stift stift;
+};
+
+struct Kreis {
+    float x, y, radius; // centre
+    Stift stift;
+};
+
+// One line of black text; x and y are the top left corner of its line box, whose height is that of
+// Schriftmass::Hoehe.
+struct Textstelle {
+    float x, y;
+    Schrift schrift;
+    std::string text; // UTF-8
+};
+
+using Element = std::variant<Rechteck, Strich, Kreis, Textstelle>;
+using Zeichnung = std::vector<Element>;
+
+// Measures of text in mm as the printer will set it.
+class Schriftmass {
+public:
+    Schriftmass() = default;
+    Schriftmass(const Schriftmass&) = delete;
+    Schriftmass& operator=(const Schriftmass&) = delete;
+    virtual ~Schriftmass() = default;
+
+    [[nodiscard]] virtual float Breite(std::string_view text, const Schrift& schrift) const = 0;
+    // Height of a line: ascent and descent, the pitch of lines that follow one another.
+    [[nodiscard]] virtual float Hoehe(const Schrift& schrift) const = 0;
+};
+
+// Adds a text centred about the point (x, y).
+void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
+                   std::string_view text);
+// Adds lines one below the other, the first one at y; empty lines take their place.
+void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
+                const std::vector<std::string_view>& zeilen);

@@ -1,0 +1,24 @@
+// A measure of text that can be reckoned in the head: every byte is a tenth of the font's size wide, a line
+// half of it high. For tests of the layout without a printer.
+#pragma once
+
+#include "printing/zeichnung.h"
+
+class Probemass final : public Schriftmass {
+public:
+    [[nodiscard]] float Breite(std::string_view text, const Schrift& schrift) const override {
+        return static_cast<float>(text.size()) * schrift.groesse * 0.1F;
+    }
+    [[nodiscard]] float Hoehe(const Schrift& schrift) const override { return schrift.groesse * 0.5F; }
+};
+
+template <typename Art>
+std::vector<Art> Alle(const Zeichnung& zeichnung) {
+    std::vector<Art> ergebnis;
+    for (const Element& element : zeichnung) {
+        if (const Art* teil = std::get_if<Art>(&element)) {
+            ergebnis.push_back(*teil);
+        }
+    }
+    return ergebnis;
+}
