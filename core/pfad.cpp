@@ -56,10 +56,9 @@ std::map<QString, QString> gemerkteOrdner;
 [[nodiscard]] QStringList Kandidaten(const QString& ordner, const QString& teil) {
     QStringList namen;
     try {
-        for (const plattform::Eintrag& eintrag :
-             plattform::OrdnerLesen(ordner.isEmpty() ? QStringLiteral(".") : ordner)) {
-            if (Gezeigt(eintrag.name).compare(teil, Qt::CaseInsensitive) == 0) {
-                namen += eintrag.name;
+        for (const QString& name : plattform::NamenLesen(ordner.isEmpty() ? QStringLiteral(".") : ordner)) {
+            if (Gezeigt(name).compare(teil, Qt::CaseInsensitive) == 0) {
+                namen += name;
             }
         }
     } catch (const Laufzeitfehler&) {

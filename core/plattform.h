@@ -41,7 +41,9 @@ struct Eintrag {
 [[nodiscard]] Art ArtVon(const QString& pfad) noexcept;
 [[nodiscard]] Dateizustand Nachsehen(const QString& pfad);
 
-// The regular files and the folders of a folder, in no order, "." and ".." left out.
+// All names in a folder, in no order, "." and ".." left out. Asks nothing about what they stand for.
+[[nodiscard]] std::vector<QString> NamenLesen(const QString& ordner);
+// The regular files and the folders among them, links followed.
 [[nodiscard]] std::vector<Eintrag> OrdnerLesen(const QString& ordner);
 
 // Bytes of a regular file. Anything else is 52: a pipe or a device would hang or never end. More bytes than

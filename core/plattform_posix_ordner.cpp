@@ -34,6 +34,27 @@ struct OrdnerSchliesser {
     void operator()(DIR* ordner) const noexcept { ::closedir(ordner); }
 };
 
+// Calls tun with the open folder and each entry but "." and "..".
+template <typename Tun>
+void JederEintrag(const QString& ordner, Tun tun) {
+    const std::string bytes = GueltigerPfad(ordner);
+    const std::unique_ptr<DIR, OrdnerSchliesser> offen(::opendir(bytes.c_str()));
+    if (!offen) {
+        throw Schreibfehler(errno);
+    }
+    errno = 0;
+    while (const dirent* eintrag = ::readdir(offen.get())) {
+        const std::string_view name(&eintrag->d_name[0]);
+        if (name != "." && name != "..") {
+            tun(offen.get(), *eintrag);
+        }
+        errno = 0;
+    }
+    if (errno != 0) {
+        throw Schreibfehler(errno);
+    }
+}
+
 // A mount point as the table of mounts writes it: blanks and their like as a backslash and three octal
 // digits.
 [[nodiscard]] QByteArray Entschluesselt(const QByteArray& feld) {
@@ -85,25 +106,21 @@ Dateizustand Nachsehen(const QString& pfad) {
     return {ArtAus(zustand.st_mode), zustand.st_size, zustand.st_mtime};
 }
 
+std::vector<QString> NamenLesen(const QString& ordner) {
+    std::vector<QString> namen;
+    JederEintrag(ordner,
+                 [&](DIR*, const dirent& eintrag) { namen.push_back(AusPfadbytes(&eintrag.d_name[0])); });
+    return namen;
+}
+
 std::vector<Eintrag> OrdnerLesen(const QString& ordner) {
-    const std::string bytes = GueltigerPfad(ordner);
-    const std::unique_ptr<DIR, OrdnerSchliesser> offen(::opendir(bytes.c_str()));
-    if (!offen) {
-        throw Schreibfehler(errno);
-    }
     std::vector<Eintrag> eintraege;
-    errno = 0;
-    while (const dirent* eintrag = ::readdir(offen.get())) {
-        const std::string_view name(&eintrag->d_name[0]);
-        const Art art = EintragsArt(offen.get(), *eintrag);
-        if (name != "." && name != ".." && (art == Art::Datei || art == Art::Ordner)) {
-            eintraege.push_back({AusPfadbytes(name), art == Art::Ordner});
+    JederEintrag(ordner, [&](DIR* offen, const dirent& eintrag) {
+        const Art art = EintragsArt(offen, eintrag);
+        if (art == Art::Datei || art == Art::Ordner) {
+            eintraege.push_back({AusPfadbytes(&eintrag.d_name[0]), art == Art::Ordner});
         }
-        errno = 0;
-    }
-    if (errno != 0) {
-        throw Schreibfehler(errno);
-    }
+    });
     return eintraege;
 }
 

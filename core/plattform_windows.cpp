@@ -103,6 +103,14 @@ std::vector<Eintrag> OrdnerLesen(const QString& ordner) {
     return eintraege;
 }
 
+std::vector<QString> NamenLesen(const QString& ordner) {
+    std::vector<QString> namen;
+    for (const Eintrag& eintrag : OrdnerLesen(ordner)) {
+        namen.push_back(eintrag.name);
+    }
+    return namen;
+}
+
 std::string Lesen(const QString& datei, std::size_t grenze) {
     QFile offen(datei);
     const Art art = ArtVon(datei);
