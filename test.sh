@@ -59,5 +59,5 @@ case "${1:-alles}" in
   lint) stil; tidy ;;
   release) bauen release ;;
   debug | asan | coverage) tests "$@" ;;
-  *) sed -n '2,9p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+  *) sed -n '2,10p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac

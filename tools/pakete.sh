@@ -8,7 +8,7 @@ pakete_lauf=(libqt6gui6 qt6-qpa-plugins fonts-liberation fonts-dejavu-core)
 pakete_schirm=(xvfb openbox x11-xkb-utils xkb-data poppler-utils)
 pakete_test=(googletest libgtest-dev xdotool x11-utils)
 pakete_lint=(clang clang-tidy clang-format cppcheck python3)
-pakete_bench=(libbenchmark-dev)
+pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
 pakete_bild=(graphviz python3)
 
 # pakete_sichern <package>...: installs those that aren't there; asks nothing, and touches nothing when all are.

@@ -84,7 +84,7 @@ def bild(schichtung, ziel):
         kanten.update((von, nach) for nach in ziele if nach != von)
     farben = {"fenster": "#dbe9f6", "rand": "#e5f2df", "modell": "#fbeed5"}
     namen = {"fenster": "Windows", "rand": "Edge", "modell": "Model"}
-    zeilen = ["digraph {", "rankdir=TB; newrank=true; nodesep=0.15; ranksep=0.9; splines=true;",
+    zeilen = ["digraph {", "rankdir=TB; newrank=true; nodesep=0.25; ranksep=0.5; splines=true;",
               'fontname="sans-serif"; node [shape=box style="filled,rounded" fontname="sans-serif" fontsize=11];',
               'edge [color="#55555570" arrowsize=0.6];']
     for schicht in reversed(SCHICHTEN):
@@ -92,6 +92,11 @@ def bild(schichtung, ziel):
         for k in sorted(k for k in knoten if k[0] == schicht):
             zeilen.append(f'"{k[0]}_{k[1]}" [label="{k[1]}/" fillcolor="{farben[schicht]}"];')
         zeilen.append("}")
+    # Invisible lines keep the layers one below the other.
+    for ober, unter in (("fenster", "rand"), ("rand", "modell")):
+        zeilen.append(f'grenze_{unter} [style=invis shape=point];')
+        zeilen += [f'"{k[0]}_{k[1]}" -> grenze_{unter} [style=invis];' for k in sorted(knoten) if k[0] == ober]
+        zeilen += [f'grenze_{unter} -> "{k[0]}_{k[1]}" [style=invis];' for k in sorted(knoten) if k[0] == unter]
     for (von, nach), zahl in sorted(kanten.items()):
         dicke = min(4.0, 0.6 + 0.25 * zahl)
         zeilen.append(f'"{von[0]}_{von[1]}" -> "{nach[0]}_{nach[1]}" [penwidth={dicke:.2f}];')
