@@ -115,7 +115,7 @@ void ByteAnhaengen(std::string& ziel, char32_t zeichen) {
         Verbinden(ziel, zeichen);
     } else {
         const std::string ersatz = zeichen == keinZeichen ? std::string() : Ersatzzeichen(zeichen);
-        ziel += ersatz.empty() ? "?" : NachCp1252(ersatz);
+        ziel += ersatz.empty() ? std::string("?") : NachCp1252(ersatz);
     }
 }
 

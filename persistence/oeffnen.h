@@ -6,6 +6,7 @@ void FormularOeffnen();
 // Loads the file that DateiName names into a form.
 void FormularLaden();
 // Reads only the "[FKINI]" section of DateiName into FormTyp, FelderGesamt, FragenProWissen and AnzahlWissen.
+// A file without one, as a test form is, changes nothing; an unreadable one is reported and changes nothing.
 void FormularInfoLesen();
 
 // Reads the file that DateiName names into the shared variables: 0 read to the end, 1 no form file, 2 refused

@@ -6,3 +6,10 @@ feldkranz_quellen(modell
   persistence/formulardatei.cpp
   persistence/wertlesen.cpp
   persistence/wertschreiben.cpp)
+feldkranz_quellen(rand persistence/einstellungenladen.cpp persistence/formularpfad.cpp)
+feldkranz_quellen(fenster
+  persistence/formularlesen.cpp
+  persistence/oeffnen.cpp
+  persistence/schliessen.cpp
+  persistence/sicherung.cpp
+  persistence/speichern.cpp)

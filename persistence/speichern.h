@@ -4,7 +4,8 @@
 
 #include <string_view>
 
-// Saves the open form under its own name, or asks for one. False when nothing was saved.
+// Saves the open form under its own name, or asks for one. A failure is reported here. False when nothing was
+// saved.
 bool Speichern();
 // Asks for a name and saves. art: 1 names an .INI file, 2 a form. False when nothing was saved.
 bool SpeichernUnter(int art);

@@ -129,11 +129,10 @@ Zahl WertLeser::Gelesen(bool (*umwandeln)(std::string_view, Zahl&)) {
         if (umwandeln(Token(), zahl)) {
             return zahl;
         }
-        const Laufzeitfehler fehler(Fehler::Ueberlauf, zeile);
         if (!melder_) {
-            throw fehler;
+            throw Laufzeitfehler(Fehler::Ueberlauf, zeile);
         }
-        melder_(fehler);
+        melder_(Laufzeitfehler(Fehler::Ueberlauf, zeile));
     }
 }
 

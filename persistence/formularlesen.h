@@ -1,0 +1,15 @@
+// Reading the file that DateiName names into the shared variables, with all that is said when it fails. Fills
+// no window: that is FormularLaden in oeffnen.h.
+#pragma once
+
+#include <cstdint>
+
+enum class Lesung : std::uint8_t {
+    Ganz,         // read to the end
+    KeinFormular, // no form file; nothing changed, nothing said
+    Abgelehnt,    // a form of the other kind is open; nothing changed, the user was told
+    Teilweise,    // cut short inside a section; the user was told
+    Nichts,       // not opened, or cut short inside its head; told, and another file may have been loaded
+};
+
+Lesung FormularEinlesen();

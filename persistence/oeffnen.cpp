@@ -1,0 +1,132 @@
+#include "persistence/oeffnen.h"
+
+#include "core/datei.h"
+#include "core/hauptfenster.h"
+#include "core/pfadname.h"
+#include "core/zustand.h"
+#include "dialogs/meldung.h"
+#include "filetools/dateidialog.h"
+#include "persistence/dateiliste.h"
+#include "persistence/formulardatei.h"
+#include "persistence/formularlesen.h"
+#include "persistence/formularpfad.h"
+#include "persistence/speichern.h"
+#include "persistence/texte.h"
+#include "persistence/wartezeiger.h"
+#include "quizform/fkformular.h"
+#include "settings/einstellungen.h"
+#include "testform/hbformular.h"
+
+namespace {
+
+using namespace persistenztexte;
+
+// The quiz toolbar, with the shape of the board. A shape whose product fits no counter is reported and gives
+// way to the full board.
+void QuizModus() {
+    try {
+        ModusFK();
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden("DATEI : Oeffnen_Fragen", fehler);
+        AnzahlWissen = FragenProWissen = 0;
+        ModusFK();
+    }
+}
+
+void QuizZeigen() {
+    DateilisteErgaenzen(DateiName);
+    DateilisteAnzeigen();
+    DateiAbbruch = 0;
+    QuizModus();
+    FK_FormularZeigen(NurDateiname(DateiAlt) + " ");
+    FormularpfadMerken("FKFragen");
+    FormStatusSetzen(0);
+}
+
+void TestZeigen() {
+    // Only one form can be open. The one of the other kind was asked about before the file was read.
+    FK_Entladen();
+    FormTyp = "Test";
+    HB_FormularZeigen(" Test : " + NurDateiname(DateiAlt));
+    if (HBFragenOffen()) {
+        FormularpfadMerken("HBFragen");
+    }
+    FormStatusSetzen(0);
+}
+
+// A tag of no kind opens no form, and a form that is open stays as it is.
+void NichtsZeigen() {
+    FormTyp = FKFragenOffen() != nullptr ? "FK" : HBFragenOffen() ? "Test" : "";
+    if (FormTyp.empty()) {
+        FormStatusSetzen(0);
+    }
+}
+
+// The last count characters of a text in UTF-8.
+std::string Schluss(const std::string& text, int zeichen) {
+    std::size_t anfang = text.size();
+    while (anfang > 0 && zeichen > 0) {
+        --anfang;
+        zeichen -= (static_cast<unsigned char>(text[anfang]) & 0xC0U) == 0x80U ? 0 : 1;
+    }
+    return text.substr(anfang);
+}
+
+} // namespace
+
+void FormularOeffnen() {
+    if (FormGeaendert == 1 && AuswertungSpeichernFragen() == 1) {
+        return;
+    }
+    DateiAbbruch = 0;
+    DateidialogZeigen({std::string(oeffnen),
+                       false,
+                       {"Feldkranz-Formular (*.FKR)", "Feldkranz-Formular (*.BAK)", "Alle Dateien (*.*)"},
+                       {"*.fkr", "*.*"},
+                       "*.FKR",
+                       "",
+                       ""});
+    DateiAbbruch = 0; // a cancelled dialog has left its mark in the empty DateiName
+    FormularLaden();
+}
+
+void FormularLaden() {
+    if (DateiName.empty()) {
+        Meldung(keineDatei);
+        return;
+    }
+    DateiAlt = DateiName;
+    const Lesung lesung = FormularEinlesen();
+    if (lesung == Lesung::KeinFormular) {
+        Meldung(keinFormular);
+    }
+    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
+        return;
+    }
+    if (FormTyp == "FK") {
+        QuizZeigen();
+    } else if (FormTyp == "Test") {
+        TestZeigen();
+    } else {
+        NichtsZeigen();
+    }
+}
+
+void FormularInfoLesen() {
+    if (DateiName.empty()) {
+        return;
+    }
+    DateiAlt = DateiName;
+    HilfeText(std::string(ichLade) + Schluss(DateiName, 12));
+    try {
+        const Wartezeiger warten;
+        if (const auto werte = FKIniAusBytes(DateiLesen(DateiName))) {
+            FormTyp = werte->formTyp;
+            FelderGesamt = werte->felderGesamt;
+            FragenProWissen = werte->fragenProWissen;
+            AnzahlWissen = werte->anzahlWissen;
+        }
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden("DATEI : Oeffnen_Vorschau", fehler);
+    }
+}

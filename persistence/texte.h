@@ -1,0 +1,64 @@
+// What the program says while it saves and opens forms. Only texts; who says them when is speichern.h and
+// oeffnen.h.
+#pragma once
+
+#include "dialogs/texte.h"
+
+#include <string_view>
+
+namespace persistenztexte {
+
+// --- Saving ---
+
+inline constexpr MeldungsText nameFehlt{7, "Speichern unter abgebrochen", "234", "Machst du später"};
+inline constexpr MeldungsText gespeichert{7, "Datei gespeichert unter  [ {} ]", "998", "Schön"};
+inline constexpr MeldungsText abgebrochen{7, "Speichern unter... abgebrochen", "1", "Jawohl"};
+inline constexpr NachrichtText ueberschreiben{
+    7, " Speichern unter ...",
+    "{}\r\n[ {} ]\r\nist bereits vorhanden !\r\nSoll ich diese Datei überschreiben ?", 4, 1111};
+inline constexpr std::string_view dieAuswertung = "Die Auswertung"; // also for a quiz form: it is meant
+inline constexpr std::string_view dieIniDatei = "Die Ini-Datei";
+inline constexpr std::string_view speichernUnter = "Speichern unter ...";
+
+// --- Backup ---
+
+inline constexpr MeldungsText sicherungAngelegt{7, "BackUp angelegt :   [ {} ]", "994", "Schön"};
+inline constexpr MeldungsText sicherungKatalog{7, "BackUp angelegt : \r\n[ {}.BAK ]", "1", "Wirklich ?!"};
+inline constexpr MeldungsText keineSicherung{5, "Ich konnte kein BackUp anlegen von : \r\n[ {} ]", "1",
+                                             "Das finde ich nicht so gut"};
+inline constexpr std::string_view dateiWarNeu = "\r\n(Die Datei gab es bisher wahrscheinlich noch nicht.)";
+
+// --- Unsaved changes ---
+
+inline constexpr NachrichtText aenderungen{
+    7, "Auswertung speichern !", "Soll das aktuelle Feldkranz-Formular\r\ngespeichert werden ?", 2, 1111};
+inline constexpr MeldungsText wurdeGespeichert{7, "Formular wurde gespeichert !", "2", "Aha"};
+inline constexpr MeldungsText nichtGespeichert{7, "Formular wird nicht gespeichert !", "2",
+                                               "Das will ich auch meinen"};
+// One title for both kinds of form: it is meant.
+inline constexpr NachrichtText schliessen{7, "Neues Test-Formular",
+                                          "Soll ich das vorhandene Formular vorher speichern ?", 2, 1111};
+
+// --- Opening ---
+
+inline constexpr MeldungsText keineDatei{4, "Keine Datei ausgewählt !", "1", "Nicht doch"};
+inline constexpr MeldungsText keinFormular{5, "Evtl. keine Feldkranz-Datei !", "1", "Grrr"};
+inline constexpr MeldungsText testOffen{
+    5, "Ich kann jetzt kein Feldkranzformular laden.\r\nDu mußt erst das Testformular schließen.", "1",
+    "Das ist kein Problem, das mache ich doch sofort !"};
+inline constexpr MeldungsText quizOffen{
+    5, "Ich kann jetzt kein Testformular laden.\r\nDu mußt erst das Feldkranzformular schließen.", "1",
+    "Den Gefallen kann ich dir tun !"};
+inline constexpr std::string_view oeffnen = "Öffnen";
+inline constexpr std::string_view ichLade = " Ich lade ...  ";
+
+// --- Run-time errors while a form is read, in stock boxes ---
+
+inline constexpr std::string_view fehlerTitel = "Fehler beim Laden !";
+inline constexpr std::string_view fehlerStelle =
+    "Fehler Nummer {} occurred at line {}"; // the mixture is kept
+inline constexpr std::string_view nameFalsch = "Mit dem Dateinamen stimmt etwas nicht !";
+inline constexpr std::string_view laufwerk = "Laufwerk nicht bereit.\r\nVersuche es noch einmal !";
+inline constexpr std::string_view dateiZuKurz = "Dateilänge nicht korrekt oder so ...";
+
+} // namespace persistenztexte

@@ -1,0 +1,1 @@
+feldkranz_quellen(fenster testform/hbformular.cpp)
