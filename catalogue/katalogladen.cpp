@@ -1,0 +1,69 @@
+#include "catalogue/katalogladen.h"
+
+#include "catalogue/katalogdatei.h"
+#include "catalogue/texte.h"
+#include "core/datei.h"
+#include "core/zustand.h"
+#include "dialogs/meldung.h"
+
+namespace {
+
+std::string Pfad(const Thema& thema, std::string_view datei) {
+    return AppPfad + "\\WISSEN\\" + std::string(thema.ordner) + "\\" + std::string(datei);
+}
+
+// The list file at the path; any failure is told with the name.
+void ListeLaden(const std::string& pfad, std::string_view name) {
+    try {
+        UnterthemenlisteLesen(DateiLesen(pfad), UnterthemenListe);
+    } catch (const Laufzeitfehler&) {
+        Meldung(katalogtexte::listeFehlt, {name, AppPfad});
+    }
+}
+
+void FragenFehlerMelden(const Thema& thema, std::string_view unterthema, const Laufzeitfehler& fehler) {
+    if (fehler.art() == Fehler::DateiZuEnde) {
+        return; // a last record cut short is lost without a word: it is meant
+    }
+    if (fehler.art() == Fehler::DateiNichtGefunden) {
+        Meldung(katalogtexte::dateiFehlt, {unterthema, AppPfad, thema.meldungsordner});
+    } else {
+        Meldung(katalogtexte::andererFehler, {unterthema});
+    }
+}
+
+} // namespace
+
+void ThemenLaden() {
+    try {
+        ThemenlisteLesen(DateiLesen(AppPfad + "\\WISSEN\\WISSEN.TXT"), ThemenListe);
+    } catch (const Laufzeitfehler&) {
+        // Told to nobody: the places not reached keep what they held.
+    }
+}
+
+void UnterthemenLaden(std::string_view thema) {
+    const Thema* zeile = ThemaSuchen(thema);
+    // A theme without a row has no path, and that is an error like any other.
+    ListeLaden(zeile == nullptr ? std::string() : Pfad(*zeile, zeile->listendatei), thema);
+}
+
+void HBUnterthemenLaden() {
+    ListeLaden(AppPfad + "\\WISSEN\\HB\\W_HB.TXT", "HB");
+}
+
+void FragenLaden(std::string_view thema, std::string_view unterthema, Fragenliste& liste) {
+    const Thema* zeile = ThemaSuchen(thema);
+    if (zeile == nullptr) {
+        return;
+    }
+    try {
+        const std::string_view datei = UnterthemaDatei(*zeile, unterthema);
+        if (datei.empty()) {
+            throw Laufzeitfehler(Fehler::DateinameFalsch);
+        }
+        FragenLesen(DateiLesen(Pfad(*zeile, datei)), zeile->kommentarzeilen, liste);
+    } catch (const Laufzeitfehler& fehler) {
+        FragenFehlerMelden(*zeile, unterthema, fehler);
+    }
+}
