@@ -11,6 +11,11 @@ set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/pakete.sh
 
+case "${1:-alles}" in
+  alles | stil | tidy | lint | release | debug | asan | coverage) ;;
+  *) sed -n '2,9p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+esac
+
 pakete_sichern "${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_lint[@]}"
 
 kerne=$(kerne)
@@ -59,5 +64,4 @@ case "${1:-alles}" in
   lint) stil; tidy ;;
   release) bauen release ;;
   debug | asan | coverage) tests "$@" ;;
-  *) sed -n '2,10p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
