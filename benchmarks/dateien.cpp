@@ -1,0 +1,199 @@
+// Form and question files against the bare work on the same bytes, and against files ten times as long.
+#include "benchmarks/kennzahl.h"
+#include "catalogue/katalogdatei.h"
+#include "core/datei.h"
+#include "core/pfad.h"
+#include "core/zustand.h"
+#include "persistence/formulardatei.h"
+#include "quizform/formdaten.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int fragen = 100'000;
+
+// The folder of all files measured; it goes with the program.
+const QTemporaryDir& Ordner() {
+    static const QTemporaryDir ordner;
+    return ordner;
+}
+
+std::string Nativ(const std::string& name) {
+    return (Ordner().path() + QLatin1Char('/')).toStdString() + name;
+}
+
+std::string Eigen(const std::string& name) {
+    return EigenerPfad(QString::fromStdString(Nativ(name)));
+}
+
+// A board with every cell full. The texts are `mal` times as long as a usual one.
+std::string VollesFormular(int mal) {
+    std::string frage;
+    std::string antwort;
+    for (int i = 0; i < mal; ++i) {
+        frage += "Wie heißt der größte Fluß, der über die Grenzen von fünf Ländern fließt ? ";
+        antwort += "Donau (Österreich, Ungarn ...) ";
+    }
+    FormTyp = "FK";
+    WissenTitel.fill("Länder und Flüsse");
+    FrageText.fill(frage);
+    AntwortText.fill(antwort);
+    FeldSpezial.fill("J");
+    FormNr = "17";
+    return FormularBytes("FKFragen");
+}
+
+std::string Fragendatei(int anzahl) {
+    std::string bytes = "Fragen\r\n";
+    for (int i = 1; i <= anzahl; ++i) {
+        bytes += std::to_string(i) + "\r\nWelches Tier h\xF6rt man in dieser Nacht am Flu\xDF rufen ?\r\n";
+        bytes += "Die Eule\r\n10\r\n";
+    }
+    return bytes;
+}
+
+// --- Form files
+
+void FormularLesenUndSpeichern(benchmark::State& lauf) {
+    DateiSchreiben(Eigen("form.FKR"), VollesFormular(1));
+    for ([[maybe_unused]] auto _ : lauf) {
+        const FormularErgebnis ergebnis = FormularAusBytes(DateiLesen(Eigen("form.FKR")), {});
+        if (ergebnis.code != 0) {
+            lauf.SkipWithError("no form file");
+        }
+        DateiSchreiben(Eigen("form.FKR"), FormularBytes("FKFragen"));
+    }
+}
+
+// Copies the bytes to a new file, forces file and folder to the disk and renames it, as a save must.
+void BytesKopieren(benchmark::State& lauf) {
+    DateiSchreiben(Eigen("roh.FKR"), VollesFormular(1));
+    const std::string ziel = Nativ("roh.FKR");
+    const std::string neben = Nativ("roh.neu");
+    const int ordner = ::open(Ordner().path().toStdString().c_str(), O_RDONLY);
+    for ([[maybe_unused]] auto _ : lauf) {
+        std::string bytes(1U << 16U, '\0');
+        const int quelle = ::open(ziel.c_str(), O_RDONLY);
+        const ssize_t laenge = ::read(quelle, bytes.data(), bytes.size());
+        ::close(quelle);
+        const int neu = ::open(neben.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+        if (::write(neu, bytes.data(), static_cast<std::size_t>(laenge)) != laenge || ::fsync(neu) != 0) {
+            lauf.SkipWithError("not copied");
+        }
+        ::close(neu);
+        if (::rename(neben.c_str(), ziel.c_str()) != 0 || ::fsync(ordner) != 0) {
+            lauf.SkipWithError("not renamed");
+        }
+    }
+    ::close(ordner);
+}
+
+// Without the disk: bytes into the model and back.
+void FormularImSpeicher(benchmark::State& lauf) {
+    const std::string bytes = VollesFormular(static_cast<int>(lauf.range(0)));
+    for ([[maybe_unused]] auto _ : lauf) {
+        const FormularErgebnis ergebnis = FormularAusBytes(bytes, {});
+        if (ergebnis.code != 0 || FormularBytes("FKFragen") != bytes) {
+            lauf.SkipWithError("not the same form");
+        }
+    }
+    lauf.SetBytesProcessed(lauf.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+
+// --- Question files
+
+void FragenInsModell(benchmark::State& lauf) {
+    DateiSchreiben(Eigen("fragen.TXT"), Fragendatei(static_cast<int>(lauf.range(0))));
+    for ([[maybe_unused]] auto _ : lauf) {
+        Fragenliste liste;
+        FragenLesen(DateiLesen(Eigen("fragen.TXT")), false, liste);
+        if (liste.punkte.size() != static_cast<std::size_t>(lauf.range(0))) {
+            lauf.SkipWithError("not all questions");
+        }
+    }
+}
+
+void ZeilenInVektor(benchmark::State& lauf) {
+    DateiSchreiben(Eigen("zeilen.TXT"), Fragendatei(fragen));
+    for ([[maybe_unused]] auto _ : lauf) {
+        std::ifstream datei(Nativ("zeilen.TXT"), std::ios::binary);
+        std::vector<std::string> zeilen;
+        for (std::string zeile; std::getline(datei, zeile);) {
+            zeilen.push_back(zeile);
+        }
+        if (zeilen.size() != 4U * fragen + 1) {
+            lauf.SkipWithError("not all lines");
+        }
+    }
+}
+
+BENCHMARK(FormularLesenUndSpeichern)->UseRealTime();
+BENCHMARK(BytesKopieren)->UseRealTime();
+BENCHMARK(FormularImSpeicher)->Arg(1)->Arg(10)->UseRealTime();
+BENCHMARK(FragenInsModell)->Arg(fragen)->Arg(10 * fragen)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ZeilenInVektor)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+// Keeps the times in milliseconds by the benchmark's name.
+class Zeiten : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>& laeufe) override {
+        for (const Run& lauf : laeufe) {
+            versagt_ = versagt_ || lauf.error_occurred;
+            const double einheit = benchmark::GetTimeUnitMultiplier(lauf.time_unit);
+            werte_[lauf.run_name.function_name + lauf.run_name.args].push_back(lauf.GetAdjustedRealTime() /
+                                                                               einheit * 1000.0);
+        }
+    }
+    void Ausgeben() const {
+        for (const auto& [name, werte] : werte_) {
+            std::cout << name << ": " << Median(werte) << " ms\n";
+        }
+    }
+    // The ratio of two, if both were measured.
+    void Gegen(std::string_view schluessel, const std::string& unser, const std::string& schlicht) const {
+        if (werte_.contains(unser) && werte_.contains(schlicht)) {
+            Verhaeltnis(schluessel, Median(werte_.at(unser)), Median(werte_.at(schlicht)), "ms");
+        }
+    }
+    [[nodiscard]] bool versagt() const { return versagt_ || werte_.empty(); }
+
+private:
+    std::map<std::string, std::vector<double>> werte_;
+    bool versagt_ = false;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    constexpr int runden = 11;
+    std::string dauer = "--benchmark_min_time=0.05";
+    std::vector<char*> argumente(argv, argv + argc);
+    argumente.insert(argumente.begin() + 1, dauer.data()); // the command line's own comes later and wins
+    int anzahl = static_cast<int>(argumente.size());
+    benchmark::Initialize(&anzahl, argumente.data());
+    Zeiten zeiten;
+    // All in turn, round by round, so that a busy machine meets them alike.
+    for (int runde = 0; runde < runden; ++runde) {
+        benchmark::RunSpecifiedBenchmarks(&zeiten);
+    }
+    zeiten.Ausgeben();
+    zeiten.Gegen("formular_datei", "FormularLesenUndSpeichern", "BytesKopieren");
+    zeiten.Gegen("formular_zehnfach", "FormularImSpeicher10", "FormularImSpeicher1");
+    zeiten.Gegen("fragen_lesen", "FragenInsModell" + std::to_string(fragen), "ZeilenInVektor");
+    zeiten.Gegen("fragen_zehnfach", "FragenInsModell" + std::to_string(10 * fragen),
+                 "FragenInsModell" + std::to_string(fragen));
+    return zeiten.versagt() ? 1 : 0;
+}
