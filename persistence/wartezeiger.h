@@ -2,6 +2,7 @@
 // to normal; then nothing is left to do.
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 class Wartezeiger {
