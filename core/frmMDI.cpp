@@ -10,8 +10,8 @@
 #include "core/werkzeugleisten.h"
 #include "core/zustand.h"
 #include "periphery/hinweise.h"
-#include "settings/einstellungen.h"
 #include "persistence/einstellungenladen.h"
+#include "settings/einstellungen.h"
 
 #include <QAction>
 #include <QApplication>
@@ -52,6 +52,8 @@ frmMDI::frmMDI() {
     HinweisSetzen(pnlHilfe_, "", "Hilfe", " 'Kurzhilfe'  und  'Ablage für Fragen'");
     connect(kindflaeche_, &QMdiArea::subWindowActivated, this, &frmMDI::KindGewechselt);
     findChild<QAction*>(QStringLiteral("mBackUp"))->setChecked(OptionDatei == 1);
+    BefehleFKFreigeben(false); // the forms bring them into use
+    BefehleHBFreigeben(false);
     DateilisteAnzeigen();
     setMinimumSize(640, 400);
     resize(Bildschirmgroesse(this) * 3 / 4); // the size for a user who takes it out of full screen

@@ -46,7 +46,7 @@ frmStart::frmStart() {
     cmdStart_ = new QPushButton(Anzeige(kerntexte::startZeile), this);
     cmdStart_->setObjectName(QStringLiteral("cmdStart"));
     cmdStart_->setGeometry(40, height() - 38, width() - 80, 28);
-    cmdStart_->setDefault(true);
+    cmdStart_->setAutoDefault(true); // Enter presses it, as a click does
     cmdStart_->setFocus();
     HinweisSetzen(cmdStart_, kerntexte::startTipp, "Hinweis", "");
     connect(cmdStart_, &QPushButton::clicked, this, [this] {

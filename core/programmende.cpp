@@ -5,9 +5,9 @@
 #include "core/texte.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "persistence/einstellungenladen.h"
 #include "persistence/speichern.h"
 #include "quizform/fkformular.h"
-#include "persistence/einstellungenladen.h"
 
 #include <QCoreApplication>
 

@@ -35,7 +35,7 @@ void ZeichenMelden(const QString& zeichen) {
 }
 
 class Zeichenpruefer : public QValidator {
-  public:
+public:
     using QValidator::QValidator;
 
     State validate(QString& eingabe, int& stelle) const override {
@@ -135,7 +135,9 @@ Textzeile::Textzeile(QWidget* eltern, const QString& name) : QLineEdit(eltern) {
     setValidator(new Zeichenpruefer(this));
 }
 
-std::string Textzeile::wert() const { return Modelltext(text()); }
+std::string Textzeile::wert() const {
+    return Modelltext(text());
+}
 
 void Textzeile::setWert(std::string_view text) {
     const QString neu = Anzeige(text);
@@ -144,6 +146,15 @@ void Textzeile::setWert(std::string_view text) {
     }
 }
 
-void TextMarkieren(QLineEdit* zeile) { zeile->selectAll(); }
+void Textzeile::focusInEvent(QFocusEvent* ereignis) {
+    QLineEdit::focusInEvent(ereignis);
+    TextMarkieren(this);
+}
 
-void TextMarkieren(QPlainTextEdit* feld) { feld->selectAll(); }
+void TextMarkieren(QLineEdit* zeile) {
+    zeile->selectAll();
+}
+
+void TextMarkieren(QPlainTextEdit* feld) {
+    feld->selectAll();
+}

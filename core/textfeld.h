@@ -41,6 +41,10 @@ public:
 
     [[nodiscard]] std::string wert() const;
     void setWert(std::string_view text);
+
+protected:
+    // Entering the line selects its whole text.
+    void focusInEvent(QFocusEvent* ereignis) override;
 };
 
 // Selects the whole text of the box.

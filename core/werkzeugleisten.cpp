@@ -47,52 +47,63 @@ void SchaltflaecheBauen(QWidget* pnlKranz, const Schaltflaeche& zeile) {
     BefehlVerbinden(taste);
 }
 
+// Face of the captions, and what stands around each.
+struct Leistenmass {
+    QFont schrift;
+    int polster;
+    int luecke;
+};
+
+int Tastenbreite(const Schaltflaeche& zeile, const Leistenmass& mass) {
+    return QFontMetrics(mass.schrift).horizontalAdvance(Anzeige(zeile.aufschrift)) + mass.polster;
+}
+
 // Places the buttons of one bar from the left and returns where the next would stand, in pixels.
-int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const QFont& schrift) {
+int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const Leistenmass& mass) {
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
         if (zeile.leiste != leiste || taste == nullptr) {
             continue;
         }
-        taste->setFont(schrift);
-        const int breite = QFontMetrics(schrift).horizontalAdvance(taste->text()) + 11;
-        x += zeile.abstand ? 7 : 0;
+        taste->setFont(mass.schrift);
+        const int breite = Tastenbreite(zeile, mass);
+        x += zeile.abstand ? mass.luecke : 0;
         taste->setGeometry(x, oben, breite, Pixel(leistenHoehe));
         x += breite;
     }
     return x;
 }
 
-// Width that the quiz toolbar and the constant buttons need together with that face.
-int Bedarf(const QFont& schrift) {
-    int bedarf = Pixel(525 + 120) + 40;
+// Width that the quiz toolbar with miniature and flags and the constant buttons need together.
+int Bedarf(const Leistenmass& mass) {
+    int bedarf = Pixel(2 * leistenRand + 525 + 120) + 4 + 24 + 4;
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         if (zeile.leiste == Leiste::FK || zeile.leiste == Leiste::Immer) {
-            bedarf += QFontMetrics(schrift).horizontalAdvance(Anzeige(zeile.aufschrift)) + 11 + 7;
+            bedarf += Tastenbreite(zeile, mass) + (zeile.abstand ? mass.luecke : 0);
         }
     }
     return bedarf;
 }
 
-// The largest face with which everything finds its place; below the last one it is too small to read.
-QFont LeistenSchrift(int breite) {
-    for (const double punkt : {8.25, 7.5}) {
-        if (Bedarf(Schrift(punkt)) <= breite) {
-            return Schrift(punkt);
+// The largest face with which everything finds its place.
+Leistenmass LeistenmassFuer(int breite) {
+    for (const Leistenmass& mass : {Leistenmass{Schrift(8.25), 11, 7}, Leistenmass{Schrift(7.5), 9, 5}}) {
+        if (Bedarf(mass) <= breite) {
+            return mass;
         }
     }
-    return Schrift(6.75);
+    return {Schrift(6.75), 6, 3};
 }
 
 // picSpezial stands at the right end of the quiz toolbar, pnlHBPun at that of the test toolbar.
-void FKLeisteAnordnen(QWidget* pnlKranz, const QFont& schrift) {
+void FKLeisteAnordnen(QWidget* pnlKranz, const Leistenmass& mass) {
     QWidget* picFK = Traeger(pnlKranz, Leiste::FK);
-    const int ende = Aufreihen(pnlKranz, Leiste::FK, 0, 0, schrift) + 4;
+    const int ende = Aufreihen(pnlKranz, Leiste::FK, 0, 0, mass) + 4;
     picFK->setGeometry(Pixel(leistenRand), Pixel(leistenRand), ende + Pixel(525), Pixel(leistenHoehe));
     picFK->findChild<QWidget*>(QStringLiteral("picSpezial"))
         ->setGeometry(picFK->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
     QWidget* picHB = Traeger(pnlKranz, Leiste::HB);
-    const int endeHB = Aufreihen(pnlKranz, Leiste::HB, 0, 0, schrift) + 4;
+    const int endeHB = Aufreihen(pnlKranz, Leiste::HB, 0, 0, mass) + 4;
     picHB->setGeometry(Pixel(leistenRand), Pixel(leistenRand), endeHB + Pixel(525), Pixel(leistenHoehe));
     picHB->findChild<QWidget*>(QStringLiteral("pnlHBPun"))
         ->setGeometry(picHB->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
@@ -122,15 +133,16 @@ void WerkzeugleistenBauen(QWidget* pnlKranz) {
 }
 
 void WerkzeugleistenAnordnen(QWidget* pnlKranz) {
-    const QFont schrift = LeistenSchrift(pnlKranz->width());
+    const Leistenmass mass = LeistenmassFuer(pnlKranz->width());
     QWidget* picKranz = Traeger(pnlKranz, Leiste::Kranz);
-    picKranz->setGeometry(Pixel(leistenRand), Pixel(leistenRand), pnlKranz->width() - Pixel(2 * leistenRand), Pixel(leistenHoehe));
-    Aufreihen(pnlKranz, Leiste::Kranz, 0, 0, schrift);
-    FKLeisteAnordnen(pnlKranz, schrift);
+    picKranz->setGeometry(Pixel(leistenRand), Pixel(leistenRand), pnlKranz->width() - Pixel(2 * leistenRand),
+                          Pixel(leistenHoehe));
+    Aufreihen(pnlKranz, Leiste::Kranz, 0, 0, mass);
+    FKLeisteAnordnen(pnlKranz, mass);
     // The constant buttons end at the right edge, above the toolbars' empty right part.
-    const int laenge = Aufreihen(pnlKranz, Leiste::Immer, 0, Pixel(leistenRand), schrift);
-    Aufreihen(pnlKranz, Leiste::Immer, std::max(0, pnlKranz->width() - Pixel(leistenRand) - laenge), Pixel(leistenRand),
-              schrift);
+    const int laenge = Aufreihen(pnlKranz, Leiste::Immer, 0, Pixel(leistenRand), mass);
+    Aufreihen(pnlKranz, Leiste::Immer, std::max(0, pnlKranz->width() - Pixel(leistenRand) - laenge),
+              Pixel(leistenRand), mass);
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         if (zeile.leiste == Leiste::Immer) {
             pnlKranz->findChild<QWidget*>(Anzeige(zeile.name))->raise();
