@@ -1,0 +1,105 @@
+#include "formlauf.h"
+
+#include "core/frmMDI.h"
+#include "core/hauptfenster.h"
+#include "core/pfad.h"
+#include "core/pfadname.h"
+#include "core/zustand.h"
+#include "persistence/formulardatei.h"
+#include "quizform/fkformular.h"
+#include "settings/einstellungen.h"
+#include "tests/hilfe/finden.h"
+#include "vorgaben.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QLineEdit>
+#include <QTest>
+
+void Formlauf::Vorbereiten() {
+    // One program for all tests: its file dialog remembers the folder it was in.
+    if (programm_ == nullptr) {
+        programm_ = std::make_unique<Programm>(false);
+    }
+    FormGeaendert = 0;
+    FK_Entladen();
+    ZustandZuruecksetzen();
+    ModusHaupt();
+    QDir ordner(programm_->ordner().nativ(QStringLiteral("KRANZ")));
+    for (const QString& name : ordner.entryList(QDir::Files)) {
+        ordner.remove(name);
+    }
+}
+
+QByteArray Formlauf::Quiz(const std::string& wort) {
+    QuizFuellen();
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        FrageText.at(static_cast<std::size_t>(n)) = wort + " " + std::to_string(n);
+        FeldSpezial.at(static_cast<std::size_t>(n)) = "";
+    }
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("FKFragen"));
+    AllesLeeren();
+    return bytes;
+}
+
+QByteArray Formlauf::Test(const std::string& wort) {
+    TestFuellen();
+    HBFrageText[1] = wort;
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("HBFragen"));
+    AllesLeeren();
+    return bytes;
+}
+
+void Formlauf::Schreiben(const QString& name, const QByteArray& bytes) const {
+    programm_->ordner().schreiben(QStringLiteral("KRANZ/") + name, bytes);
+}
+
+QByteArray Formlauf::Lesen(const QString& name) const {
+    return programm_->ordner().lesen(QStringLiteral("KRANZ/") + name);
+}
+
+std::string Formlauf::Pfad(const std::string& name) const {
+    return Grossschreiben(AppPfad + "\\KRANZ\\" + name);
+}
+
+void Formlauf::Druecken(const QString& name) const {
+    auto* knopf = Finden<QAbstractButton>(programm_->haupt(), name);
+    if (!knopf->isVisible() || !knopf->isEnabled()) {
+        Versagen(name + QStringLiteral(" is out of reach"), Stelle::hier());
+    }
+    QTest::mouseClick(knopf, Qt::LeftButton);
+}
+
+void Formlauf::Oeffnen(const QString& name) const {
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), name, QStringLiteral("cmdLaden"));
+    Druecken(FKFragenOffen() != nullptr ? QStringLiteral("cmdDateiFK(2)") : QStringLiteral("cmdLaden"));
+}
+
+frmFKFragen* Formlauf::NeuesFormular(const QString& text) const {
+    frmFKFragen* form = programm_->NeuesQuizformular();
+    form->txtFrage.at(1)->setFocus();
+    QTest::keyClicks(form->txtFrage.at(1), text);
+    return form;
+}
+
+void DateidialogErwarten(Dialogfolge& dialoge, const QString& titel, const QString& name,
+                         const QString& taste, Stelle stelle) {
+    dialoge.erwarte({QStringLiteral("frmDatei"),
+                     titel,
+                     std::nullopt,
+                     {taste},
+                     [name](QDialog& dialog) {
+                         auto* feld = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
+                         if (!name.isEmpty()) {
+                             feld->selectAll();
+                             QTest::keyClicks(feld, name);
+                         }
+                     }},
+                    stelle);
+}
+
+void GespeichertErwarten(Dialogfolge& dialoge, const QString& name, Stelle stelle) {
+    dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ %1 ]").arg(name), QStringLiteral("Schön"),
+                    stelle);
+}

@@ -1,0 +1,389 @@
+// Saving the open form in the real main window: old name, new name, backup, and the questions on the way.
+#include "core/frmMDI.h"
+#include "core/hauptfenster.h"
+#include "core/zustand.h"
+#include "dialogs/meldung.h"
+#include "formlauf.h"
+#include "persistence/oeffnen.h"
+#include "persistence/speichern.h"
+#include "quizform/fkformular.h"
+#include "settings/einstellungen.h"
+#include "tests/hilfe/finden.h"
+#include "vorgaben.h"
+
+#include <QTest>
+
+namespace {
+
+const QString speichernUnter = QStringLiteral("Speichern unter ...");
+const QString cmdSpeichern = QStringLiteral("cmdSpeichern");
+const QString speichernTaste = QStringLiteral("cmdDateiFK(3)");
+const QString unterTaste = QStringLiteral("cmdDateiFK(4)");
+
+void UeberschreibenErwarten(Dialogfolge& dialoge, const QString& name, int antwort,
+                            Stelle stelle = Stelle::hier()) {
+    dialoge.frage(QStringLiteral(" Speichern unter ..."),
+                  QStringLiteral("Die Auswertung\n[ %1 ]\nist bereits vorhanden !\nSoll ich diese Datei "
+                                 "überschreiben ?")
+                      .arg(name),
+                  antwort, stelle);
+}
+
+void AendernUndMerken(frmFKFragen* form, const QString& text) {
+    form->txtFrage.at(2)->setFocus();
+    QTest::keyClicks(form->txtFrage.at(2), text);
+    QCOMPARE(FormGeaendert, 1);
+}
+
+} // namespace
+
+class SpeichernTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { lauf.Vorbereiten(); }
+    void cleanupTestCase() { lauf.Beenden(); }
+
+    void aFormWithoutANameAsksForOneAndTheSecondTimeNot();
+    void headAndTextsOfTheScreenReachTheFile();
+    void aNameGetsItsExtensionAndKeepsOneInSmallLetters();
+    void theBackupIsTheVersionOfTheSaveBefore();
+    void aNewFormTellsThatNoBackupCouldBeMade();
+    void anOpenedBackupIsNotBackedUpOverItself();
+    void cancellingTheOverwriteQuestionLeavesTheOldFile();
+    void closingTheOverwriteQuestionByItsFrameDestroysNothing();
+    void anOverwriteAnsweredJaReplacesTheFile();
+    void theQuestionIsAskedUnderTheNameThatWillBeWritten();
+    void aCancelledDialogSavesNothingAndKeepsTheFormsFile();
+    void anEmptyNameSavesNothing();
+    void aFailedSaveIsReportedAndClaimsNothing();
+    void aSaveGoesToTheFormsOwnFileAfterARefusedOne();
+    void filesThatDifferInCaseOnlyStayApart();
+    void theQuestionBeforeOpeningSavesOnJa();
+    void aSaveThatDidNotComeAboutCountsAsCancelled();
+    void theClosingCheckKeepsOrReleasesTheForm();
+    void withoutAFormThereIsNothingToSave();
+    void theCatalogueBackupTellsItsTwoMessages();
+
+private:
+    Formlauf lauf;
+};
+
+void SpeichernTest::aFormWithoutANameAsksForOneAndTheSecondTimeNot() {
+    frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Eins"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("Neu.FKR"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("Neu.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 0);
+    QCOMPARE(form->windowTitle(), QStringLiteral("Neu.FKR "));
+    QCOMPARE(lauf.Lesen(QStringLiteral("Neu.FKR")).count('\n'), 125);
+    QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
+
+    AendernUndMerken(form, QStringLiteral("Zwei"));
+    GespeichertErwarten(dialoge, QStringLiteral("Neu.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(lauf.Lesen(QStringLiteral("Neu.FKR")).contains("\"Zwei\""));
+}
+
+void SpeichernTest::headAndTextsOfTheScreenReachTheFile() {
+    frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Wer?"));
+    form->txtNr->setFocus();
+    QTest::keyClicks(form->txtNr, QStringLiteral("12"));
+    form->txtDatum->setFocus();
+    QTest::keyClicks(form->txtDatum, QStringLiteral("3. Mai"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("K.FKR"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("K.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(lauf.Lesen(QStringLiteral("K.FKR"))
+                .contains("\"[ALLGEMEINES]\"\r\n\"12\"\r\n\"3. Mai\"\r\n\"\"\r\n\"[FKPUNKTE]\"\r\n"));
+    QVERIFY(lauf.Lesen(QStringLiteral("K.FKR")).contains("\"Wissen\"\r\n\"Wer?\"\r\n\"\"\r\n\"\"\r\n"));
+}
+
+void SpeichernTest::aNameGetsItsExtensionAndKeepsOneInSmallLetters() {
+    frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Eins"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ohne"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("ohne.FKR"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(!lauf.Lesen(QStringLiteral("ohne.FKR")).isEmpty());
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("klein.fkr"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("klein.fkr"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(!lauf.Lesen(QStringLiteral("klein.fkr")).isEmpty());
+    QCOMPARE(form->windowTitle(), QStringLiteral("klein.fkr "));
+    QVERIFY(dialoge.fertig());
+}
+
+void SpeichernTest::theBackupIsTheVersionOfTheSaveBefore() {
+    frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Eins"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("S.FKR"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("S.FKR"));
+    lauf.Druecken(speichernTaste);
+    OptionDatei = 1;
+    QByteArray vorher;
+    for (const char* text : {"Zwei", "Drei"}) {
+        vorher = lauf.Lesen(QStringLiteral("S.FKR"));
+        AendernUndMerken(form, QString::fromLatin1(text));
+        dialoge.meldung(QStringLiteral("BackUp angelegt :   [ S.BAK ]"), QStringLiteral("Schön"));
+        GespeichertErwarten(dialoge, QStringLiteral("S.FKR"));
+        lauf.Druecken(speichernTaste);
+        QVERIFY(dialoge.fertig());
+        QCOMPARE(lauf.Lesen(QStringLiteral("S.BAK")), vorher);
+    }
+    QVERIFY(vorher.contains("\"Zwei\""));
+    QVERIFY(lauf.Lesen(QStringLiteral("S.FKR")).contains("\"ZweiDrei\""));
+}
+
+void SpeichernTest::aNewFormTellsThatNoBackupCouldBeMade() {
+    lauf.NeuesFormular(QStringLiteral("Eins"));
+    OptionDatei = 1;
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("N.FKR"), cmdSpeichern);
+    dialoge.meldung(
+        QStringLiteral("Ich konnte kein BackUp anlegen von : \n[ N.FKR ]\n(Die Datei gab es bisher "
+                       "wahrscheinlich noch nicht.)"),
+        QStringLiteral("Das finde ich nicht so gut"));
+    GespeichertErwarten(dialoge, QStringLiteral("N.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(!lauf.Lesen(QStringLiteral("N.FKR")).isEmpty());
+}
+
+void SpeichernTest::anOpenedBackupIsNotBackedUpOverItself() {
+    lauf.Schreiben(QStringLiteral("A.BAK"), Formlauf::Quiz("Alt"));
+    OptionDatei = 1;
+    lauf.Oeffnen(QStringLiteral("A.BAK"));
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("Ich konnte kein BackUp anlegen von : \n[ A.BAK ]"),
+                    QStringLiteral("Das finde ich nicht so gut"));
+    GespeichertErwarten(dialoge, QStringLiteral("A.BAK"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+}
+
+void SpeichernTest::cancellingTheOverwriteQuestionLeavesTheOldFile() {
+    lauf.Schreiben(QStringLiteral("ALT.FKR"), "alt");
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
+    UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 2);
+    dialoge.meldung(QStringLiteral("Speichern unter... abgebrochen"), QStringLiteral("Jawohl"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("ALT.FKR")), QByteArray("alt"));
+    QCOMPARE(FormGeaendert, 1);
+    QCOMPARE(FKDateiName, std::string());
+}
+
+void SpeichernTest::closingTheOverwriteQuestionByItsFrameDestroysNothing() {
+    lauf.Schreiben(QStringLiteral("ALT.FKR"), "alt");
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    NachrichtAntwort = antwortJa;
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
+    dialoge.erwarte({QStringLiteral("frmNachricht"), std::nullopt, std::nullopt, {durchRahmen}, {}});
+    dialoge.meldung(QStringLiteral("Speichern unter... abgebrochen"), QStringLiteral("Jawohl"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("ALT.FKR")), QByteArray("alt"));
+}
+
+void SpeichernTest::anOverwriteAnsweredJaReplacesTheFile() {
+    lauf.Schreiben(QStringLiteral("ALT.FKR"), "alt");
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
+    UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 6);
+    GespeichertErwarten(dialoge, QStringLiteral("ALT.FKR"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("ALT.FKR")).startsWith("\"Feldkranz\"\r\n\"FK\"\r\n"));
+}
+
+void SpeichernTest::theQuestionIsAskedUnderTheNameThatWillBeWritten() {
+    lauf.Schreiben(QStringLiteral("ALT.FKR"), "alt");
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT"), cmdSpeichern);
+    UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 2);
+    dialoge.meldung(QStringLiteral("Speichern unter... abgebrochen"), QStringLiteral("Jawohl"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("ALT.FKR")), QByteArray("alt"));
+}
+
+void SpeichernTest::aCancelledDialogSavesNothingAndKeepsTheFormsFile() {
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
+    lauf.Oeffnen(QStringLiteral("A.FKR"));
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    const QByteArray vorher = lauf.Lesen(QStringLiteral("A.FKR"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("B.FKR"), QStringLiteral("cmdAbbrechen"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 1);
+    QCOMPARE(DateiAbbruch, 0);
+    QCOMPARE(lauf.Lesen(QStringLiteral("A.FKR")), vorher);
+    QVERIFY(lauf.Lesen(QStringLiteral("B.FKR")).isNull());
+    QCOMPARE(DateiName, lauf.Pfad("A.FKR"));
+    GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+}
+
+void SpeichernTest::anEmptyNameSavesNothing() {
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, QString(), cmdSpeichern); // the pattern still stands there
+    dialoge.meldung(QStringLiteral("Speichern unter abgebrochen"), QStringLiteral("Machst du später"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 1);
+}
+
+void SpeichernTest::aFailedSaveIsReportedAndClaimsNothing() {
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    const QString zuLang(300, u'x');
+    DateidialogErwarten(dialoge, speichernUnter, zuLang, cmdSpeichern);
+    dialoge.meldung(QStringLiteral("DATEI : FormularSpeichern :\nDateiname !?"),
+                    QStringLiteral("Grrr.. *~§§°"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 1);
+    QCOMPARE(FKDateiName, std::string());
+    QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral(" Neues Feldkranz-Formular"));
+}
+
+void SpeichernTest::aSaveGoesToTheFormsOwnFileAfterARefusedOne() {
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
+    lauf.Schreiben(QStringLiteral("BRIEF.TXT"), "Liebe Oma");
+    lauf.Oeffnen(QStringLiteral("A.FKR"));
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("Evtl. keine Feldkranz-Datei !"), QStringLiteral("Grrr"));
+    DateiName = lauf.Pfad("BRIEF.TXT");
+    FormularLaden();
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("BRIEF.TXT")), QByteArray("Liebe Oma"));
+    QVERIFY(lauf.Lesen(QStringLiteral("A.FKR")).contains("Neu"));
+}
+
+void SpeichernTest::filesThatDifferInCaseOnlyStayApart() {
+    lauf.Schreiben(QStringLiteral("a.fkr"), Formlauf::Quiz("klein"));
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Test("gross"));
+    const QByteArray gross = lauf.Lesen(QStringLiteral("A.FKR"));
+    lauf.Oeffnen(QStringLiteral("a.fkr"));
+    QCOMPARE(QString::fromStdString(FK_Frage(1)), QStringLiteral("klein 1"));
+    Dialogfolge dialoge;
+    // The other one is chosen since, under the same name in capitals, and refused.
+    DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), QStringLiteral("A.FKR"),
+                        QStringLiteral("cmdLaden"));
+    dialoge.meldung(
+        QStringLiteral("Ich kann jetzt kein Testformular laden.\nDu mußt erst das Feldkranzformular "
+                       "schließen."),
+        QStringLiteral("Den Gefallen kann ich dir tun !"));
+    lauf.Druecken(QStringLiteral("cmdDateiFK(2)"));
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("A.FKR")), gross);
+    QVERIFY(lauf.Lesen(QStringLiteral("a.fkr")).contains("Neu"));
+}
+
+void SpeichernTest::theQuestionBeforeOpeningSavesOnJa() {
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
+    lauf.Oeffnen(QStringLiteral("A.FKR"));
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    dialoge.frage(QStringLiteral("Auswertung speichern !"),
+                  QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
+    GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
+    dialoge.meldung(QStringLiteral("Formular wurde gespeichert !"), QStringLiteral("Aha"));
+    QCOMPARE(AuswertungSpeichernFragen(), 0);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("A.FKR")).contains("Neu"));
+    QCOMPARE(FormGeaendert, 0);
+}
+
+void SpeichernTest::aSaveThatDidNotComeAboutCountsAsCancelled() {
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    dialoge.frage(QStringLiteral("Auswertung speichern !"),
+                  QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
+    DateidialogErwarten(dialoge, speichernUnter, QString(), QStringLiteral("cmdAbbrechen"));
+    QCOMPARE(AuswertungSpeichernFragen(), 1);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 1);
+}
+
+void SpeichernTest::theClosingCheckKeepsOrReleasesTheForm() {
+    const QString titel = QStringLiteral("Neues Test-Formular");
+    const QString frage = QStringLiteral("Soll ich das vorhandene Formular vorher speichern ?");
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    dialoge.frage(titel, frage, 2);
+    QVERIFY(!FK_Schliessen());
+    QVERIFY(FKFragenOffen() != nullptr);
+
+    dialoge.frage(titel, frage, 6);
+    DateidialogErwarten(dialoge, speichernUnter, QString(), QStringLiteral("cmdAbbrechen"));
+    QVERIFY(!FK_Schliessen());
+    QCOMPARE(FormGeaendert, 1);
+
+    dialoge.frage(titel, frage, 6);
+    DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("Z.FKR"), cmdSpeichern);
+    GespeichertErwarten(dialoge, QStringLiteral("Z.FKR"));
+    QVERIFY(FK_Schliessen());
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("Z.FKR")).contains("\"Neu\""));
+    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
+}
+
+void SpeichernTest::withoutAFormThereIsNothingToSave() {
+    Dialogfolge dialoge;
+    for (int mal = 0; mal < 2; ++mal) {
+        dialoge.meldung(QStringLiteral("Speichern unter abgebrochen"), QStringLiteral("Machst du später"));
+    }
+    lauf.Schreiben(QStringLiteral("A.FKR"), "alt");
+    DateiName = lauf.Pfad("A.FKR");
+    QVERIFY(!Speichern());
+    QVERIFY(!SpeichernUnter(2));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("A.FKR")), QByteArray("alt"));
+}
+
+void SpeichernTest::theCatalogueBackupTellsItsTwoMessages() {
+    lauf.Schreiben(QStringLiteral("FRAGEN.TXT"), "Kopf\r\n");
+    DateiName = lauf.Pfad("FRAGEN.TXT");
+    SicherungAnlegenKatalog(); // not set: nothing happens
+    QVERIFY(lauf.Lesen(QStringLiteral("FRAGEN.BAK")).isNull());
+    OptionDatei = 1;
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("FRAGEN.TXT"));
+    dialoge.meldung(
+        QStringLiteral("BackUp angelegt : \n[ %1.BAK ]").arg(QString::fromStdString(lauf.Pfad("FRAGEN"))),
+        QStringLiteral("Wirklich ?!"));
+    SicherungAnlegenKatalog();
+    QCOMPARE(lauf.Lesen(QStringLiteral("FRAGEN.BAK")), QByteArray("Kopf\r\n"));
+    DateiName = lauf.Pfad("NEU.TXT");
+    dialoge.meldung(QStringLiteral("Ich konnte kein BackUp anlegen von : \n[ NEU.TXT ]"),
+                    QStringLiteral("Das finde ich nicht so gut"));
+    SicherungAnlegenKatalog();
+    QVERIFY(dialoge.fertig());
+}
+
+QTEST_MAIN(SpeichernTest)
+#include "speichern_test.moc"
