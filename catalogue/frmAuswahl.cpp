@@ -1,0 +1,191 @@
+#include "catalogue/frmAuswahl.h"
+
+#include "catalogue/auswahl.h"
+#include "catalogue/auswahllisten.h"
+#include "catalogue/auswahltexte.h"
+#include "catalogue/blattfall.h"
+#include "catalogue/katalogladen.h"
+#include "catalogue/muell.h"
+#include "catalogue/spaltenmodell.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+#include "core/textfeld.h"
+#include "core/ziehen.h"
+#include "periphery/hinweise.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QSignalBlocker>
+
+#include <span>
+#include <utility>
+
+namespace {
+
+QPointer<frmAuswahl> offen;
+
+// All twenty places, the empty ones too, and none of them picked.
+void Fuellen(QComboBox* liste, std::span<const std::string> plaetze) {
+    const QSignalBlocker still(liste);
+    liste->clear();
+    for (const std::string& platz : plaetze.subspan(1)) {
+        liste->addItem(Anzeige(platz));
+    }
+    liste->setCurrentIndex(-1);
+}
+
+} // namespace
+
+frmAuswahl::frmAuswahl(QWidget* eltern) : QWidget(eltern, Qt::Tool) {
+    setObjectName(QStringLiteral("frmAuswahl"));
+    setWindowTitle(Anzeige(auswahltexte::fenstertitel));
+    setAttribute(Qt::WA_DeleteOnClose);
+    Aufbauen();
+    KeinZiel(this);
+    EreignisseVerbinden();
+    TippsSetzen();
+    Einpassen();
+    ThemenLaden();
+    Fuellen(cmbThemen_, ThemenListe);
+}
+
+void frmAuswahl::EreignisseVerbinden() {
+    BeiWahl(cmbThemen_, "AUSWAHL : cmbThemen_Click", [this] { ThemaGewaehlt(); });
+    BeiWahl(cmbUnter_, "AUSWAHL : cmbUnter_Click", [this] { UnterthemaGewaehlt(); });
+    BeiWahl(cmbFrage_, "AUSWAHL : cmbFrage_Click", [this] { FrageGewaehlt(); });
+    txtFrage_->viewport()->installEventFilter(this);
+    txtFrage_->installEventFilter(this);
+    TastenEinrichten(txtFrage_, [this](Qt::KeyboardModifiers) { FrageZiehen(); });
+}
+
+void frmAuswahl::TippsSetzen() {
+    for (const auto& [name, titel, text] : auswahltexte::tipps) {
+        if (auto* element =
+                findChild<QWidget*>(QLatin1String(name.data(), static_cast<qsizetype>(name.size())))) {
+            HinweisSetzen(element, text, titel, {});
+        }
+    }
+}
+
+void frmAuswahl::ThemaGewaehlt() {
+    UnterthemenLaden(Modelltext(cmbThemen_->currentText()));
+    Fuellen(cmbUnter_, UnterthemenListe);
+}
+
+// The lists take the questions in one go, and none of them is picked.
+void frmAuswahl::ListenSetzen(Fragenliste liste) {
+    const QSignalBlocker still(cmbFrage_); // a list filled anew would pick its first entry by itself
+    nr_->setWerte(std::move(liste.nr));
+    frage_->setWerte(std::move(liste.frage));
+    antwort_->setWerte(std::move(liste.antwort));
+    punkte_->setWerte(std::move(liste.punkte));
+    cmbFrage_->setCurrentIndex(-1);
+}
+
+void frmAuswahl::UnterthemaGewaehlt() {
+    ListenSetzen({});
+    for (QLineEdit* zeile : {txtNr_, txtPunkte_}) {
+        zeile->clear();
+    }
+    for (Textfeld* feld : {txtFrage_, txtAntwort_}) {
+        feld->setText({});
+    }
+    Fragenliste liste;
+    FragenLaden(Modelltext(cmbThemen_->currentText()), Modelltext(cmbUnter_->currentText()), liste);
+    ListenSetzen(std::move(liste));
+}
+
+void frmAuswahl::FrageGewaehlt() {
+    const std::vector<std::string>& fragen = frage_->werte();
+    const auto gewaehlt = static_cast<std::size_t>(cmbFrage_->currentIndex());
+    if (gewaehlt >= fragen.size()) {
+        return;
+    }
+    txtFrage_->setText(fragen[gewaehlt]);
+    // Meant: of questions with the same text the last one gives the answer, whichever was picked.
+    std::size_t letzte = gewaehlt;
+    for (std::size_t i = 0; i < fragen.size(); ++i) {
+        if (fragen[i] == fragen[gewaehlt]) {
+            letzte = i;
+        }
+    }
+    txtAntwort_->setText(antwort_->werte().at(letzte));
+    txtNr_->setText(Anzeige(nr_->werte().at(letzte)));
+    txtPunkte_->setText(Anzeige(punkte_->werte().at(letzte)));
+}
+
+// Also an empty field begins a drag.
+void frmAuswahl::FrageZiehen() {
+    DragArt = 0;
+    DragHerkunft = "Auswahl";
+    Ziehen(txtFrage_, txtFrage_->text());
+}
+
+// The way by key: the question is held, and F8 puts it where the user goes in the main window.
+void frmAuswahl::FrageAufnehmen() {
+    if (!txtFrage_->text().empty() && OhneMausAufnehmen([this] { FrageZiehen(); }) &&
+        Hauptfenster() != nullptr) {
+        Hauptfenster()->activateWindow();
+    }
+}
+
+std::string frmAuswahl::antwort() const {
+    return txtAntwort_->text();
+}
+
+void frmAuswahl::BlattFallenLassen() {
+    blattfall_->Anstossen();
+}
+
+bool frmAuswahl::eventFilter(QObject* objekt, QEvent* ereignis) {
+    const bool druck =
+        ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick;
+    if (druck && objekt == txtFrage_->viewport() &&
+        static_cast<QMouseEvent*>(ereignis)->button() == Qt::LeftButton) {
+        FrageZiehen();
+        return true;
+    }
+    if (ereignis->type() == QEvent::KeyPress && objekt == txtFrage_) {
+        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
+        if (taste == Qt::Key_Return || taste == Qt::Key_Enter) {
+            FrageAufnehmen();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(objekt, ereignis);
+}
+
+void frmAuswahl::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(ereignis);
+}
+
+void frmAuswahl::closeEvent(QCloseEvent* ereignis) {
+    if (offen == this) {
+        offen = nullptr; // the next opening makes a new window, with empty lists
+    }
+    QWidget::closeEvent(ereignis);
+}
+
+void AuswahlZeigen() {
+    if (offen == nullptr) {
+        offen = new frmAuswahl(Hauptfenster());
+    }
+    offen->show();
+    offen->raise();
+    offen->activateWindow();
+}
+
+frmAuswahl* AuswahlOffen() {
+    return offen;
+}
+
+std::string AuswahlAntwort() {
+    return offen != nullptr ? offen->antwort() : std::string();
+}
