@@ -108,14 +108,22 @@ void Verbinden(std::string& ziel, char32_t marke) {
     }
 }
 
+// An equivalent holds characters of the code page only.
+void ErsatzAnhaengen(std::string& ziel, char32_t zeichen) {
+    const std::string ersatz = zeichen == keinZeichen ? std::string() : Ersatzzeichen(zeichen);
+    std::string_view rest = ersatz.empty() ? std::string_view("?") : ersatz;
+    while (!rest.empty()) {
+        ziel += static_cast<char>(Byte(Utf8Nehmen(rest)));
+    }
+}
+
 void ByteAnhaengen(std::string& ziel, char32_t zeichen) {
     if (const int byte = Byte(zeichen); byte >= 0) {
         ziel += static_cast<char>(byte);
     } else if (Kombinierend(zeichen)) {
         Verbinden(ziel, zeichen);
     } else {
-        const std::string ersatz = zeichen == keinZeichen ? std::string() : Ersatzzeichen(zeichen);
-        ziel += ersatz.empty() ? std::string("?") : NachCp1252(ersatz);
+        ErsatzAnhaengen(ziel, zeichen);
     }
 }
 

@@ -1,0 +1,185 @@
+// The catalogue's files on the disk and what is said when one fails.
+#include "catalogue/katalogladen.h"
+#include "core/oberflaeche.h"
+#include "core/zustand.h"
+#include "tests/hilfe/dialogfolge.h"
+#include "tests/hilfe/programmordner.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+QString Ordner(const QString& darunter) {
+    return Anzeige(AppPfad) + darunter;
+}
+
+void ListenfehlerErwarten(Dialogfolge& dialoge, const QString& thema, Stelle stelle = Stelle::hier()) {
+    dialoge.meldung(
+        QStringLiteral("Ich habe Probleme mit den Unterthemen zu  [ %1 ] !\n( Wahrscheinlich fehlt die "
+                       "entsprechende Datei\nim Ordner [ %2 ] )")
+            .arg(thema, Ordner(QStringLiteral("\\WISSEN"))),
+        QStringLiteral("Ich sehe nach !"), stelle);
+}
+
+void DateifehlerErwarten(Dialogfolge& dialoge, const QString& unterthema, const QString& ordner,
+                         Stelle stelle = Stelle::hier()) {
+    dialoge.meldung(
+        QStringLiteral("Ich habe Probleme mit den Unterthemen zu\n[ %1 ] !\n( Wahrscheinlich fehlt die "
+                       "entsprechende Datei\nim Ordner [ %2 ] )")
+            .arg(unterthema, Ordner(ordner)),
+        QStringLiteral("Ich sehe nach !"), stelle);
+}
+
+} // namespace
+
+class KatalogladenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { OberflaecheEinrichten(); }
+    void init() {
+        ThemenListe.fill("alt");
+        UnterthemenListe.fill("alt");
+    }
+
+    void everyThemeAndSubThemeOfTheShippedCatalogueLoads();
+    void aShortThemeListKeepsTheOtherPlacesWithoutAWord();
+    void aMissingThemeListSaysNothing();
+    void aShortSubThemeListIsReported();
+    void aMissingSubThemeListIsReportedForEveryTheme();
+    void aMissingQuestionFileNamesTheFolderOfTheTable();
+    void aSubThemeWithoutARowGivesTheShortText();
+    void aRecordCutShortIsLostWithoutAWord();
+    void essenIsAnotherFileUnderAnotherTheme();
+    void anUnknownThemeLoadsNoQuestions();
+};
+
+void KatalogladenTest::everyThemeAndSubThemeOfTheShippedCatalogueLoads() {
+    const Programmordner ordner;
+    Dialogfolge dialoge; // a message fails the test
+    ThemenLaden();
+    int themen = 0;
+    for (const std::string& name : ThemenListe) {
+        const Thema* thema = ThemaSuchen(name);
+        themen += thema != nullptr ? 1 : 0;
+        if (thema != nullptr) {
+            UnterthemenLaden(name);
+            for (const Unterthema& unterthema : thema->unterthemen) {
+                QVERIFY2(std::find(UnterthemenListe.begin(), UnterthemenListe.end(), unterthema.name) !=
+                             UnterthemenListe.end(),
+                         unterthema.name.data());
+            }
+        }
+    }
+    QCOMPARE(themen, 16);
+    HBUnterthemenLaden();
+    QCOMPARE(UnterthemenListe[1], std::string("Andacht"));
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aShortThemeListKeepsTheOtherPlacesWithoutAWord() {
+    const Programmordner ordner;
+    ordner.schreiben(QStringLiteral("WISSEN/WISSEN.TXT"), "Kopf\r\nLand\r\nSpr\xFC"
+                                                          "che\r\n");
+    Dialogfolge dialoge;
+    ThemenLaden();
+    QCOMPARE(ThemenListe[1], std::string("Land"));
+    QCOMPARE(ThemenListe[2], std::string("Sprüche"));
+    QCOMPARE(ThemenListe[3], std::string("alt"));
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aMissingThemeListSaysNothing() {
+    const Programmordner ordner;
+    QVERIFY(QFile::remove(ordner.nativ(QStringLiteral("WISSEN/WISSEN.TXT"))));
+    Dialogfolge dialoge;
+    ThemenLaden();
+    QCOMPARE(ThemenListe[1], std::string("alt"));
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aShortSubThemeListIsReported() {
+    const Programmordner ordner;
+    ordner.schreiben(QStringLiteral("WISSEN/LAND/W_LAND.TXT"), "Kopf\r\n\"Berge\"\r\n");
+    Dialogfolge dialoge;
+    ListenfehlerErwarten(dialoge, QStringLiteral("Land"));
+    UnterthemenLaden("Land");
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(UnterthemenListe[1], std::string("Berge"));
+    QCOMPARE(UnterthemenListe[2], std::string("alt"));
+}
+
+void KatalogladenTest::aMissingSubThemeListIsReportedForEveryTheme() {
+    const Programmordner ordner;
+    Dialogfolge dialoge;
+    QVERIFY(QFile::remove(ordner.nativ(QStringLiteral("WISSEN/HB/W_HB.TXT"))));
+    ListenfehlerErwarten(dialoge, QStringLiteral("Häuptlingsbuch"));
+    UnterthemenLaden("Häuptlingsbuch");
+    ListenfehlerErwarten(dialoge, QStringLiteral("HB"));
+    HBUnterthemenLaden();
+    ListenfehlerErwarten(dialoge, QStringLiteral("Wetter"));
+    UnterthemenLaden("Wetter");
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aMissingQuestionFileNamesTheFolderOfTheTable() {
+    const Programmordner ordner;
+    Dialogfolge dialoge;
+    Fragenliste liste;
+    const auto fehlt = [&](const char* thema, const char* unterthema, const QString& datei) {
+        QFile::remove(ordner.nativ(QStringLiteral("WISSEN/") + datei));
+        FragenLaden(thema, unterthema, liste);
+    };
+    DateifehlerErwarten(dialoge, QStringLiteral("Berge"), QStringLiteral("\\WISSEN\\Aktuell"));
+    fehlt("Land", "Berge", QStringLiteral("LAND/LA_BERG.TXT"));
+    DateifehlerErwarten(dialoge, QStringLiteral("Knoten"), QStringLiteral("\\WISSEN\\HB"));
+    fehlt("Häuptlingsbuch", "Knoten", QStringLiteral("HB/HB_KN.TXT"));
+    DateifehlerErwarten(dialoge, QStringLiteral("Standardaufgaben"), QStringLiteral("\\WISSEN\\Aufgaben"));
+    fehlt("- Aufgaben -", "Standardaufgaben", QStringLiteral("AUFGABEN/AUF_STAN.TXT"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(liste.nr.empty());
+}
+
+void KatalogladenTest::aSubThemeWithoutARowGivesTheShortText() {
+    const Programmordner ordner;
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("Ich habe Probleme mit den Unterthemen zu\n[ Wüsten ] !"),
+                    QStringLiteral("Ich sehe nach !"));
+    Fragenliste liste;
+    FragenLaden("Land", "Wüsten", liste);
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aRecordCutShortIsLostWithoutAWord() {
+    const Programmordner ordner;
+    ordner.schreiben(QStringLiteral("WISSEN/LAND/LA_BERG.TXT"), "K\r\n1\r\nF1\r\nA1\r\n2\r\n2\r\nF2\r\n");
+    Dialogfolge dialoge;
+    Fragenliste liste;
+    FragenLaden("Land", "Berge", liste);
+    QCOMPARE(liste.frage.size(), std::size_t{1});
+    QCOMPARE(liste.frage[0], std::string("F1"));
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::essenIsAnotherFileUnderAnotherTheme() {
+    const Programmordner ordner;
+    ordner.schreiben(QStringLiteral("WISSEN/A-Z/A_ESSEN.TXT"), "K\r\n1\r\nA-Z\r\nx\r\n2\r\n");
+    ordner.schreiben(QStringLiteral("WISSEN/GESCHICH/G_ESSEN.TXT"), "K\r\n1\r\nFr\xFCher\r\nx\r\n2\r\n");
+    Fragenliste liste;
+    FragenLaden("A-Z", "Essen", liste);
+    FragenLaden("Geschichte", "Essen", liste);
+    QCOMPARE(liste.frage, (std::vector<std::string>{"A-Z", "Früher"}));
+}
+
+void KatalogladenTest::anUnknownThemeLoadsNoQuestions() {
+    const Programmordner ordner;
+    Dialogfolge dialoge;
+    Fragenliste liste;
+    FragenLaden("Wetter", "Regen", liste);
+    QVERIFY(liste.nr.empty());
+    QVERIFY(dialoge.fertig());
+}
+
+QTEST_MAIN(KatalogladenTest)
+#include "katalogladen_test.moc"
