@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int fragen = 100'000;
+constexpr std::int64_t fragen = 100'000;
 
 // The folder of all files measured; it goes with the program.
 const QTemporaryDir& Ordner() {
@@ -55,9 +55,9 @@ std::string VollesFormular(int mal) {
     return FormularBytes("FKFragen");
 }
 
-std::string Fragendatei(int anzahl) {
+std::string Fragendatei(std::int64_t anzahl) {
     std::string bytes = "Fragen\r\n";
-    for (int i = 1; i <= anzahl; ++i) {
+    for (std::int64_t i = 1; i <= anzahl; ++i) {
         bytes += std::to_string(i) + "\r\nWelches Tier h\xF6rt man in dieser Nacht am Flu\xDF rufen ?\r\n";
         bytes += "Die Eule\r\n10\r\n";
     }
@@ -115,7 +115,7 @@ void FormularImSpeicher(benchmark::State& lauf) {
 // --- Question files
 
 void FragenInsModell(benchmark::State& lauf) {
-    DateiSchreiben(Eigen("fragen.TXT"), Fragendatei(static_cast<int>(lauf.range(0))));
+    DateiSchreiben(Eigen("fragen.TXT"), Fragendatei(lauf.range(0)));
     for ([[maybe_unused]] auto _ : lauf) {
         Fragenliste liste;
         FragenLesen(DateiLesen(Eigen("fragen.TXT")), false, liste);
@@ -133,7 +133,7 @@ void ZeilenInVektor(benchmark::State& lauf) {
         for (std::string zeile; std::getline(datei, zeile);) {
             zeilen.push_back(zeile);
         }
-        if (zeilen.size() != 4U * fragen + 1) {
+        if (zeilen.size() != static_cast<std::size_t>(4 * fragen + 1)) {
             lauf.SkipWithError("not all lines");
         }
     }

@@ -107,7 +107,7 @@ std::map<QString, QString> gemerkteOrdner;
 } // namespace
 
 QString NativerPfad(std::string_view pfad) {
-    const QString gegeben = MitSchraegstrichen(pfad);
+    QString gegeben = MitSchraegstrichen(pfad);
     if (const auto datei = gemerkteDateien.find(gegeben); datei != gemerkteDateien.end()) {
         return datei->second;
     }

@@ -27,7 +27,8 @@ namespace {
             return pfad; // no link; any other reason shows again at the next call
         }
         const std::string verweis(puffer.data(), static_cast<std::size_t>(laenge));
-        pfad = verweis.starts_with('/') ? verweis : Ordnerteil(pfad) + verweis;
+        pfad = verweis.starts_with('/') ? std::string() : Ordnerteil(pfad);
+        pfad += verweis;
     }
     throw Schreibfehler(ELOOP);
 }

@@ -56,8 +56,10 @@ TEST_F(Ungeeignete, ReadingTellsWhyByTheNumber) {
         {std::string(300, 'x') + ".fkr", 52},
         {"a\0b.fkr"s, 52},
     };
-    for (const auto& [name, nummer] : tabelle) {
-        EXPECT_EQ(FehlerVon([&] { static_cast<void>(DateiLesen(ordner.eigen("") + name)); }), nummer) << name;
+    for (const auto& zeile : tabelle) {
+        const std::string& name = zeile.first;
+        EXPECT_EQ(FehlerVon([&] { static_cast<void>(DateiLesen(ordner.eigen("") + name)); }), zeile.second)
+            << name;
         EXPECT_EQ(DateiNr, 0) << name;
     }
     EXPECT_EQ(FehlerVon([] { static_cast<void>(DateiLesen("")); }), 52);
@@ -73,8 +75,9 @@ TEST_F(Ungeeignete, SavingTellsWhyByTheNumberAndTouchesNothing) {
         {"Ring.fkr", 52},   {"Null.fkr", 75},       {std::string(300, 'x') + ".fkr", 52},
         {"a\0b.fkr"s, 52},
     };
-    for (const auto& [name, nummer] : tabelle) {
-        EXPECT_EQ(FehlerVon([&] { DateiSchreiben(ordner.eigen("") + name, "neu"); }), nummer) << name;
+    for (const auto& zeile : tabelle) {
+        const std::string& name = zeile.first;
+        EXPECT_EQ(FehlerVon([&] { DateiSchreiben(ordner.eigen("") + name, "neu"); }), zeile.second) << name;
         EXPECT_EQ(DateiNr, 0) << name;
     }
     EXPECT_EQ(FehlerVon([] { DateiSchreiben("", "neu"); }), 52);

@@ -34,6 +34,7 @@ std::size_t Stueck(std::size_t laenge) {
 
 } // namespace
 
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's names are reserved ones
 extern "C" ssize_t write(int datei, const void* bytes, size_t laenge) {
     return Stoeren() ? -1 : ::syscall(SYS_write, datei, bytes, Stueck(laenge));
 }
@@ -45,6 +46,7 @@ extern "C" ssize_t read(int datei, void* bytes, size_t laenge) {
 extern "C" int fsync(int datei) {
     return Stoeren() ? -1 : static_cast<int>(::syscall(SYS_fsync, datei));
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 namespace {
 
