@@ -1,0 +1,113 @@
+#include "filetools/dateiaktionen.h"
+
+#include "core/datei.h"
+#include "core/pfad.h"
+#include "core/pfadname.h"
+#include "core/plattform.h"
+#include "dialogs/eingabe.h"
+#include "dialogs/meldung.h"
+#include "filetools/dateitexte.h"
+#include "filetools/fehlerkasten.h"
+#include "filetools/kopiername.h"
+
+#include <algorithm>
+
+namespace {
+
+using namespace dateitexte;
+
+// A question whose Ja destroys something: closing it by its frame is no Ja.
+bool JaAuf(const NachrichtText& frage, const std::string& name) {
+    NachrichtAntwort = antwortAbbrechen;
+    return Nachricht(frage, {name}) == antwortJa;
+}
+
+// The new name without extension, asked for until it is good; "" ends the command.
+std::string NeuerName() {
+    for (;;) {
+        const std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "", 1111);
+        const auto fehler = KopiernamePruefen(name);
+        for (const Namensfehler art : fehler) {
+            Meldung(namensfehler[static_cast<std::size_t>(art)]);
+        }
+        if (fehler.empty() || name.empty()) {
+            return name;
+        }
+    }
+}
+
+} // namespace
+
+std::string Dateiort::pfad() const {
+    return PfadVerbinden(ordner, name);
+}
+
+void DateiKopierenMitFrage(const Dateiort& ort, const Aktualisieren& aktualisieren) {
+    if (NichtsGewaehlt(ort.name)) {
+        Systemkasten(Kastenart::Schlicht, hinweisTitel, nichtsSelektiert);
+        return;
+    }
+    Meldung(kopierQuelle, {ort.pfad()});
+    const std::string name = NeuerName();
+    if (name.empty()) {
+        return;
+    }
+    const Dateiort ziel{ort.ordner, name + Dateiendung(ort.name)};
+    const bool kopiertWorden = Versuchen([&] {
+        if (!BleibtImOrdner(name)) {
+            throw Laufzeitfehler(Fehler::DateinameFalsch);
+        }
+        if (DateiDa(ziel.pfad()) && !JaAuf(kopieUeberschreiben, ziel.name)) {
+            Meldung(namensfehler[static_cast<std::size_t>(Namensfehler::Leer)]);
+            return false;
+        }
+        DateiKopieren(ort.pfad(), ziel.pfad());
+        return true;
+    });
+    if (kopiertWorden) {
+        aktualisieren(ziel.name);
+        Meldung(kopiert, {ziel.pfad()});
+    }
+}
+
+void DateiLoeschenMitFrage(const Dateiort& ort, const Aktualisieren& aktualisieren) {
+    if (NichtsGewaehlt(ort.name)) {
+        Meldung(nichtLoeschbar, {ort.name});
+        return;
+    }
+    if (!JaAuf(dateiLoeschen, ort.name) || !JaAuf(dateiWirklichLoeschen, ort.name)) {
+        Meldung(keineGeloescht);
+        return;
+    }
+    const bool geloescht = Versuchen([&] {
+        DateiLoeschen(ort.pfad());
+        return true;
+    });
+    if (geloescht) {
+        aktualisieren(ort.name);
+        Meldung(dateiGeloescht, {ort.name});
+    }
+}
+
+void DateiEditieren(const Dateiort& ort) {
+    if (NichtsGewaehlt(ort.name)) {
+        Systemkasten(Kastenart::Schlicht, hinweisTitel, nichtsSelektiert);
+        return;
+    }
+    Versuchen([&] {
+        if (!plattform::TexteditorStarten(NativerPfad(ort.pfad()))) {
+            throw Laufzeitfehler(Fehler::DateiNichtGefunden);
+        }
+        return true;
+    });
+}
+
+void PfadAnzeigen(const std::string& pfad) {
+    const PfadTeile teile = PfadZerlegen(pfad);
+    Systemkasten(Kastenart::Schlicht, pfadTitel,
+                 Einsetzen(pfadZeilen, {teile.laufwerk, teile.ordner, teile.name, teile.endung}));
+    Versuchen([&] {
+        Systemkasten(Kastenart::Schlicht, pfadTitel, DateiDatum(pfad));
+        return true;
+    });
+}

@@ -1,0 +1,273 @@
+#include "core/oberflaeche.h"
+#include "core/zustand.h"
+#include "dialogs/dialoggrund.h"
+#include "dialogs/meldung.h"
+#include "filetools/dateitexte.h"
+#include "filetools/dateivorschau.h"
+#include "filetools/frmDatei.h"
+#include "filetools/kopiername.h"
+#include "filetools/laufwerksfeld.h"
+#include "periphery/hinweise.h"
+#include "settings/einstellungen.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel* Schild(QWidget* eltern, const char* name, const QString& text = QString()) {
+    auto* schild = new QLabel(text, eltern);
+    schild->setObjectName(QLatin1String(name));
+    schild->setTextFormat(Qt::PlainText);
+    return schild;
+}
+
+QListWidget* Liste(QWidget* eltern, const char* name, const QString& wort) {
+    auto* liste = new QListWidget(eltern);
+    liste->setObjectName(QLatin1String(name));
+    liste->setAccessibleName(wort);
+    liste->setUniformItemSizes(true);
+    liste->setTextElideMode(Qt::ElideMiddle);
+    return liste;
+}
+
+template <class Anordnung>
+Anordnung* Rahmenlos(QWidget* feld) {
+    auto* anordnung = new Anordnung(feld);
+    anordnung->setContentsMargins(0, 0, 0, 0);
+    return anordnung;
+}
+
+} // namespace
+
+frmDatei::frmDatei(const Dateiauswahl& auswahl) {
+    setObjectName(QStringLiteral("frmDatei"));
+    setWindowTitle(Anzeige(auswahl.titel));
+    setModal(true);
+    setSizeGripEnabled(true);
+    auto* oben = new QWidget(this);
+    auto* reihe = Rahmenlos<QHBoxLayout>(oben);
+    reihe->setSpacing(4);
+    reihe->addWidget(ListenBauen(), 5);
+    reihe->addWidget(OrdnerspalteBauen(), 4);
+    reihe->addWidget(AktionenBauen());
+    auto* unten = new QHBoxLayout;
+    unten->addWidget(ZeilenBauen(auswahl), 1);
+    unten->addWidget(TastenBauen());
+    auto* spalte = new QVBoxLayout(this);
+    spalte->addWidget(oben, 1);
+    spalte->addLayout(unten);
+    HinweiseSetzen();
+    Verbinden();
+    resize(800, 520);
+    Anfangen(auswahl);
+}
+
+QPushButton* frmDatei::TasteBauen(const QString& name, const QString& aufschrift, QWidget* eltern) {
+    auto* taste = new QPushButton(aufschrift, eltern);
+    taste->setObjectName(name);
+    taste->setAutoDefault(false); // Enter belongs to loading or saving
+    return taste;
+}
+
+QWidget* frmDatei::ListenBauen() {
+    picList_ = new QWidget(this);
+    picList_->setObjectName(QStringLiteral("picList"));
+    auto* spalte = Rahmenlos<QVBoxLayout>(picList_);
+    filDateiliste_ = Liste(picList_, "filDateiliste", QStringLiteral("Dateien"));
+    auto* titel = Schild(picList_, "lblDateiliste", QStringLiteral("Date&ien"));
+    titel->setTextFormat(Qt::AutoText);
+    titel->setBuddy(filDateiliste_);
+    picDatei_ = new QWidget(picList_);
+    picDatei_->setObjectName(QStringLiteral("picDatei"));
+    auto* zeile = Rahmenlos<QHBoxLayout>(picDatei_);
+    lblDateienAnzahl_ = Schild(picDatei_, "lblDateienAnzahl");
+    lblAlleDateienAnzahl_ = Schild(picDatei_, "lblAlleDateienAnzahl");
+    auto* fortschritt = Schild(picDatei_, "picSuchfortschritt");
+    fortschritt->hide(); // there is no search that could go on
+    zeile->addWidget(lblDateienAnzahl_);
+    zeile->addWidget(fortschritt);
+    zeile->addStretch();
+    zeile->addWidget(Schild(picDatei_, "lblAlle", QStringLiteral("insgesamt")));
+    zeile->addWidget(lblAlleDateienAnzahl_);
+    spalte->addWidget(titel);
+    spalte->addWidget(filDateiliste_, 1);
+    spalte->addWidget(picDatei_);
+    return picList_;
+}
+
+QWidget* frmDatei::OrdnerspalteBauen() {
+    auto* spaltenfeld = new QWidget(this);
+    auto* spalte = Rahmenlos<QVBoxLayout>(spaltenfeld);
+    fraLaufwerk_ = new Laufwerksfeld(spaltenfeld);
+    fraDir_ = new QGroupBox(QStringLiteral("Ordner"), spaltenfeld);
+    fraDir_->setObjectName(QStringLiteral("fraDir"));
+    auto* innen = new QVBoxLayout(fraDir_);
+    innen->setContentsMargins(6, 2, 6, 6);
+    lblDir_ = new Textschild(fraDir_, QStringLiteral("lblDir"));
+    lblDir_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblDir_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long path doesn't widen the window
+    lblDir_->setFixedHeight(2 * lblDir_->fontMetrics().lineSpacing() + 2);
+    dirVerzeichnisliste_ = Liste(fraDir_, "dirVerzeichnisliste", QStringLiteral("Ordner"));
+    innen->addWidget(lblDir_);
+    innen->addWidget(dirVerzeichnisliste_, 1);
+    pnlDatei_ = new Dateivorschau(spaltenfeld);
+    spalte->addWidget(fraLaufwerk_);
+    spalte->addWidget(fraDir_, 1);
+    spalte->addWidget(pnlDatei_, 1);
+    return spaltenfeld;
+}
+
+QWidget* frmDatei::AktionenBauen() {
+    picButtons_ = new QWidget(this);
+    picButtons_->setObjectName(QStringLiteral("picButtons"));
+    auto* spalte = Rahmenlos<QVBoxLayout>(picButtons_);
+    fraDatei_ = new QGroupBox(QStringLiteral("Datei"), picButtons_);
+    fraDatei_->setObjectName(QStringLiteral("fraDatei"));
+    fraOrdner_ = new QGroupBox(QStringLiteral("Ordner"), picButtons_);
+    fraOrdner_->setObjectName(QStringLiteral("fraOrdner"));
+    const std::array<QString, 4> dateiworte{QStringLiteral("&Kopieren ..."), QStringLiteral("Lös&chen ..."),
+                                            QStringLiteral("S&uchen"), QStringLiteral("&Editieren")};
+    const std::array<QString, 3> ordnerworte{QStringLiteral("&Neu ..."), QStringLiteral("L&öschen ..."),
+                                             QStringLiteral("Serie A-&Z")};
+    const auto fuellen = [this](QGroupBox* rahmen, const char* feld, const auto& worte, auto& tasten) {
+        auto* innen = new QVBoxLayout(rahmen);
+        innen->setContentsMargins(6, 2, 6, 6);
+        innen->setSpacing(3);
+        for (std::size_t i = 0; i < worte.size(); ++i) {
+            tasten[i] =
+                TasteBauen(QStringLiteral("%1(%2)").arg(QLatin1String(feld)).arg(i), worte[i], rahmen);
+            innen->addWidget(tasten[i]);
+        }
+    };
+    fuellen(fraDatei_, "cmdDatei", dateiworte, cmdDatei_);
+    fuellen(fraOrdner_, "cmdOrdner", ordnerworte, cmdOrdner_);
+    cmdVorschau_ = TasteBauen(QStringLiteral("cmdVorschau"), QStringLiteral("&Vorschau"), picButtons_);
+    cmdPfadZerlegen_ = TasteBauen(QStringLiteral("cmdPfadZerlegen"), QStringLiteral("Pfad"), picButtons_);
+    spalte->addWidget(fraDatei_);
+    spalte->addWidget(fraOrdner_);
+    spalte->addWidget(cmdVorschau_);
+    spalte->addWidget(cmdPfadZerlegen_);
+    spalte->addStretch();
+    return picButtons_;
+}
+
+QWidget* frmDatei::ZeilenBauen(const Dateiauswahl& auswahl) {
+    auto* feld = new QWidget(this);
+    auto* zeilen = Rahmenlos<QFormLayout>(feld);
+    // A plain line: names of files may hold any character.
+    txtDateiname_ = new QLineEdit(feld);
+    txtDateiname_->setObjectName(QStringLiteral("txtDateiname"));
+    cmbAppend_ = new QComboBox(feld);
+    cmbAppend_->setObjectName(QStringLiteral("cmbAppend"));
+    for (const std::string& zeile : auswahl.filter) {
+        cmbAppend_->addItem(Anzeige(zeile));
+    }
+    zeilen->addRow(QStringLiteral("&Dateiname:"), txtDateiname_);
+    zeilen->addRow(QStringLiteral("Datei&typ:"), cmbAppend_);
+    zeilen->addRow(QString(), MusterBauen(auswahl));
+    zeilen->addRow(QString(), SicherungBauen(auswahl.backupBenutzbar));
+    return feld;
+}
+
+QWidget* frmDatei::MusterBauen(const Dateiauswahl& auswahl) {
+    auto* feld = new QWidget(this);
+    auto* reihe = Rahmenlos<QHBoxLayout>(feld);
+    for (std::size_t i = 0; i < auswahl.muster.size(); ++i) {
+        auto* wahl = new QRadioButton(Anzeige(auswahl.muster[i]), feld);
+        wahl->setObjectName(QStringLiteral("optAppend(%1)").arg(i));
+        reihe->addWidget(wahl);
+        optAppend_.push_back(wahl);
+    }
+    reihe->addStretch();
+    return feld;
+}
+
+QWidget* frmDatei::SicherungBauen(bool benutzbar) {
+    auto* feld = new QWidget(this);
+    auto* reihe = Rahmenlos<QHBoxLayout>(feld);
+    chkBackUp_ = new QCheckBox(QStringLiteral("&Back Up"), feld);
+    chkBackUp_->setObjectName(QStringLiteral("chkBackUp"));
+    chkBackUp_->setChecked(OptionDatei == 1);
+    chkBackUp_->setEnabled(benutzbar);
+    auto* lblBackUp = Schild(feld, "lblBackUp", QStringLiteral("(sichert vor dem Speichern)"));
+    lblBackUp->setEnabled(benutzbar);
+    reihe->addWidget(chkBackUp_);
+    reihe->addWidget(lblBackUp);
+    reihe->addStretch();
+    return feld;
+}
+
+QWidget* frmDatei::TastenBauen() {
+    auto* fraButtons = new QGroupBox(this);
+    fraButtons->setObjectName(QStringLiteral("fraButtons"));
+    auto* spalte = new QVBoxLayout(fraButtons);
+    spalte->setContentsMargins(6, 6, 6, 6);
+    spalte->setSpacing(4);
+    cmdLaden_ = TasteBauen(QStringLiteral("cmdLaden"), QStringLiteral("&Laden"), fraButtons);
+    cmdSpeichern_ = TasteBauen(QStringLiteral("cmdSpeichern"), QStringLiteral("&Speichern"), fraButtons);
+    cmdAbbrechen_ = TasteBauen(QStringLiteral("cmdAbbrechen"), QStringLiteral("&Abbrechen"), fraButtons);
+    cmdHilfe_ = TasteBauen(QStringLiteral("cmdHilfe"), QStringLiteral("&Hilfe"), fraButtons);
+    for (QPushButton* taste : {cmdLaden_, cmdSpeichern_, cmdAbbrechen_, cmdHilfe_}) {
+        taste->setMinimumWidth(110);
+        spalte->addWidget(taste);
+    }
+    const bool speichern = windowTitle() == Anzeige(dateitexte::titelSpeichern);
+    cmdLaden_->setHidden(speichern);
+    cmdSpeichern_->setHidden(!speichern);
+    (speichern ? cmdSpeichern_ : cmdLaden_)->setDefault(true);
+    return fraButtons;
+}
+
+void frmDatei::HinweiseSetzen() {
+    for (const dateitexte::Hinweis& hinweis : dateitexte::hinweise) {
+        if (auto* steuerelement = findChild<QWidget*>(Anzeige(hinweis.name)); steuerelement != nullptr) {
+            HinweisSetzen(steuerelement, hinweis.tipp, hinweis.titel, hinweis.status);
+        }
+    }
+}
+
+void frmDatei::Verbinden() {
+    fraDatei_->installEventFilter(this);
+    fraOrdner_->installEventFilter(this);
+    dirVerzeichnisliste_->installEventFilter(this);
+    connect(fraLaufwerk_, &Laufwerksfeld::gewaehlt, this, &frmDatei::OrdnerSetzen);
+    connect(dirVerzeichnisliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::OrdnerBetreten);
+    // Not the current entry: that one changes as soon as the focus reaches the list.
+    connect(filDateiliste_, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto gewaehlte = filDateiliste_->selectedItems();
+        Waehlen(gewaehlte.isEmpty() ? nullptr : gewaehlte.first());
+    });
+    connect(filDateiliste_, &QListWidget::itemClicked, this, &frmDatei::Waehlen);
+    connect(filDateiliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::Bestaetigen);
+    connect(cmbAppend_, &QComboBox::activated, this,
+            [this] { MusterSetzen(MusterAus(cmbAppend_->currentText().toStdString())); });
+    for (QRadioButton* wahl : optAppend_) {
+        connect(wahl, &QRadioButton::clicked, this,
+                [this, wahl] { MusterSetzen(wahl->text().toStdString()); });
+    }
+    connect(chkBackUp_, &QCheckBox::clicked, this,
+            [](bool an) { OptionDatei = static_cast<std::int16_t>(an ? 1 : 0); });
+    for (std::size_t i = 0; i < cmdDatei_.size(); ++i) {
+        connect(cmdDatei_[i], &QPushButton::clicked, this, [this, i] { Datei_Click(static_cast<int>(i)); });
+    }
+    for (std::size_t i = 0; i < cmdOrdner_.size(); ++i) {
+        connect(cmdOrdner_[i], &QPushButton::clicked, this, [this, i] { Ordner_Click(static_cast<int>(i)); });
+    }
+    connect(cmdVorschau_, &QPushButton::clicked, this, &frmDatei::Vorschau_Click);
+    connect(pnlDatei_, &Dateivorschau::beendet, this, &frmDatei::VorschauBeenden);
+    connect(cmdPfadZerlegen_, &QPushButton::clicked, this, [] { PfadAnzeigen(DateiName); });
+    connect(cmdLaden_, &QPushButton::clicked, this, &frmDatei::Laden_Click);
+    connect(cmdSpeichern_, &QPushButton::clicked, this, &frmDatei::Speichern_Click);
+    connect(cmdAbbrechen_, &QPushButton::clicked, this, &frmDatei::reject);
+    connect(cmdHilfe_, &QPushButton::clicked, this, [] { SoundSpielen("Hilfe"); });
+}

@@ -1,0 +1,9 @@
+feldkranz_quellen(modell filetools/kopiername.cpp)
+feldkranz_quellen(fenster
+  filetools/dateidialog.cpp
+  filetools/dateiaktionen.cpp
+  filetools/ordneraktionen.cpp
+  filetools/fehlerkasten.cpp
+  filetools/dateivorschau.h filetools/dateivorschau.cpp
+  filetools/laufwerksfeld.h filetools/laufwerksfeld.cpp
+  filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp)
