@@ -14,8 +14,8 @@ bool OhneDatei(const Systemaufruf& aufruf) {
 class Absturz : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!SpurMoeglich()) {
-            GTEST_SKIP() << "strace is missing or no process may trace another here: not tested";
+        if (const std::string hindernis = SpurHindernis(); !hindernis.empty()) {
+            GTEST_SKIP() << hindernis;
         }
         ordner.schreiben("form/A.fkr", alt);
     }

@@ -28,8 +28,11 @@ std::string KopieLesen(const std::string& pfad) {
 class AnOrt : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!SpurMoeglich() || !AlsRoot()) {
-            GTEST_SKIP() << "needs strace, and root to make a file of somebody else's: not tested";
+        if (const std::string hindernis = SpurHindernis(); !hindernis.empty()) {
+            GTEST_SKIP() << hindernis;
+        }
+        if (!AlsRoot()) {
+            GTEST_SKIP() << "needs root to make a file of somebody else's: not tested";
         }
         std::filesystem::copy_file(SPEICHERN_PROBE, ordner.nativ("probe"));
         name = "ort" + std::to_string(::getpid()) + ".fkr";
