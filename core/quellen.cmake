@@ -13,7 +13,7 @@ feldkranz_quellen(fenster
   core/oberflaeche.cpp
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h
-  core/ziehbilder.cpp core/ziehen.cpp
+  core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp
   core/ablage.cpp
   core/befehle.cpp
   core/flaggen.cpp

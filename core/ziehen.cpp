@@ -1,71 +1,20 @@
 #include "core/ziehen.h"
 
-#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
+#include "core/zug.h"
 
-#include <QApplication>
-#include <QDrag>
+#include <QCoreApplication>
 #include <QDropEvent>
-#include <QKeyEvent>
 #include <QMimeData>
-#include <QPointer>
-#include <QWidget>
 #include <QWindow>
 
 #include <utility>
 
 namespace {
 
-constexpr std::string_view hinweisGehalten = " Frage aufgenommen: mit [F8] ablegen, mit [Esc] loslassen.";
-
-// Hangs below the control it speaks for, and goes with it. Without steps the control takes nothing.
-class Zielmarke : public QObject {
-public:
-    Zielmarke(QWidget* element, ZiehBild bild, std::function<void()> ablegen)
-        : QObject(element), bild_(bild), ablegen_(std::move(ablegen)) {
-        element->installEventFilter(this);
-    }
-
-    [[nodiscard]] bool nimmt() const { return static_cast<bool>(ablegen_); }
-    [[nodiscard]] ZiehBild bild() const { return bild_; }
-    // The steps may take the control away, and the mark with it.
-    void ausfuehren() const {
-        const std::function<void()> schritte = ablegen_;
-        schritte();
-    }
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
-private:
-    ZiehBild bild_;
-    std::function<void()> ablegen_;
-};
-
-struct Zug {
-    std::string frage;
-    QPointer<QWidget> quelle;
-    QPointer<Zielmarke> getroffen;
-    QPointer<QDrag> drag;
-    ZiehBild bild = ZiehBild::Keins;
-    double pixelverhaeltnis = 1.0;
-    bool ohneMaus = false; // a press by key is under way
-    bool gehalten = false;
-};
-
-Zug& AktuellerZug() {
-    static Zug zug;
-    return zug;
-}
-
-Zielmarke* EigeneMarke(const QObject* element) {
-    for (QObject* kind : element->children()) {
-        if (auto* marke = dynamic_cast<Zielmarke*>(kind)) {
-            return marke;
-        }
-    }
-    return nullptr;
-}
+// Format under which a dragged question travels, beside plain text for other programs.
+constexpr QLatin1String ziehFormat("application/x-feldkranz-frage");
 
 // The mark that counts at a control: its own or that of the nearest control around it.
 Zielmarke* MarkeVon(const QWidget* element) {
@@ -154,7 +103,7 @@ private:
 
 QMimeData* Ziehdaten(const std::string& frage) {
     auto* daten = new QMimeData;
-    daten->setData(QLatin1String(ziehFormat), QByteArray::fromStdString(frage));
+    daten->setData(ziehFormat, QByteArray::fromStdString(frage));
     daten->setText(Anzeige(frage));
     return daten;
 }
@@ -177,54 +126,6 @@ void ZugAusfuehren(Zug& zug) {
     zug.bild = ZiehBild::Keins;
 }
 
-bool EscGedrueckt(const QKeyEvent& taste) {
-    if (taste.key() != Qt::Key_Escape || !OhneMausGehalten()) {
-        return false;
-    }
-    OhneMausLoslassen();
-    return true;
-}
-
-bool Zielmarke::eventFilter(QObject* objekt, QEvent* ereignis) {
-    if (ereignis->type() != QEvent::KeyPress || !OhneMausGehalten()) {
-        return QObject::eventFilter(objekt, ereignis);
-    }
-    const auto* taste = static_cast<QKeyEvent*>(ereignis);
-    if (taste->key() == Qt::Key_F8 && taste->modifiers() == Qt::NoModifier) {
-        return OhneMausAblegen(static_cast<QWidget*>(objekt));
-    }
-    return EscGedrueckt(*taste) || QObject::eventFilter(objekt, ereignis);
-}
-
-// Turns the keys of a source into a press.
-class Tastenquelle : public QObject {
-public:
-    Tastenquelle(QWidget* quelle, std::function<void(Qt::KeyboardModifiers)> druecken)
-        : QObject(quelle), druecken_(std::move(druecken)) {
-        quelle->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
-        if (ereignis->type() == QEvent::KeyPress) {
-            const auto* taste = static_cast<QKeyEvent*>(ereignis);
-            const Qt::KeyboardModifiers zusatz = taste->modifiers();
-            if (taste->key() == Qt::Key_F8 &&
-                (zusatz == Qt::ShiftModifier || zusatz == Qt::ControlModifier)) {
-                const auto druecken = druecken_;
-                OhneMausAufnehmen([&] { druecken(zusatz); });
-                return true;
-            }
-            if (EscGedrueckt(*taste)) {
-                return true;
-            }
-        }
-        return QObject::eventFilter(objekt, ereignis);
-    }
-
-private:
-    std::function<void(Qt::KeyboardModifiers)> druecken_;
-};
-
 void Markieren(QWidget* element, ZiehBild bild, std::function<void()> ablegen) {
     delete EigeneMarke(element);
     new Zielmarke(element, bild, std::move(ablegen));
@@ -232,6 +133,20 @@ void Markieren(QWidget* element, ZiehBild bild, std::function<void()> ablegen) {
 }
 
 } // namespace
+
+Zug& AktuellerZug() {
+    static Zug zug;
+    return zug;
+}
+
+Zielmarke* EigeneMarke(const QObject* element) {
+    for (QObject* kind : element->children()) {
+        if (auto* marke = dynamic_cast<Zielmarke*>(kind)) {
+            return marke;
+        }
+    }
+    return nullptr;
+}
 
 ZiehBild AktuellesZiehBild() {
     return AktuellerZug().bild;
@@ -251,7 +166,6 @@ void Ziehen(QWidget* quelle, const std::string& frage) {
     zug.getroffen = nullptr;
     zug.gehalten = zug.ohneMaus;
     if (zug.gehalten) {
-        HilfeText(hinweisGehalten);
         return;
     }
     zug.pixelverhaeltnis = quelle->devicePixelRatioF();
@@ -263,40 +177,9 @@ void Ziehen(QWidget* quelle, const std::string& frage) {
 
 void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen) {
     Markieren(ziel, bild, std::move(ablegen));
+    ZieltastenEinrichten(ziel);
 }
 
 void KeinZiel(QWidget* steuerelement) {
     Markieren(steuerelement, ZiehBild::Nein, {});
-}
-
-void TastenEinrichten(QWidget* quelle, std::function<void(Qt::KeyboardModifiers)> druecken) {
-    new Tastenquelle(quelle, std::move(druecken));
-}
-
-bool OhneMausAufnehmen(const std::function<void()>& druecken) {
-    Zug& zug = AktuellerZug();
-    zug.gehalten = false;
-    zug.ohneMaus = true;
-    druecken();
-    zug.ohneMaus = false;
-    return zug.gehalten;
-}
-
-bool OhneMausAblegen(QWidget* ziel) {
-    Zug& zug = AktuellerZug();
-    Zielmarke* marke = EigeneMarke(ziel);
-    if (!OhneMausGehalten() || marke == nullptr || !marke->nimmt()) {
-        return false;
-    }
-    zug.gehalten = false;
-    marke->ausfuehren();
-    return true;
-}
-
-bool OhneMausGehalten() {
-    return AktuellerZug().gehalten && AktuellerZug().quelle != nullptr;
-}
-
-void OhneMausLoslassen() {
-    AktuellerZug().gehalten = false;
 }

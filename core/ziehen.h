@@ -23,9 +23,6 @@ inline std::string DragHerkunft;
 enum class ZiehBild : std::uint8_t { Keins, Aufnehmen, Ablegen, Nein, Atom };
 [[nodiscard]] ZiehBild AktuellesZiehBild();
 
-// Format under which a dragged question travels, beside plain text for other programs.
-inline constexpr char ziehFormat[] = "application/x-feldkranz-frage";
-
 // Drags the text of a source; call it while the mouse button is down. Comes back after the drop and what it
 // caused. Esc cancels. A source or a target that is gone by then leaves the drop without effect. While
 // another drag runs it does nothing.
