@@ -11,8 +11,11 @@
 #include <QComboBox>
 #include <QStringList>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -103,10 +106,8 @@ int main(int argc, char** argv) {
     const Paar zeiten = Abwechselnd(laeufe, Auswahl, fuellen);
     Verhaeltnis("auswahl_fuellen", zeiten.unser, zeiten.schlicht, "ms");
 
-    std::vector<double> oeffnen;
-    for (int lauf = 0; lauf < laeufe; ++lauf) {
-        oeffnen.push_back(Klappliste());
-    }
+    std::vector<double> oeffnen(laeufe);
+    std::generate(oeffnen.begin(), oeffnen.end(), Klappliste);
     std::cout << "Opening the list of questions: " << Median(std::move(oeffnen)) << " ms\n";
     return 0;
 }
