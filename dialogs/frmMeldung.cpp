@@ -43,11 +43,27 @@ frmMeldung::frmMeldung()
         QGuiApplication::restoreOverrideCursor();
     }
     HintergrundLaden("MELDUNG.bmp");
+    TwipsGeometrie(lblMeldung_, 60, 930, 4875, 1035);
+    BilderBauen();
+    NummerBauen();
+    TasteBauen();
+    Anordnen();
+}
+
+void frmMeldung::BilderBauen() {
     TwipsGeometrie(pnlPic_, 2265, 270, 480, 480);
     pnlPic_->setFrameShape(QFrame::NoFrame);
     pnlPic_->setAttribute(Qt::WA_NoSystemBackground);
     pnlPic_->setFarben(Qt::transparent, Qt::black);
-    TwipsGeometrie(lblMeldung_, 60, 930, 4875, 1035);
+    for (int i = 0; i < static_cast<int>(picMeldung_.size()); ++i) {
+        auto* bild = SinnbildLabel(pnlPic_, "picMeldung", i, MeldungSinnbild(i));
+        bild->move(Pixel(900), 0);
+        picMeldung_[static_cast<std::size_t>(i)] = bild;
+    }
+    picMeldung_[grussBild]->installEventFilter(this);
+}
+
+void frmMeldung::NummerBauen() {
     TwipsGeometrie(pnlNr_, fensterBreite - 450, 150, 360, 255);
     lblNr_->setObjectName(QStringLiteral("lblNr"));
     lblNr_->setGeometry(pnlNr_->rect());
@@ -55,14 +71,6 @@ frmMeldung::frmMeldung()
     lblNr_->setFont(Schrift(7.5));
     lblNr_->setText(Anzeige(MeldungNummer));
     lblNr_->installEventFilter(this);
-    for (int i = 0; i < static_cast<int>(picMeldung_.size()); ++i) {
-        auto* bild = SinnbildLabel(pnlPic_, "picMeldung", i, MeldungSinnbild(i));
-        bild->move(Pixel(900), 0);
-        picMeldung_[static_cast<std::size_t>(i)] = bild;
-    }
-    picMeldung_[grussBild]->installEventFilter(this);
-    TasteBauen();
-    Anordnen();
 }
 
 void frmMeldung::TasteBauen() {

@@ -24,6 +24,8 @@ protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
+    void BilderBauen();
+    void NummerBauen();
     void TasteBauen();
     void Anordnen();
     void Kenntnis_Click();

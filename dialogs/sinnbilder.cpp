@@ -69,10 +69,13 @@ void Fehlerzeichen(QPainter& maler) {
 void Formular(QPainter& maler) {
     Bogenblatt(maler);
     maler.drawLine(QPointF(10, 8), QPointF(22, 8));
-    const std::array<QColor, 4> felder{gelb, gruen, rot, blau};
-    for (int i = 0; i < 4; ++i) {
-        maler.setBrush(felder[static_cast<std::size_t>(i)]);
-        maler.drawRect(QRectF(10.0 + 6.0 * (i % 2), 12.5 + 6.0 * (i / 2), 6, 6));
+    double x = 10;
+    double y = 12.5;
+    for (const QColor& farbe : {gelb, gruen, rot, blau}) {
+        maler.setBrush(farbe);
+        maler.drawRect(QRectF(x, y, 6, 6));
+        y = x > 10 ? 18.5 : y;
+        x = x > 10 ? 10 : 16;
     }
 }
 

@@ -25,7 +25,7 @@ bool JaAuf(const NachrichtText& frage, const std::string& name) {
 // The new name without extension, asked for until it is good; "" ends the command.
 std::string NeuerName() {
     for (;;) {
-        const std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "", 1111);
+        std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "", 1111);
         const auto fehler = KopiernamePruefen(name);
         for (const Namensfehler art : fehler) {
             Meldung(namensfehler[static_cast<std::size_t>(art)]);
@@ -40,6 +40,11 @@ std::string NeuerName() {
 
 std::string Dateiort::pfad() const {
     return PfadVerbinden(ordner, name);
+}
+
+QString Dateiort::nativ() const {
+    const QString genau = NativerPfad(ordner) + QLatin1Char('/') + QString::fromStdString(name);
+    return plattform::ArtVon(genau) != plattform::Art::Nichts ? genau : NativerPfad(pfad());
 }
 
 void DateiKopierenMitFrage(const Dateiort& ort, const Aktualisieren& aktualisieren) {

@@ -2,6 +2,8 @@
 // belong to it. The dialog itself keeps its lists up to date.
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <string>
 
@@ -10,6 +12,8 @@ struct Dateiort {
     std::string ordner;
     std::string name;
     [[nodiscard]] std::string pfad() const;
+    // Where it lies: exactly the file of that name, or else the one that the path leads to.
+    [[nodiscard]] QString nativ() const;
 };
 
 // Runs with the name of the file that is new, or with the one that is gone, before the message about it.

@@ -1,41 +1,28 @@
 #include "filetools/frmDatei.h"
 
-#include "core/datei.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "core/plattform.h"
 #include "core/zustand.h"
-#include "dialogs/dialoggrund.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
 #include "filetools/kopiername.h"
 #include "filetools/laufwerksfeld.h"
 #include "filetools/ordneraktionen.h"
+#include "periphery/hinweise.h"
+#include "settings/einstellungen.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
-#include <QStyle>
-
-#include <algorithm>
 
 namespace {
-
-const QString hoeher = QStringLiteral("..");
-
-// Where the file lies: exactly the one of that name, or else the one that the name leads to.
-QString NativGenau(const Dateiort& ort) {
-    const QString genau = NativerPfad(ort.ordner) + QLatin1Char('/') + QString::fromStdString(ort.name);
-    return plattform::ArtVon(genau) != plattform::Art::Nichts ? genau : NativerPfad(ort.pfad());
-}
 
 void AlleUmschalten(auto& tasten) {
     const bool an = !tasten[0]->isEnabled();
@@ -44,141 +31,53 @@ void AlleUmschalten(auto& tasten) {
     }
 }
 
-void Fuellen(QListWidget* liste, const std::vector<std::string>& namen) {
-    QStringList texte;
-    texte.reserve(static_cast<qsizetype>(namen.size()));
-    std::ranges::transform(namen, std::back_inserter(texte), [](const auto& n) { return Anzeige(n); });
-    const QSignalBlocker still(liste);
-    liste->clear();
-    liste->addItems(texte);
-}
-
 } // namespace
 
-void frmDatei::Anfangen(const Dateiauswahl& auswahl) {
-    muster_ = auswahl.aktuell.empty() && cmbAppend_->count() > 0
-                  ? MusterAus(cmbAppend_->itemText(0).toStdString())
-                  : auswahl.aktuell;
-    std::string ordner = auswahl.ordner;
-    while (!OrdnerDa(ordner) && Oberordner(ordner) != ordner) {
-        ordner = Oberordner(ordner); // a folder that is gone: the nearest one that is left
-    }
-    if (!OrdnerSetzen(ordner)) {
-        ordner_ = ordner;
-    }
-    MusterSetzen(muster_);
-    if (!auswahl.vorschlag.empty()) {
-        NameZeigen(auswahl.vorschlag);
-    }
-    txtDateiname_->setFocus();
-    txtDateiname_->selectAll();
-}
-
-// Shows a folder. One that can't be read is reported, and the dialog stays where it was.
-bool frmDatei::OrdnerSetzen(const std::string& ordner) {
-    std::vector<std::string> unterordner;
-    try {
-        unterordner = OrdnerIn(ordner);
-        alleDateien_ = DateienIn(ordner, "*.*");
-    } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden(dateitexte::ortDateiliste, fehler);
-        return false;
-    }
-    ordner_ = ordner;
-    if (Oberordner(ordner) != ordner) {
-        unterordner.insert(unterordner.begin(), hoeher.toStdString());
-    }
-    Fuellen(dirVerzeichnisliste_, unterordner);
-    const QIcon ordnerbild = style()->standardIcon(QStyle::SP_DirIcon);
-    for (int i = 0; i < dirVerzeichnisliste_->count(); ++i) {
-        dirVerzeichnisliste_->item(i)->setIcon(ordnerbild);
-    }
-    lblDir_->setText(Anzeige(ordner));
-    lblDir_->setToolTip(Anzeige(ordner));
-    Filtern();
-    return true;
-}
-
-void frmDatei::OrdnerBetreten(const QListWidgetItem* eintrag) {
-    const std::string vorher = ordner_;
-    const bool hinauf = eintrag->text() == hoeher;
-    if (!OrdnerSetzen(hinauf ? Oberordner(ordner_) : PfadVerbinden(ordner_, eintrag->text().toStdString()))) {
-        return;
-    }
-    const auto kinder = dirVerzeichnisliste_->findItems(Anzeige(Ordnername(vorher)), Qt::MatchExactly);
-    if (hinauf && !kinder.isEmpty()) {
-        dirVerzeichnisliste_->setCurrentItem(kinder.first());
-    } else {
-        dirVerzeichnisliste_->setCurrentRow(0);
-    }
-}
-
-// Reads the folder anew and marks a file there, "" for none.
-void frmDatei::Auffrischen(const std::string& name) {
-    if (OrdnerSetzen(ordner_) && !name.empty()) {
-        NameZeigen(name);
-    }
-}
-
-void frmDatei::MusterSetzen(const std::string& muster) {
-    if (!muster.empty()) {
-        muster_ = muster;
-    }
-    for (QRadioButton* wahl : optAppend_) {
-        wahl->setAutoExclusive(false); // a pattern that no place has leaves none of them marked
-        wahl->setChecked(wahl->text().compare(Anzeige(muster_), Qt::CaseInsensitive) == 0);
-        wahl->setAutoExclusive(true);
-    }
-    for (int i = 0; i < cmbAppend_->count(); ++i) {
-        if (Anzeige(MusterAus(cmbAppend_->itemText(i).toStdString()))
-                .compare(Anzeige(muster_), Qt::CaseInsensitive) == 0) {
-            cmbAppend_->setCurrentIndex(i);
-            break;
+void frmDatei::HinweiseSetzen() {
+    for (const dateitexte::Hinweis& hinweis : dateitexte::hinweise) {
+        if (auto* steuerelement = findChild<QWidget*>(Anzeige(hinweis.name)); steuerelement != nullptr) {
+            HinweisSetzen(steuerelement, hinweis.tipp, hinweis.titel, hinweis.status);
         }
     }
-    Filtern();
 }
 
-void frmDatei::Filtern() {
-    std::vector<std::string> passende;
-    std::ranges::copy_if(alleDateien_, std::back_inserter(passende),
-                         [this](const std::string& name) { return MusterPasst(name, muster_); });
-    Fuellen(filDateiliste_, passende);
-    lblDateienAnzahl_->setText(Anzeige(Einsetzen(dateitexte::anzahl, {std::to_string(passende.size())})));
-    lblAlleDateienAnzahl_->setText(
-        Anzeige(Einsetzen(dateitexte::anzahl, {std::to_string(alleDateien_.size())})));
-    // While no file is chosen the name box shows the pattern; a name that was typed for saving stays.
-    const std::string name = txtDateiname_->text().toStdString();
-    const bool imOrdner = std::ranges::find(alleDateien_, name) != alleDateien_.end();
-    if (NichtsGewaehlt(name) || (!imOrdner && cmdSpeichern_->isHidden())) {
-        txtDateiname_->setText(Anzeige(muster_));
+void frmDatei::ListenVerbinden() {
+    fraDatei_->installEventFilter(this);
+    fraOrdner_->installEventFilter(this);
+    dirVerzeichnisliste_->installEventFilter(this);
+    connect(fraLaufwerk_, &Laufwerksfeld::gewaehlt, this, &frmDatei::OrdnerSetzen);
+    connect(dirVerzeichnisliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::OrdnerBetreten);
+    // Not the current entry: that one changes as soon as the focus reaches the list.
+    connect(filDateiliste_, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto gewaehlte = filDateiliste_->selectedItems();
+        Waehlen(gewaehlte.isEmpty() ? nullptr : gewaehlte.first());
+    });
+    connect(filDateiliste_, &QListWidget::itemClicked, this, &frmDatei::Waehlen);
+    connect(filDateiliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::Bestaetigen);
+    connect(cmbAppend_, &QComboBox::activated, this,
+            [this] { MusterSetzen(MusterAus(cmbAppend_->currentText().toStdString())); });
+    for (QRadioButton* wahl : optAppend_) {
+        connect(wahl, &QRadioButton::clicked, this,
+                [this, wahl] { MusterSetzen(wahl->text().toStdString()); });
     }
+    connect(chkBackUp_, &QCheckBox::clicked, this,
+            [](bool an) { OptionDatei = static_cast<std::int16_t>(an ? 1 : 0); });
 }
 
-void frmDatei::Waehlen(const QListWidgetItem* eintrag) {
-    if (eintrag == nullptr) {
-        return;
+void frmDatei::TastenVerbinden() {
+    for (std::size_t i = 0; i < cmdDatei_.size(); ++i) {
+        connect(cmdDatei_[i], &QPushButton::clicked, this, [this, i] { Datei_Click(static_cast<int>(i)); });
     }
-    const Dateiort ort{ordner_, eintrag->text().toStdString()};
-    DateiName = Grossschreiben(ort.pfad());
-    AuswahlMerken(DateiName, NativGenau(ort));
-    txtDateiname_->setText(eintrag->text());
-}
-
-void frmDatei::NameZeigen(const std::string& name) {
-    const QSignalBlocker still(filDateiliste_);
-    txtDateiname_->setText(Anzeige(name));
-    const auto treffer = filDateiliste_->findItems(Anzeige(name), Qt::MatchExactly);
-    filDateiliste_->setCurrentItem(treffer.isEmpty() ? nullptr : treffer.first());
-}
-
-// The file that the name box names.
-Dateiort frmDatei::Ort() const {
-    const Dateiort ort{ordner_, txtDateiname_->text().toStdString()};
-    if (!NichtsGewaehlt(ort.name)) {
-        AuswahlMerken(ort.pfad(), NativGenau(ort));
+    for (std::size_t i = 0; i < cmdOrdner_.size(); ++i) {
+        connect(cmdOrdner_[i], &QPushButton::clicked, this, [this, i] { Ordner_Click(static_cast<int>(i)); });
     }
-    return ort;
+    connect(cmdVorschau_, &QPushButton::clicked, this, &frmDatei::Vorschau_Click);
+    connect(pnlDatei_, &Dateivorschau::beendet, this, &frmDatei::VorschauBeenden);
+    connect(cmdPfadZerlegen_, &QPushButton::clicked, this, [] { PfadAnzeigen(DateiName); });
+    connect(cmdLaden_, &QPushButton::clicked, this, &frmDatei::Laden_Click);
+    connect(cmdSpeichern_, &QPushButton::clicked, this, &frmDatei::Speichern_Click);
+    connect(cmdAbbrechen_, &QPushButton::clicked, this, &frmDatei::reject);
+    connect(cmdHilfe_, &QPushButton::clicked, this, [] { SoundSpielen("Hilfe"); });
 }
 
 void frmDatei::Bestaetigen() {
@@ -194,7 +93,7 @@ void frmDatei::Laden_Click() {
     const Dateiort ort = Ort();
     DateiName = NichtsGewaehlt(ort.name) ? std::string() : Grossschreiben(ort.pfad());
     if (!DateiName.empty()) {
-        AuswahlMerken(DateiName, NativGenau(ort));
+        AuswahlMerken(DateiName, ort.nativ());
     }
     accept();
 }

@@ -9,6 +9,7 @@
 #include <QDialog>
 
 #include <array>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -45,15 +46,19 @@ private:
     QPushButton* TasteBauen(const QString& name, const QString& aufschrift, QWidget* eltern);
     QWidget* ListenBauen();
     QWidget* OrdnerspalteBauen();
+    void TastenFuellen(QGroupBox* rahmen, const char* feld, const std::vector<const char*>& worte,
+                       std::span<QPushButton*> tasten);
     QWidget* AktionenBauen();
     QWidget* ZeilenBauen(const Dateiauswahl& auswahl);
     QWidget* MusterBauen(const Dateiauswahl& auswahl);
     QWidget* TastenBauen();
     QWidget* SicherungBauen(bool benutzbar);
-    void HinweiseSetzen();
-    void Verbinden();
 
-    // Folder, pattern and choice
+    void HinweiseSetzen();
+    void ListenVerbinden();
+    void TastenVerbinden();
+
+    // Folder, pattern and choice, in frmDateiListen.cpp
     void Anfangen(const Dateiauswahl& auswahl);
     bool OrdnerSetzen(const std::string& ordner);
     void OrdnerBetreten(const QListWidgetItem* eintrag);

@@ -1,13 +1,9 @@
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
 #include "dialogs/dialoggrund.h"
-#include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
-#include "filetools/kopiername.h"
 #include "filetools/laufwerksfeld.h"
-#include "periphery/hinweise.h"
 #include "settings/einstellungen.h"
 
 #include <QCheckBox>
@@ -67,7 +63,8 @@ frmDatei::frmDatei(const Dateiauswahl& auswahl) {
     spalte->addWidget(oben, 1);
     spalte->addLayout(unten);
     HinweiseSetzen();
-    Verbinden();
+    ListenVerbinden();
+    TastenVerbinden();
     resize(800, 520);
     Anfangen(auswahl);
 }
@@ -127,6 +124,18 @@ QWidget* frmDatei::OrdnerspalteBauen() {
     return spaltenfeld;
 }
 
+void frmDatei::TastenFuellen(QGroupBox* rahmen, const char* feld, const std::vector<const char*>& worte,
+                             std::span<QPushButton*> tasten) {
+    auto* innen = new QVBoxLayout(rahmen);
+    innen->setContentsMargins(6, 2, 6, 6);
+    innen->setSpacing(3);
+    for (std::size_t i = 0; i < worte.size(); ++i) {
+        tasten[i] = TasteBauen(QStringLiteral("%1(%2)").arg(QLatin1String(feld)).arg(i),
+                               QString::fromUtf8(worte[i]), rahmen);
+        innen->addWidget(tasten[i]);
+    }
+}
+
 QWidget* frmDatei::AktionenBauen() {
     picButtons_ = new QWidget(this);
     picButtons_->setObjectName(QStringLiteral("picButtons"));
@@ -135,22 +144,9 @@ QWidget* frmDatei::AktionenBauen() {
     fraDatei_->setObjectName(QStringLiteral("fraDatei"));
     fraOrdner_ = new QGroupBox(QStringLiteral("Ordner"), picButtons_);
     fraOrdner_->setObjectName(QStringLiteral("fraOrdner"));
-    const std::array<QString, 4> dateiworte{QStringLiteral("&Kopieren ..."), QStringLiteral("Lös&chen ..."),
-                                            QStringLiteral("S&uchen"), QStringLiteral("&Editieren")};
-    const std::array<QString, 3> ordnerworte{QStringLiteral("&Neu ..."), QStringLiteral("L&öschen ..."),
-                                             QStringLiteral("Serie A-&Z")};
-    const auto fuellen = [this](QGroupBox* rahmen, const char* feld, const auto& worte, auto& tasten) {
-        auto* innen = new QVBoxLayout(rahmen);
-        innen->setContentsMargins(6, 2, 6, 6);
-        innen->setSpacing(3);
-        for (std::size_t i = 0; i < worte.size(); ++i) {
-            tasten[i] =
-                TasteBauen(QStringLiteral("%1(%2)").arg(QLatin1String(feld)).arg(i), worte[i], rahmen);
-            innen->addWidget(tasten[i]);
-        }
-    };
-    fuellen(fraDatei_, "cmdDatei", dateiworte, cmdDatei_);
-    fuellen(fraOrdner_, "cmdOrdner", ordnerworte, cmdOrdner_);
+    TastenFuellen(fraDatei_, "cmdDatei", {"&Kopieren ...", "Lös&chen ...", "S&uchen", "&Editieren"},
+                  cmdDatei_);
+    TastenFuellen(fraOrdner_, "cmdOrdner", {"&Neu ...", "L&öschen ...", "Serie A-&Z"}, cmdOrdner_);
     cmdVorschau_ = TasteBauen(QStringLiteral("cmdVorschau"), QStringLiteral("&Vorschau"), picButtons_);
     cmdPfadZerlegen_ = TasteBauen(QStringLiteral("cmdPfadZerlegen"), QStringLiteral("Pfad"), picButtons_);
     spalte->addWidget(fraDatei_);
@@ -226,48 +222,4 @@ QWidget* frmDatei::TastenBauen() {
     cmdSpeichern_->setHidden(!speichern);
     (speichern ? cmdSpeichern_ : cmdLaden_)->setDefault(true);
     return fraButtons;
-}
-
-void frmDatei::HinweiseSetzen() {
-    for (const dateitexte::Hinweis& hinweis : dateitexte::hinweise) {
-        if (auto* steuerelement = findChild<QWidget*>(Anzeige(hinweis.name)); steuerelement != nullptr) {
-            HinweisSetzen(steuerelement, hinweis.tipp, hinweis.titel, hinweis.status);
-        }
-    }
-}
-
-void frmDatei::Verbinden() {
-    fraDatei_->installEventFilter(this);
-    fraOrdner_->installEventFilter(this);
-    dirVerzeichnisliste_->installEventFilter(this);
-    connect(fraLaufwerk_, &Laufwerksfeld::gewaehlt, this, &frmDatei::OrdnerSetzen);
-    connect(dirVerzeichnisliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::OrdnerBetreten);
-    // Not the current entry: that one changes as soon as the focus reaches the list.
-    connect(filDateiliste_, &QListWidget::itemSelectionChanged, this, [this] {
-        const auto gewaehlte = filDateiliste_->selectedItems();
-        Waehlen(gewaehlte.isEmpty() ? nullptr : gewaehlte.first());
-    });
-    connect(filDateiliste_, &QListWidget::itemClicked, this, &frmDatei::Waehlen);
-    connect(filDateiliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::Bestaetigen);
-    connect(cmbAppend_, &QComboBox::activated, this,
-            [this] { MusterSetzen(MusterAus(cmbAppend_->currentText().toStdString())); });
-    for (QRadioButton* wahl : optAppend_) {
-        connect(wahl, &QRadioButton::clicked, this,
-                [this, wahl] { MusterSetzen(wahl->text().toStdString()); });
-    }
-    connect(chkBackUp_, &QCheckBox::clicked, this,
-            [](bool an) { OptionDatei = static_cast<std::int16_t>(an ? 1 : 0); });
-    for (std::size_t i = 0; i < cmdDatei_.size(); ++i) {
-        connect(cmdDatei_[i], &QPushButton::clicked, this, [this, i] { Datei_Click(static_cast<int>(i)); });
-    }
-    for (std::size_t i = 0; i < cmdOrdner_.size(); ++i) {
-        connect(cmdOrdner_[i], &QPushButton::clicked, this, [this, i] { Ordner_Click(static_cast<int>(i)); });
-    }
-    connect(cmdVorschau_, &QPushButton::clicked, this, &frmDatei::Vorschau_Click);
-    connect(pnlDatei_, &Dateivorschau::beendet, this, &frmDatei::VorschauBeenden);
-    connect(cmdPfadZerlegen_, &QPushButton::clicked, this, [] { PfadAnzeigen(DateiName); });
-    connect(cmdLaden_, &QPushButton::clicked, this, &frmDatei::Laden_Click);
-    connect(cmdSpeichern_, &QPushButton::clicked, this, &frmDatei::Speichern_Click);
-    connect(cmdAbbrechen_, &QPushButton::clicked, this, &frmDatei::reject);
-    connect(cmdHilfe_, &QPushButton::clicked, this, [] { SoundSpielen("Hilfe"); });
 }

@@ -6,4 +6,4 @@ feldkranz_quellen(fenster
   filetools/fehlerkasten.cpp
   filetools/dateivorschau.h filetools/dateivorschau.cpp
   filetools/laufwerksfeld.h filetools/laufwerksfeld.cpp
-  filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp)
+  filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp)
