@@ -28,6 +28,7 @@ TEST(Listen, AFolderWithoutPermissionIsError70) {
     std::filesystem::create_directory(ordner.nativ("zu"));
     ::chmod(ordner.nativ("zu").c_str(), 0);
     EXPECT_EQ(ImKind(OhneRechte, [&] { static_cast<void>(DateienIn(ordner.eigen("zu"), "*.*")); }), 70);
+    ::chmod(ordner.nativ("zu").c_str(), 0700); // so that it can be cleared away
 }
 
 TEST(Listen, Patterns) {
