@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QHash>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
@@ -19,21 +20,19 @@ constexpr int bedenkzeit = 3000; // for the state over the target
 class Zaehlwerk : public QObject {
 public:
     Zaehlwerk() { qApp->installEventFilter(this); }
-    [[nodiscard]] int gesehen(QEvent::Type art) const { return art == QEvent::KeyRelease ? tasten_ : maus_; }
+    [[nodiscard]] int gesehen(QEvent::Type art) const { return gesehen_.value(art); }
 
 protected:
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override {
         // Each event passes here first on its way to the window.
         if (empfaenger->isWindowType()) {
-            maus_ += ereignis->type() == QEvent::MouseButtonRelease ? 1 : 0;
-            tasten_ += ereignis->type() == QEvent::KeyRelease ? 1 : 0;
+            ++gesehen_[ereignis->type()];
         }
         return false;
     }
 
 private:
-    int maus_ = 0;
-    int tasten_ = 0;
+    QHash<QEvent::Type, int> gesehen_;
 };
 
 // The place on the screen in the server's own pixels, which differ from the toolkit's on a scaled screen.
@@ -185,6 +184,14 @@ void Bewegen(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer)
 void Klicken(const QWidget* ziel, Qt::KeyboardModifiers tasten, std::optional<QPoint> stelle,
              Stelle aufrufer) {
     KlickenMit(ziel, {QStringLiteral("click"), QStringLiteral("1")}, 1, tasten, stelle, aufrufer);
+}
+
+void Druecken(const QWidget* ziel, Qt::KeyboardModifiers tasten, Stelle aufrufer) {
+    QStringList befehle{QStringLiteral("mousemove")};
+    befehle << Ort(Global(ziel, {}, aufrufer)) << Umschalter(tasten, QStringLiteral("keydown"))
+            << QStringList{QStringLiteral("click"), QStringLiteral("1")}
+            << Umschalter(tasten, QStringLiteral("keyup"));
+    SendenUndWarten(befehle, QEvent::MouseButtonPress, 1, aufrufer);
 }
 
 void Doppelklicken(const QWidget* ziel, Stelle aufrufer) {

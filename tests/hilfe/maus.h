@@ -20,6 +20,9 @@ void Bewegen(const QWidget* ziel, std::optional<QPoint> stelle = {}, Stelle aufr
 // Clicks with the left button; the modifiers are held meanwhile.
 void Klicken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
              std::optional<QPoint> stelle = {}, Stelle aufrufer = Stelle::hier());
+// The same where the press itself may open a dialog, which then gets the release.
+void Druecken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
+              Stelle aufrufer = Stelle::hier());
 void Doppelklicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 
