@@ -31,7 +31,7 @@ constexpr int felderBreite = 3615;
 
 Panel* FelderPanelBauen(QWidget* pnlHilfe) {
     auto* panel = new Panel(pnlHilfe, QStringLiteral("pnlFKFelder"));
-    panel->setFont(Schrift(8.25));
+    panel->setFont(Schrift(7.5));
     HinweisSetzen(panel, "Aktuelle Anzahl der Fragen, Fragen pro Wissensgebiet und Wissensgebiete.",
                   "Feldkranz", " Aktuelle Anzahl der Fragen- und Spezialfelder");
     panel->hide();

@@ -2,12 +2,15 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QIcon>
+#include <QPainter>
 #include <QPalette>
 #include <QScreen>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <QWidget>
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -34,6 +37,27 @@ QPalette HellePalette() {
         palette.setColor(QPalette::Disabled, rolle, matt);
     }
     return palette;
+}
+
+// The board in small: three columns of coloured fields.
+QIcon Programmzeichen() {
+    constexpr int kante = 64;
+    QPixmap bild(kante, kante);
+    bild.fill(Qt::transparent);
+    QPainter maler(&bild);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(QPen(QColor(92, 58, 30), 3));
+    maler.setBrush(QColor(255, 250, 235));
+    maler.drawRoundedRect(2, 2, kante - 4, kante - 4, 9, 9);
+    const std::array<QColor, 9> felder{QColor(247, 208, 82),  QColor(158, 200, 110), QColor(140, 184, 220),
+                                       QColor(224, 112, 88),  QColor(255, 255, 255), QColor(240, 164, 92),
+                                       QColor(140, 184, 220), QColor(247, 208, 82),  QColor(158, 200, 110)};
+    maler.setPen(QPen(QColor(92, 58, 30), 1.5));
+    for (int i = 0; i < 9; ++i) {
+        maler.setBrush(felder.at(static_cast<std::size_t>(i)));
+        maler.drawRoundedRect(QRectF(9.0 + i % 3 * 16, 9.0 + i / 3 * 16, 14, 14), 3, 3);
+    }
+    return QIcon(bild);
 }
 
 } // namespace
@@ -78,6 +102,7 @@ void OberflaecheEinrichten() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(HellePalette());
     QApplication::setFont(Schrift(9));
+    QApplication::setWindowIcon(Programmzeichen());
     auto* uebersetzung = new QTranslator(qApp);
     // Without the toolkit's German texts its few own buttons speak English; nothing else is lost.
     if (uebersetzung->load(QStringLiteral(":/uebersetzung/qtbase_de.qm"))) {

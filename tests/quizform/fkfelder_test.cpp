@@ -1,0 +1,293 @@
+// The cells of the quiz form: special fields and their limits, titles, typing and merging, blanking, menus.
+#include "tests/quizform/formhilfe.h"
+
+#include <QMdiSubWindow>
+
+namespace {
+
+const QString grenzeJoker = QStringLiteral("Wir wollten uns an die Spielregeln halten -\n"
+                                           "Die maximale Anzahl von 4 Jokern wurde bereits erreicht !");
+
+} // namespace
+
+class FkFelderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settingAJokerAndBackAtOnceBringsTheQuestionBack();
+    void aMergeInBetweenReplacesTheQuestionByTheMarkerForGood();
+    void aFifthJokerIsRefusedAndThePanelReadsEmpty();
+    void withTheLimitsOffAnyNumberCanBeSet();
+    void aRefusedChangeFromJokerToTaskKeepsTheCellsLook();
+    void theSameLetterAgainMarksNothingAsChanged();
+    void backToAPlainCellShowsItsRowOnGrey();
+    void aChosenTitleReachesTheModelOnlyWithAMerge();
+    void aClosedTitleTakesNoClick();
+    void typedTextReachesTheModelWhenTheFocusGoes();
+    void settingATextThatStandsThereMarksNothingAsChanged();
+    void aHeadBoxMarksTheFormAndSelectsItsText();
+    void aCharacterOutsideTheCodePageIsReplacedAndNamed();
+    void framesShowOnlyWithTheirOption();
+    void blankingKeepsTheMarkersAndRestoringBringsTheTextsBack();
+    void theThemeSourceFillsTheTitleList();
+    void theFormsMenuTakesThePlaceOfTheFileMenu();
+};
+
+void FkFelderTest::settingAJokerAndBackAtOnceBringsTheQuestionBack() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Tippen(form->txtFrage.at(4), QStringLiteral("Wer war das?"));
+    SpezialWaehlen(form, 4, 1);
+    QCOMPARE(form->pnlSpezial.at(4)->caption(), QStringLiteral("J"));
+    QCOMPARE(form->txtFrage.at(4)->text(), std::string("----- Joker ! -----\r\n"));
+    QCOMPARE(form->txtAntwort.at(4)->text(), std::string("----- Joker ! -----"));
+    QCOMPARE(Grund(form->txtFrage.at(4)), QColor(255, 255, 223));
+    QCOMPARE(Miniatur(programm, 4), QColor(255, 255, 0));
+    QCOMPARE(form->pnlPunkte.at(4)->caption(), QStringLiteral("5"));
+    SpezialWaehlen(form, 4, 0);
+    QCOMPARE(form->txtFrage.at(4)->text(), std::string("Wer war das?"));
+    QCOMPARE(Grund(form->txtFrage.at(4)), QColor(Qt::white));
+}
+
+void FkFelderTest::aMergeInBetweenReplacesTheQuestionByTheMarkerForGood() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Tippen(form->txtFrage.at(4), QStringLiteral("Wer war das?"));
+    SpezialWaehlen(form, 4, 1);
+    Tippen(form->txtFrage.at(9), QStringLiteral("anderswo"));
+    form->txtFrage.at(10)->setFocus();
+    QTRY_COMPARE(FrageText.at(9), std::string("anderswo"));
+    SpezialWaehlen(form, 4, 0);
+    QCOMPARE(form->txtFrage.at(4)->text(), std::string("----- Joker ! -----\r\n"));
+}
+
+void FkFelderTest::aFifthJokerIsRefusedAndThePanelReadsEmpty() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    for (const int n : {1, 7, 13, 19}) {
+        SpezialWaehlen(form, n, 1);
+    }
+    Dialogfolge dialoge;
+    dialoge.meldung(grenzeJoker, QStringLiteral("Akzeptiert"));
+    SpezialWaehlen(form, 25, 1);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(form->pnlSpezial.at(25)->caption(), QString());
+    QVERIFY(form->pnlSpezial.at(25)->isVisible());
+    QCOMPARE(FeldSpezial.at(25), std::string());
+    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(4));
+}
+
+void FkFelderTest::withTheLimitsOffAnyNumberCanBeSet() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    OptionMaxSpezial = 0;
+    for (int n = 1; n <= 7; ++n) {
+        SpezialWaehlen(form, n, 1);
+    }
+    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(7));
+}
+
+void FkFelderTest::aRefusedChangeFromJokerToTaskKeepsTheCellsLook() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    SpezialWaehlen(form, 2, 4);
+    SpezialWaehlen(form, 3, 4);
+    SpezialWaehlen(form, 5, 1);
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("Wir wollten uns an die Spielregeln halten -\n"
+                                   "Die maximale Anzahl von 2 Aktionsfeldern wurde bereits erreicht !"),
+                    QStringLiteral("Akzeptiert"));
+    SpezialWaehlen(form, 5, 4);
+    QCOMPARE(form->pnlSpezial.at(5)->caption(), QString());
+    QCOMPARE(FeldSpezial.at(5), std::string("J"));
+    QCOMPARE(Grund(form->txtFrage.at(5)), QColor(255, 255, 223));
+    QCOMPARE(Miniatur(programm, 5), QColor(255, 255, 0));
+    FK_SpezialZaehlen(); // the next count brings the screen's "" into force
+    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(0));
+}
+
+void FkFelderTest::theSameLetterAgainMarksNothingAsChanged() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    SpezialWaehlen(form, 6, 2);
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    FormGeaendert = 0;
+    SpezialWaehlen(form, 6, 2);
+    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(form->pnlSpezial.at(6)->caption(), QStringLiteral("G"));
+}
+
+void FkFelderTest::backToAPlainCellShowsItsRowOnGrey() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    SpezialWaehlen(form, 9, 3);
+    QCOMPARE(form->pnlPunkte.at(9)->caption(), QStringLiteral(".."));
+    QCOMPARE(form->pnlPunkte.at(9)->grund(), QColor(255, 0, 0));
+    SpezialWaehlen(form, 9, 0);
+    QCOMPARE(form->pnlPunkte.at(9)->caption(), QStringLiteral("4"));
+    QCOMPARE(form->pnlPunkte.at(9)->grund(), Systemflaeche());
+}
+
+void FkFelderTest::aChosenTitleReachesTheModelOnlyWithAMerge() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    QTest::mouseClick(form->pnlWissen.at(2), Qt::LeftButton);
+    QTRY_VERIFY(form->cmbWissen->view()->isVisible());
+    QVERIFY(!form->pnlWissen.at(2)->isVisible());
+    const int tiere = form->cmbWissen->findText(QStringLiteral("Tiere"));
+    QVERIFY(tiere > 0);
+    QCOMPARE(form->cmbWissen->itemText(0), QString());
+    QCOMPARE(form->cmbWissen->count(), 21);
+    form->cmbWissen->view()->setCurrentIndex(form->cmbWissen->model()->index(tiere, 0));
+    QTest::keyClick(form->cmbWissen->view(), Qt::Key_Return);
+    QTRY_VERIFY(!form->cmbWissen->isVisible());
+    QVERIFY(form->pnlWissen.at(2)->isVisible());
+    QCOMPARE(form->pnlWissen.at(2)->caption(), QStringLiteral("Tiere"));
+    QCOMPARE(WissenTitel.at(2), std::string("Wissen"));
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    FK_Merken();
+    QCOMPARE(WissenTitel.at(2), std::string("Tiere"));
+}
+
+void FkFelderTest::aClosedTitleTakesNoClick() {
+    Programm programm;
+    OptionMaxWissen = 1;
+    AnzahlWissen = 5;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    QTest::mouseClick(form->pnlWissen.at(6), Qt::LeftButton);
+    QVERIFY(!form->cmbWissen->isVisible());
+}
+
+void FkFelderTest::typedTextReachesTheModelWhenTheFocusGoes() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    FK_FelderFaerben();
+    QCOMPARE(Grund(form->txtFrage.at(8)), Systemflaeche());
+    Tippen(form->txtFrage.at(8), QStringLiteral("Wie heißt der Fluss?"));
+    QCOMPARE(FrageText.at(8), std::string());
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QTest::keyClick(form->txtFrage.at(8), Qt::Key_Tab);
+    QTRY_COMPARE(FrageText.at(8), std::string("Wie heißt der Fluss?"));
+    QVERIFY(form->txtAntwort.at(8)->hasFocus());
+    QCOMPARE(Grund(form->txtFrage.at(8)), QColor(Qt::white));
+    QCOMPARE(Miniatur(programm, 8), QColor(Qt::white));
+}
+
+void FkFelderTest::settingATextThatStandsThereMarksNothingAsChanged() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    form->txtFrage.at(1)->setText("a\r\nb");
+    FormGeaendert = 0;
+    form->txtFrage.at(1)->setText("a\r\nb");
+    form->txtNr->setWert("");
+    QCOMPARE(FormGeaendert, std::int16_t(0));
+    form->txtNr->setWert("3");
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+}
+
+void FkFelderTest::aHeadBoxMarksTheFormAndSelectsItsText() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    form->txtDatum->setText(QStringLiteral("24.12."));
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    form->txtZeit->setFocus();
+    form->txtDatum->setFocus();
+    QTRY_COMPARE(form->txtDatum->selectedText(), QStringLiteral("24.12."));
+}
+
+void FkFelderTest::aCharacterOutsideTheCodePageIsReplacedAndNamed() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    maus::Bewegen(Finden(programm.haupt(), QStringLiteral("pnlKranz"))); // no other control speaks meanwhile
+    form->txtFrage.at(1)->setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("Płock → 漢 Ende"));
+    QTest::keyClick(form->txtFrage.at(1), Qt::Key_V, Qt::ControlModifier);
+    QTRY_COMPARE(form->txtFrage.at(1)->text(), std::string("Plock ->  Ende"));
+    QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlHilfe"))->caption(),
+             QStringLiteral(" Das Zeichen  ł  kann ich nicht speichern, es musste draußen bleiben. "));
+    form->txtNr->setFocus();
+    QTest::keyClicks(form->txtNr, QStringLiteral("1"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("ł2"));
+    QTest::keyClick(form->txtNr, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(form->txtNr->text(), QStringLiteral("1l2"));
+}
+
+void FkFelderTest::framesShowOnlyWithTheirOption() {
+    Programm programm;
+    OptionRahmen = 0;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    SpezialWaehlen(form, 2, 1);
+    QVERIFY(!form->shpFrage.at(2)->isVisible());
+    OptionRahmen = 1;
+    FK_FelderFaerben();
+    QVERIFY(form->shpFrage.at(2)->isVisible());
+    QCOMPARE(form->shpFrage.at(2)->palette().color(QPalette::Window), QColor(239, 239, 0));
+    SpezialWaehlen(form, 8, 1);
+    QCOMPARE(form->shpFrage.at(8)->palette().color(QPalette::Window), QColor(223, 223, 0));
+    FK_FelderFaerben();
+    QCOMPARE(form->shpFrage.at(8)->palette().color(QPalette::Window), QColor(239, 239, 0));
+    QVERIFY(!form->shpFrage.at(1)->isVisible());
+}
+
+void FkFelderTest::blankingKeepsTheMarkersAndRestoringBringsTheTextsBack() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    form->txtFrage.at(1)->setText("eins");
+    form->txtAntwort.at(1)->setText("uno");
+    FK_Merken();
+    SpezialWaehlen(form, 2, 5);
+    const auto frage = QStringLiteral("Soll ich die Fragen und Antworten aus dem Formular löschen ?\n"
+                                      "(Können anschließend - wenn nichts verändert wurde -\n"
+                                      "auch wieder eingefügt werden.)");
+    {
+        Dialogfolge dialoge;
+        dialoge.frage(QStringLiteral("Fragen löschen"), frage, 2);
+        QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLoeschen")), Qt::LeftButton);
+        QCOMPARE(form->txtFrage.at(1)->text(), std::string("eins"));
+    }
+    {
+        Dialogfolge dialoge;
+        dialoge.frage(QStringLiteral("Fragen löschen"), frage, 6);
+        QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLoeschen")), Qt::LeftButton);
+    }
+    QCOMPARE(form->txtFrage.at(1)->text(), std::string());
+    QCOMPARE(form->txtFrage.at(2)->text(), std::string("----- Ereignis ! -----\r\n"));
+    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLaden")), Qt::LeftButton);
+    QCOMPARE(form->txtFrage.at(1)->text(), std::string("eins"));
+    QCOMPARE(form->txtAntwort.at(1)->text(), std::string("uno"));
+}
+
+void FkFelderTest::theThemeSourceFillsTheTitleList() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    auto* schalter = Finden<QAbstractButton>(programm.haupt(), QStringLiteral("grpFKHB"));
+    auto* eintrag = Finden<QAction>(programm.haupt(), QStringLiteral("mThemenHB"));
+    QTest::mouseClick(schalter, Qt::LeftButton);
+    QVERIFY(eintrag->isChecked());
+    QCOMPARE(form->cmbWissen->count(), 20);
+    QCOMPARE(form->cmbWissen->itemText(0), QStringLiteral("Andacht"));
+    eintrag->trigger();
+    QVERIFY(!eintrag->isChecked());
+    QVERIFY(!schalter->isChecked());
+    QCOMPARE(form->cmbWissen->count(), 20);
+    QCOMPARE(form->cmbWissen->itemText(0), QStringLiteral("A-Z")); // without a leading ""
+}
+
+void FkFelderTest::theFormsMenuTakesThePlaceOfTheFileMenu() {
+    Programm programm;
+    auto* haupt = Finden<QMenu>(programm.haupt(), QStringLiteral("mDateien"));
+    auto* form = Finden<QMenu>(programm.haupt(), QStringLiteral("mDateienFK"));
+    QVERIFY(haupt->menuAction()->isVisible());
+    QVERIFY(!form->menuAction()->isVisible());
+    programm.NeuesQuizformular();
+    QVERIFY(!haupt->menuAction()->isVisible());
+    QVERIFY(form->menuAction()->isVisible());
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("Falls erforderlich,\nwird noch ein zusätzliches Hilfesystem implementiert !"),
+        QStringLiteral("Ich glaube, das ist nicht nötig"));
+    Finden<QAction>(programm.haupt(), QStringLiteral("mHilfeFK"))->trigger();
+}
+
+QTEST_MAIN(FkFelderTest)
+#include "fkfelder_test.moc"
