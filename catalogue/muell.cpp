@@ -4,6 +4,7 @@
 #include "catalogue/frmAuswahl.h"
 #include "core/hauptfenster.h"
 #include "core/ziehen.h"
+#include "core/zustand.h"
 #include "dialogs/meldung.h"
 #include "quizform/fkformular.h"
 #include "testform/hbformular.h"
@@ -34,5 +35,7 @@ void MuellAblegen(frmAuswahl& fenster) {
     } else {
         HB_Merken();
     }
-    FormStatusSetzen(1);
+    if (!FormTyp.empty()) {
+        FormStatusSetzen(1); // without a form there is nothing that could be saved
+    }
 }
