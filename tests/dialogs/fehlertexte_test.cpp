@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace {
 
 struct Fall {
@@ -9,6 +11,10 @@ struct Fall {
     const char* text;
     const char* taste;
 };
+
+void PrintTo(const Fall& fall, std::ostream* ziel) {
+    *ziel << fall.nummer;
+}
 
 class Fehlertexte : public ::testing::TestWithParam<Fall> {};
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace {
 
 using enum Namensfehler;
@@ -10,6 +12,10 @@ struct Namensfall {
     const char* name;
     std::vector<Namensfehler> fehler;
 };
+
+void PrintTo(const Namensfall& fall, std::ostream* ziel) {
+    *ziel << '"' << fall.name << '"';
+}
 
 class Kopiername : public ::testing::TestWithParam<Namensfall> {};
 
