@@ -53,11 +53,8 @@ void ProgrammBeendenDurch(std::function<void()> ende) {
 }
 
 void ProgrammEnde() {
-    if (FormGeaendert == 1) {
-        FK_Merken();
-        if (AuswertungSpeichernFragen() == 1) {
-            return;
-        }
+    if (FormGeaendert == 1 && AuswertungSpeichernFragen() == 1) {
+        return;
     }
     if (!EinstellungenErledigt() || !EndeBestaetigt()) {
         return;
