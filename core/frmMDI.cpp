@@ -71,7 +71,7 @@ void frmMDI::FlaechenBauen() {
     pnlKranz_->setFixedHeight(Pixel(kranzHoehe));
     kindflaeche_ = new QMdiArea(mitte);
     kindflaeche_->setObjectName(QStringLiteral("kindflaeche"));
-    kindflaeche_->setBackground(QColor(128, 134, 128));
+    kindflaeche_->setBackground(QColor(166, 160, 148));
     kindflaeche_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     kindflaeche_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     pnlHilfe_ = new Hilfepanel(mitte);

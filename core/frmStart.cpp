@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -63,7 +64,11 @@ frmStart::frmStart() {
 void frmStart::BildLaden() {
     const std::string pfad = AppPfad + std::string(kerntexte::startbild);
     const QString datei = NativerPfad(pfad);
-    if (bild_.load(datei)) {
+    // The format is known: asking every picture plug-in for it would cost a good part of the start.
+    QImageReader leser(datei, "bmp");
+    leser.setAutoDetectImageFormat(false);
+    bild_ = QPixmap::fromImage(leser.read());
+    if (!bild_.isNull()) {
         return;
     }
     if (QFileInfo::exists(datei)) {
