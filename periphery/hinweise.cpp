@@ -11,7 +11,7 @@ namespace {
 
 // Puts a control's status line into the help panel while the pointer moves onto it or the focus reaches it.
 class Statusmelder : public QObject {
-  public:
+public:
     Statusmelder(QWidget* steuerelement, std::string status)
         : QObject(steuerelement), status_(std::move(status)) {
         setObjectName(QStringLiteral("statusmelder"));
@@ -25,7 +25,7 @@ class Statusmelder : public QObject {
         return QObject::eventFilter(objekt, ereignis);
     }
 
-  private:
+private:
     std::string status_;
 };
 

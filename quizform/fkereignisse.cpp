@@ -89,9 +89,7 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
             form.AlteAntwort = antwort->text();
         });
         // Meant: the answer's own focus takes no texts to compare with.
-        QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [antwort] {
-            TextMarkieren(antwort);
-        });
+        QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [antwort] { TextMarkieren(antwort); });
         QObject::connect(form.pnlSpezial.at(Stelle(n)), &Panel::geklickt, &form,
                          [&form, n] { SpezialListeOeffnen(form, n); });
     }
