@@ -1,37 +1,16 @@
 #include "printing/druckseite.h"
 
-#include "core/datei.h"
 #include "core/laufzeitfehler.h"
-#include "core/pfad.h"
 #include "printing/druckannahme.h"
+#include "printing/pdfdatei.h"
 #include "printing/zeichnungmalen.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QTemporaryDir>
 
-#include <utility>
-
-namespace {
-
-// The bytes of a PDF that the toolkit has written; a disk that filled up meanwhile leaves it without an end.
-QByteArray FertigesPdf(const QString& datei) {
-    QFile quelle(datei);
-    if (!quelle.open(QIODevice::ReadOnly)) {
-        throw Laufzeitfehler(Fehler::GeraetEA);
-    }
-    const QByteArray bytes = quelle.readAll();
-    if (!bytes.trimmed().endsWith("%%EOF")) {
-        throw Laufzeitfehler(Fehler::DatentraegerVoll);
-    }
-    return bytes;
-}
-
-} // namespace
-
-Druckseite::Druckseite(QPageLayout::Orientation ausrichtung, std::string pdfPfad, const std::string& titel)
+Druckseite::Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad,
+                       const std::string& titel)
     : drucker_(Drucker()),
       AltOrientierung_(drucker_.pageLayout().orientation()),
       pdfPfad_(PdfZiel(pdfPfad)),
@@ -47,41 +26,38 @@ Druckseite::~Druckseite() {
 }
 
 std::string Druckseite::Drucken(const Zeichnung& zeichnung, const std::function<void()>& fortschritt) {
+    SchriftenLaden(zeichnung, schriften_, fortschritt);
     if (drucker_.outputFormat() == QPrinter::PdfFormat) {
-        return AlsPdf(zeichnung, fortschritt);
+        return AlsPdf(zeichnung);
     }
     if (QPrinterInfo::printerInfo(drucker_.printerName()).isNull()) {
         throw Laufzeitfehler(Fehler::GeraetFehlt);
     }
-    Malen(zeichnung, fortschritt);
+    Malen(zeichnung);
     if (!AuftragAngenommen()) {
         throw Laufzeitfehler(Fehler::GeraetEA);
     }
     return {};
 }
 
-void Druckseite::Malen(const Zeichnung& zeichnung, const std::function<void()>& fortschritt) {
+void Druckseite::Malen(const Zeichnung& zeichnung) {
     QPainter maler;
     if (!maler.begin(&drucker_)) {
         throw Laufzeitfehler(Fehler::GeraetFehlt);
     }
     // The elements count from the printable origin in whole mm, the sheet from its corner: with the same
     // whole mm added, a margin of 10 mm is one of 10 mm on paper.
-    ZeichnungMalen(maler, zeichnung, schriften_, masse_.links, masse_.oben, fortschritt);
+    ZeichnungMalen(maler, zeichnung, schriften_, masse_.links, masse_.oben);
     if (!maler.end() || drucker_.printerState() == QPrinter::Error) {
         throw Laufzeitfehler(Fehler::GeraetEA);
     }
 }
 
-std::string Druckseite::AlsPdf(const Zeichnung& zeichnung, const std::function<void()>& fortschritt) {
-    const QTemporaryDir zwischenlager;
-    if (!zwischenlager.isValid()) {
-        throw Laufzeitfehler(Fehler::PfadZugriff);
-    }
-    const QString datei = zwischenlager.filePath(QStringLiteral("Blatt.pdf"));
-    drucker_.setOutputFileName(datei);
-    Malen(zeichnung, fortschritt);
-    const QByteArray bytes = FertigesPdf(datei);
-    DateiSchreiben(pdfPfad_, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+std::string Druckseite::AlsPdf(const Zeichnung& zeichnung) {
+    PdfDatei datei(pdfPfad_);
+    drucker_.setOutputFileName(datei.schreibname());
+    drucker_.setOutputFormat(QPrinter::PdfFormat); // whatever the name ends in
+    Malen(zeichnung);
+    datei.Einsetzen();
     return pdfPfad_;
 }

@@ -15,7 +15,7 @@ class Druckseite {
 public:
     // Turns the printer for the time of the object. pdfPfad: where the sheet goes as a PDF if there is no
     // printer, in the program's notation. titel: name of the print job, UTF-8.
-    Druckseite(QPageLayout::Orientation ausrichtung, std::string pdfPfad, const std::string& titel);
+    Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad, const std::string& titel);
     ~Druckseite();
     Druckseite(const Druckseite&) = delete;
     Druckseite& operator=(const Druckseite&) = delete;
@@ -31,8 +31,8 @@ public:
     std::string Drucken(const Zeichnung& zeichnung, const std::function<void()>& fortschritt);
 
 private:
-    void Malen(const Zeichnung& zeichnung, const std::function<void()>& fortschritt);
-    std::string AlsPdf(const Zeichnung& zeichnung, const std::function<void()>& fortschritt);
+    void Malen(const Zeichnung& zeichnung);
+    std::string AlsPdf(const Zeichnung& zeichnung);
 
     QPrinter& drucker_;
     QPageLayout::Orientation AltOrientierung_;

@@ -89,8 +89,9 @@ void TeilerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
 // Lines run on below the cell when there are many: nothing is cut off, and that is meant.
 void FeldtextZeichnen(Zeichnung& zeichnung, const Stelle& s, const std::string& text, float y, bool fett) {
     const Schrift schrift{Schriftart::Arial, 8.0F * s.g.Massstab, fett};
-    const auto zeilen =
-        Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) { return s.mass.Breite(teil, schrift); });
+    const auto zeilen = Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) {
+        return s.mass.BreiteGegen(teil, schrift, s.g.TextBreite);
+    });
     TextZeilen(zeichnung, s.mass, s.x + s.g.TextEinzug, y, schrift, zeilen);
 }
 
@@ -155,11 +156,11 @@ void FelderZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druck
     for (const Durchgang durchgang :
          {Durchgang{FrageZeichnen}, Durchgang{AntwortZeichnen}, Durchgang{NummerZeichnen}}) {
         for (std::size_t n = 1; n < daten.felder.size(); ++n) {
-            const auto spalte = static_cast<float>((n - 1) / 5);
-            const auto zeile = (n - 1) % 5;
+            const std::size_t spalte = (n - 1) / 5;
+            const std::size_t zeile = (n - 1) % 5;
             const FKDruckfeld& feld = daten.felder[n];
             durchgang(zeichnung, Stelle{daten, g, mass, feld, ArtVon(feld), static_cast<int>(zeile) + 1,
-                                        g.RandLinks + spalte * g.SpaltenRaster,
+                                        g.RandLinks + static_cast<float>(spalte) * g.SpaltenRaster,
                                         g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
         }
     }

@@ -28,25 +28,26 @@ struct Stift {
 };
 
 struct Rechteck {
-    float x, y, breite, hoehe;
+    float x = 0.0F, y = 0.0F, breite = 0.0F, hoehe = 0.0F;
     Stift stift;
     std::optional<Farbe> fuellung; // no value: unfilled
 };
 
 struct Strich {
-    float x1, y1, x2, y2;
+    float x1 = 0.0F, y1 = 0.0F, x2 = 0.0F, y2 = 0.0F;
     Stift stift;
 };
 
 struct Kreis {
-    float x, y, radius; // centre
+    float x = 0.0F, y = 0.0F; // centre
+    float radius = 0.0F;
     Stift stift;
 };
 
 // One line of black text; x and y are the top left corner of its line box, whose height is that of
 // Schriftmass::Hoehe.
 struct Textstelle {
-    float x, y;
+    float x = 0.0F, y = 0.0F;
     Schrift schrift;
     std::string text; // UTF-8
 };
@@ -63,6 +64,12 @@ public:
     virtual ~Schriftmass() = default;
 
     [[nodiscard]] virtual float Breite(std::string_view text, const Schrift& schrift) const = 0;
+    // The same for a text that is only held against a limit: exact near it, else on the right side of it.
+    [[nodiscard]] virtual float BreiteGegen(std::string_view text, const Schrift& schrift,
+                                            float grenze) const {
+        static_cast<void>(grenze);
+        return Breite(text, schrift);
+    }
     // Height of a line: ascent and descent, the pitch of lines that follow one another.
     [[nodiscard]] virtual float Hoehe(const Schrift& schrift) const = 0;
 };

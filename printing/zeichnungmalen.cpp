@@ -65,16 +65,25 @@ private:
 
 } // namespace
 
-void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschriften& schriften,
-                    double versatzX, double versatzY, const std::function<void()>& fortschritt) {
-    Malgang gang(maler, schriften, versatzX, versatzY);
-    std::size_t gemalt = 0;
+void SchriftenLaden(const Zeichnung& zeichnung, const Druckschriften& schriften,
+                    const std::function<void()>& fortschritt) {
+    std::size_t gelesen = 0;
     std::size_t gemeldet = 0;
     for (const Element& element : zeichnung) {
-        std::visit(gang, element);
-        ++gemalt;
-        for (; fortschritt && gemeldet < gemalt * schritte / zeichnung.size(); ++gemeldet) {
+        if (const Textstelle* text = std::get_if<Textstelle>(&element)) {
+            static_cast<void>(schriften.Finden(text->schrift));
+        }
+        ++gelesen;
+        for (; fortschritt && gemeldet < gelesen * schritte / zeichnung.size(); ++gemeldet) {
             fortschritt();
         }
+    }
+}
+
+void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschriften& schriften,
+                    double versatzX, double versatzY) {
+    Malgang gang(maler, schriften, versatzX, versatzY);
+    for (const Element& element : zeichnung) {
+        std::visit(gang, element);
     }
 }

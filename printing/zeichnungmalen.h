@@ -8,7 +8,11 @@
 
 class QPainter;
 
-// versatzX, versatzY: the page's origin on the device's sheet, in mm. fortschritt is called thirty times,
-// evenly over the elements.
+// Loads every font that the page needs; fortschritt is called thirty times, evenly over the elements. What a
+// caller's step may throw comes from here, while nothing has been sent to the device yet.
+void SchriftenLaden(const Zeichnung& zeichnung, const Druckschriften& schriften,
+                    const std::function<void()>& fortschritt);
+
+// versatzX, versatzY: the page's origin on the device's sheet, in mm.
 void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschriften& schriften,
-                    double versatzX, double versatzY, const std::function<void()>& fortschritt);
+                    double versatzX, double versatzY);

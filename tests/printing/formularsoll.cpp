@@ -64,12 +64,13 @@ private:
         soll_.pfade.push_back({x1, y1, x2, y2, 2, 5 * 25.4 / 600, "0,0,0", ""});
     }
     // The first word at the left edge, the others on the same height.
-    void Zeile(double x, double y, const std::string& text) {
+    void Zeile(double x, double y, const std::string& text, double punkte) {
         std::istringstream strom(text);
         std::string wort;
         bool erstes = true;
         while (strom >> wort) {
-            soll_.worte.push_back({wort, erstes ? SollWort::Halt::Links : SollWort::Halt::NurHoehe, x, y});
+            soll_.worte.push_back(
+                {wort, erstes ? SollWort::Halt::Links : SollWort::Halt::NurHoehe, x, y, Zeilenhoehe(punkte)});
             erstes = false;
         }
     }
@@ -77,13 +78,14 @@ private:
         std::istringstream strom(text);
         std::string zeile;
         while (std::getline(strom, zeile)) {
-            Zeile(x, y, zeile);
+            Zeile(x, y, zeile, punkte);
             y += Zeilenhoehe(punkte);
         }
     }
     void Mitte(double x, double y, const std::string& wort, double punkte) {
         if (!wort.empty()) {
-            soll_.worte.push_back({wort, SollWort::Halt::Mitte, x, y - Zeilenhoehe(punkte) / 2});
+            soll_.worte.push_back(
+                {wort, SollWort::Halt::Mitte, x, y - Zeilenhoehe(punkte) / 2, Zeilenhoehe(punkte)});
         }
     }
 
@@ -92,11 +94,11 @@ private:
     void Kopf() {
         Kasten(m_.links, m_.oben, m_.breite, m_.kopf, m_.strichKopf, "0,0,0",
                daten_.titelGrau ? "255,255,191" : "");
-        Zeile(m_.links + 3 * m_.massstab, m_.oben + 2 * m_.massstab, "FELDKRANZ!");
+        Zeile(m_.links + 3 * m_.massstab, m_.oben + 2 * m_.massstab, "FELDKRANZ!", 20 * m_.massstab);
         const double y = m_.oben + 4.5 * m_.massstab;
-        Zeile(X(3), y, "Datum :  " + daten_.datum);
-        Zeile(X(4), y, "Zeit :  " + daten_.zeit);
-        Zeile(X(5), y, "Nr :  " + daten_.nummer);
+        Zeile(X(3), y, "Datum :  " + daten_.datum, 11 * m_.massstab);
+        Zeile(X(4), y, "Zeit :  " + daten_.zeit, 11 * m_.massstab);
+        Zeile(X(5), y, "Nr :  " + daten_.nummer, 11 * m_.massstab);
     }
 
     void Gebiet(int a) {
@@ -185,6 +187,7 @@ bool Gleich(const Pfad& a, const Pfad& b) {
 bool Gleich(const SollWort& soll, const Wort& ist) {
     const double x = soll.halt == SollWort::Halt::Mitte ? (ist.links + ist.rechts) / 2 : ist.links;
     return soll.text == ist.text && Nah(soll.oben, ist.oben, 0.1) &&
+           Nah(soll.hoehe, ist.unten - ist.oben, 0.03) &&
            (soll.halt == SollWort::Halt::NurHoehe || Nah(soll.x, x, 0.1));
 }
 

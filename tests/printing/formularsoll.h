@@ -8,21 +8,22 @@
 #include <string>
 #include <vector>
 
-// A word's place: its left edge or its centre, where known, and the top of its line.
+// A word's place: its left edge or its centre, where known, and the top and height of its line.
 struct SollWort {
     enum class Halt { Links, Mitte, NurHoehe };
     std::string text;
     Halt halt = Halt::Links;
-    double x = 0, oben = 0;
+    double x = 0, oben = 0, hoehe = 0;
 };
 
 struct SollSeite {
-    std::vector<Pfad> pfade;
-    std::vector<SollWort> worte;
+    std::vector<Pfad> pfade{};
+    std::vector<SollWort> worte{};
 };
 
 // Every line of a cell's text must be short enough to stand as it is; breaking is tested on its own.
 [[nodiscard]] SollSeite FormularSoll(const FKDruckdaten& daten, Papier papier, double zwischenabstand);
 
-// What of the one is not on the other, within 0.02 mm for paths and 0.1 mm for words; "" if they are the same.
+// What of the one is not on the other, within 0.02 mm for paths and 0.1 mm for words; "" if they are the
+// same.
 [[nodiscard]] std::string Unterschied(const SollSeite& soll, const PdfSeite& ist);

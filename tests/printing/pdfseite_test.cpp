@@ -9,10 +9,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPrinter>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <tuple>
 
 namespace {
@@ -24,7 +27,7 @@ protected:
 
     // Prints the form and returns the path of the file.
     QString Drucken(const FKDruckdaten& daten, Papier papier, float abstand) {
-        const QString datei = ordner.filePath(QStringLiteral("Blatt.pdf"));
+        QString datei = ordner.filePath(QStringLiteral("Blatt.pdf"));
         Druckseite seite(papier == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait,
                          EigenerPfad(datei), "Probe");
         const auto g = GeometrieRechnen(papier, abstand, seite.masse().links, seite.masse().oben);
@@ -42,15 +45,16 @@ FKDruckdaten GefuelltesFormular() {
     daten.datum = "24.12.2008";
     daten.zeit = "90 Minuten";
     daten.nummer = "17";
-    const char* const titel[] = {"", "Musik", "Natur", "Wissen", "Geschichte", "Bibel", "Sport"};
-    const char* const arten[] = {"", "J", "", "E", "R", "", "G", "", "A"};
+    constexpr std::array titel{"", "Musik", "Natur", "Wissen", "Geschichte", "Bibel", "Sport"};
+    constexpr std::array arten{"", "J", "", "E", "R", "", "G", "", "A"};
     for (std::size_t a = 1; a <= 6; ++a) {
         daten.gebiete[a] = {titel[a], a != 6};
     }
     for (std::size_t n = 1; n <= 30; ++n) {
         const std::string nr = std::to_string(n);
-        daten.felder[n] = {"Frage" + nr + " ist öde ?\r\nZeile" + nr, "Antwort" + nr + " ß", arten[n % 9],
-                           n <= 25, n <= 25 && n != 2};
+        daten.felder[n] = {std::string("Frage").append(nr).append(" ist öde ?\r\nZeile").append(nr),
+                           std::string("Antwort").append(nr).append(" ß"), arten[n % 9], n <= 25,
+                           n <= 25 && n != 2};
     }
     daten.punkteJ = 5;
     daten.punkteE = 10;
@@ -78,9 +82,21 @@ TEST_P(PdfSeitenAlle, EveryBoxLineAndTextStandsInItsPlace) {
     }
 }
 
+static void PrintTo(Papier papier, std::ostream* strom) {
+    *strom << (papier == Papier::A4Quer ? "A4" : "A5");
+}
+
+// "A4At15TenthsOfAMillimetre".
+static std::string Fallname(const testing::TestParamInfo<std::tuple<Papier, float>>& fall) {
+    const auto [papier, abstand] = fall.param;
+    return std::string(papier == Papier::A4Quer ? "A4" : "A5") + "At" +
+           std::to_string(std::lround(abstand * 10.0F)) + "TenthsOfAMillimetre";
+}
+
 INSTANTIATE_TEST_SUITE_P(PapierUndAbstand, PdfSeitenAlle,
                          testing::Combine(testing::Values(Papier::A4Quer, Papier::A5Quer),
-                                          testing::Values(0.0F, 1.0F, 1.5F, 2.0F, 2.5F)));
+                                          testing::Values(0.0F, 1.0F, 1.5F, 2.0F, 2.5F)),
+                         Fallname);
 
 TEST_F(PdfSeiten, EachShadingByItself) {
     for (int wahl = 0; wahl < 3; ++wahl) {
@@ -256,6 +272,30 @@ TEST_F(PdfSeiten, AFailedPrintLeavesTheOldSheetWhole) {
     EXPECT_THROW(seite.Drucken({Strich{0, 0, 1, 1, {}}}, [] { throw Laufzeitfehler(Fehler::Ueberlauf); }),
                  Laufzeitfehler);
     EXPECT_EQ(PdfLesen(datei).worte.size(), vorher);
+    EXPECT_EQ(QDir(ordner.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+}
+
+TEST_F(PdfSeiten, ALinkLeadsToTheFileThatIsReplacedAndItsPermissionsStay) {
+    const QString echt = Drucken({}, Papier::A4Quer, 0.0F);
+    const auto rechte = QFile::ReadOwner | QFile::WriteOwner;
+    ASSERT_TRUE(QFile::setPermissions(echt, rechte));
+    const QString verweis = ordner.filePath(QStringLiteral("Verweis.pdf"));
+    ASSERT_TRUE(QFile::link(echt, verweis));
+    Druckseite seite(QPageLayout::Portrait, EigenerPfad(verweis), "Probe");
+    seite.Drucken({Textstelle{10, 10, {}, "Neu"}}, {});
+    EXPECT_TRUE(QFileInfo(verweis).isSymLink());
+    ASSERT_EQ(PdfLesen(echt).worte.size(), 1U);
+    EXPECT_EQ(PdfLesen(echt).worte.front().text, "Neu");
+    EXPECT_EQ(QFile::permissions(echt) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+TEST_F(PdfSeiten, ANewFilesNameMayHoldAnyCharacter) {
+    for (const char* const name : {"Größe 日本.pdf", "a'b \"c\".pdf", "ohne Endung", "x.PDF"}) {
+        const QString datei = ordner.filePath(QString::fromUtf8(name));
+        Druckseite seite(QPageLayout::Portrait, EigenerPfad(datei), "Größe 日本");
+        EXPECT_EQ(seite.Drucken({}, {}), EigenerPfad(datei));
+        EXPECT_EQ(PdfSeitenzahl(datei), 1) << name;
+    }
 }
 
 TEST_F(PdfSeiten, ProgressRunsThroughThirtySteps) {

@@ -48,7 +48,8 @@ std::size_t Anzahl(const std::vector<Textstelle>& texte, std::string_view text) 
 }
 
 float FeldX(int n) {
-    return geometrie.RandLinks + static_cast<float>((n - 1) / 5) * geometrie.SpaltenRaster;
+    const int spalte = (n - 1) / 5;
+    return geometrie.RandLinks + static_cast<float>(spalte) * geometrie.SpaltenRaster;
 }
 float FeldY(int n) {
     return geometrie.ZeilenOben + static_cast<float>((n - 1) % 5) * geometrie.ZeilenRaster;
@@ -92,13 +93,14 @@ TEST(Seitenlayout, TheHeadStrip) {
     EXPECT_FALSE(streifen.fuellung.has_value());
     const auto texte = Alle<Textstelle>(zeichnung);
     const float spalte = geometrie.SpaltenRaster;
-    const struct {
-        std::string text;
+    struct Zeile {
+        const char* text;
         float x, y, groesse;
-    } soll[] = {{"FELDKRANZ!", 13.0F, 27.0F, 20.0F},
-                {"Datum :  1. Mai", 10.0F + 3.0F * spalte, 29.5F, 11.0F},
-                {"Zeit :  90 min", 10.0F + 4.0F * spalte, 29.5F, 11.0F},
-                {"Nr :  7", 10.0F + 5.0F * spalte, 29.5F, 11.0F}};
+    };
+    const std::vector<Zeile> soll{{"FELDKRANZ!", 13.0F, 27.0F, 20.0F},
+                                  {"Datum :  1. Mai", 10.0F + 3.0F * spalte, 29.5F, 11.0F},
+                                  {"Zeit :  90 min", 10.0F + 4.0F * spalte, 29.5F, 11.0F},
+                                  {"Nr :  7", 10.0F + 5.0F * spalte, 29.5F, 11.0F}};
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(texte[i].text, soll[i].text);
         EXPECT_NEAR(texte[i].x, soll[i].x, genau);
@@ -160,7 +162,7 @@ TEST(Seitenlayout, TheBlankPrintLacksTheTitlesAndNothingElse) {
 
 TEST(Seitenlayout, WithoutAGapOnA4AdjoiningFramesShareTheirEdgesAndTheStripEndsWithTheLastColumn) {
     const auto kaesten = Alle<Rechteck>(Zeichnen(LeeresFormular()));
-    const auto feld = [&](int n) { return kaesten[static_cast<std::size_t>(6 + n)]; };
+    const auto feld = [&](int n) { return kaesten[static_cast<std::size_t>(n) + 6]; };
     for (int n = 1; n <= 25; ++n) {
         EXPECT_NEAR(feld(n).x + feld(n).breite, feld(n + 5).x, genau);
     }
@@ -207,11 +209,12 @@ TEST(Seitenlayout, APlainCellIsWorthItsRow) {
 }
 
 TEST(Seitenlayout, PointsOfTheKinds) {
-    const struct {
+    struct Zeile {
         const char* spezial;
         std::int16_t a, e, g, j, r;
         const char* nummer; // of cell 4
-    } tabelle[] = {
+    };
+    const std::vector<Zeile> tabelle{
         {"J", 0, 0, 0, 5, 0, "5"},   {"J", 9, 9, 9, 0, 9, "4"},  {"J", 0, 0, 0, -1, 0, "4"},
         {"E", 0, 10, 0, 5, 0, "10"}, {"E", 0, 10, 0, 0, 0, "4"}, {"E", 0, 0, 0, 5, 0, "0"},
         {"R", 0, 0, 0, 0, 20, "20"}, {"R", 9, 9, 9, 9, 0, "?"},  {"G", 0, 0, 10, 0, 0, "10"},
@@ -256,10 +259,11 @@ TEST(Seitenlayout, TheLetterOfRiskFortuneAndTaskStandsInTheLowerPart) {
 }
 
 TEST(Seitenlayout, JokerAndEventShowTheirWordOnTheWholeFieldWithoutDividersAndTexts) {
-    const struct {
+    struct Zeile {
         const char* spezial;
         const char* wort;
-    } tabelle[] = {{"J", "Joker"}, {"E", "Ereignis"}};
+    };
+    const std::vector<Zeile> tabelle{{"J", "Joker"}, {"E", "Ereignis"}};
     for (const auto& zeile : tabelle) {
         FKDruckdaten daten = LeeresFormular();
         daten.felder[9] = {"----- Joker ! -----\r\n", "----- Joker ! -----", zeile.spezial, true, true};
@@ -276,15 +280,16 @@ TEST(Seitenlayout, JokerAndEventShowTheirWordOnTheWholeFieldWithoutDividersAndTe
 }
 
 TEST(Seitenlayout, ShadingAndFramesOfTheFiveKinds) {
-    const struct {
+    struct Zeile {
         const char* spezial;
         Farbe grund, linie;
         std::size_t kaesten; // outer, inner and for three kinds outer again
-    } tabelle[] = {{"J", {255, 255, 191}, {159, 159, 0}, 2},
-                   {"E", {255, 223, 191}, {255, 127, 0}, 2},
-                   {"R", {255, 223, 223}, {255, 0, 0}, 3},
-                   {"G", {223, 255, 223}, {0, 255, 0}, 3},
-                   {"A", {223, 223, 255}, {0, 0, 255}, 3}};
+    };
+    const std::vector<Zeile> tabelle{{"J", {255, 255, 191}, {159, 159, 0}, 2},
+                                     {"E", {255, 223, 191}, {255, 127, 0}, 2},
+                                     {"R", {255, 223, 223}, {255, 0, 0}, 3},
+                                     {"G", {223, 255, 223}, {0, 255, 0}, 3},
+                                     {"A", {223, 223, 255}, {0, 0, 255}, 3}};
     for (const auto& zeile : tabelle) {
         for (const bool farbig : {false, true}) {
             for (const bool rahmen : {false, true}) {
