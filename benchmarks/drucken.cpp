@@ -1,0 +1,126 @@
+// The filled quiz form as a PDF page, from the values of the form to the file on the disk, against a bare
+// page with 100 short texts and 100 rectangles through the same classes of the toolkit.
+#include "benchmarks/kennzahl.h"
+#include "core/pfad.h"
+#include "printing/druckseite.h"
+#include "printing/seitenlayout.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QPainter>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include <array>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+const QTemporaryDir& Ordner() {
+    static const QTemporaryDir ordner;
+    return ordner;
+}
+
+// A board as a leader fills it: questions of two to four lines, eight special fields, everything shaded.
+FKDruckdaten VollesFormular() {
+    constexpr std::array<const char*, 6> titel{"Musik", "Natur", "Sport", "Bibel", "Technik", "Länder"};
+    FKDruckdaten daten;
+    daten.datum = "24. 12. 2008";
+    daten.zeit = "90 Minuten";
+    daten.nummer = "17";
+    for (std::size_t a = 1; a < daten.gebiete.size(); ++a) {
+        daten.gebiete[a] = {titel[a - 1], true};
+    }
+    for (std::size_t n = 1; n < daten.felder.size(); ++n) {
+        daten.felder[n] = {"Welches Meer liegt zwischen Europa und Afrika, und wie heißt die Meerenge " +
+                               std::to_string(n) + " im Westen ?",
+                           "das Mittelmeer, Gibraltar", "", true, true};
+    }
+    constexpr std::array<const char*, 8> arten{"J", "G", "R", "A", "E", "J", "G", "R"};
+    for (std::size_t i = 0; i < arten.size(); ++i) {
+        daten.felder[3 * i + 2].spezial = arten[i];
+    }
+    daten.titelGrau = daten.gebieteGrau = daten.spezialFarbig = daten.rahmenFarbig = true;
+    return daten;
+}
+
+void FormularDrucken(benchmark::State& lauf) {
+    const std::string ziel = EigenerPfad(Ordner().filePath(QStringLiteral("formular.pdf")));
+    const FKDruckdaten daten = VollesFormular();
+    for ([[maybe_unused]] auto _ : lauf) {
+        Druckseite seite(QPageLayout::Landscape, ziel, "Messung");
+        const Druckgeometrie g =
+            GeometrieRechnen(Papier::A4Quer, 1.0F, seite.masse().links, seite.masse().oben);
+        if (seite.Drucken(FormularZeichnen(daten, g, seite.schriftmass()), [] {}) != ziel) {
+            lauf.SkipWithError("no page");
+        }
+    }
+}
+
+void SchlichteSeite(benchmark::State& lauf) {
+    const QString ziel = Ordner().filePath(QStringLiteral("schlicht.pdf"));
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    drucker.setPageSize(QPageSize(QPageSize::A4));
+    drucker.setFullPage(true);
+    drucker.setOutputFileName(ziel);
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(8.0);
+    for ([[maybe_unused]] auto _ : lauf) {
+        QPainter maler(&drucker);
+        maler.setFont(font);
+        for (int i = 0; i < 100; ++i) {
+            const int spalte = i % 10;
+            const int zeile = i / 10;
+            const QPointF ecke(500.0 + 900.0 * spalte, 500.0 + 1200.0 * zeile);
+            maler.drawRect(QRectF(ecke, QSizeF(800.0, 1000.0)));
+            maler.drawText(ecke + QPointF(50.0, 200.0), QStringLiteral("Frage %1").arg(i));
+        }
+        if (!maler.end()) {
+            lauf.SkipWithError("no page");
+        }
+    }
+}
+
+BENCHMARK(FormularDrucken)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(SchlichteSeite)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+class Zeiten : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>& laeufe) override {
+        for (const Run& lauf : laeufe) {
+            versagt = versagt || lauf.error_occurred;
+            auto& ziel = lauf.run_name.function_name == "FormularDrucken" ? unser : schlicht;
+            ziel.push_back(lauf.GetAdjustedRealTime()); // ms, the unit of both
+        }
+    }
+
+    std::vector<double> unser, schlicht;
+    bool versagt = false;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    constexpr int runden = 11;
+    qputenv("CUPS_SERVER", "/gibt/es/nicht.sock"); // both go to a file, whatever printers the machine has
+    const QApplication anwendung(argc, argv);
+    std::string dauer = "--benchmark_min_time=0.2";
+    std::vector<char*> argumente{argv[0], dauer.data()};
+    argumente.insert(argumente.end(), argv + 1, argv + argc); // the command line's own comes later and wins
+    int anzahl = static_cast<int>(argumente.size());
+    benchmark::Initialize(&anzahl, argumente.data());
+    Zeiten zeiten;
+    for (int runde = 0; runde < runden; ++runde) {
+        benchmark::RunSpecifiedBenchmarks(&zeiten);
+    }
+    std::cout << "quiz form: " << Median(zeiten.unser) << " ms, bare page: " << Median(zeiten.schlicht)
+              << " ms\n";
+    Verhaeltnis("druckseite", Median(zeiten.unser), Median(zeiten.schlicht), "ms");
+    return zeiten.versagt || zeiten.unser.empty() || zeiten.schlicht.empty() ? 1 : 0;
+}
