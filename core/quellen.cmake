@@ -11,6 +11,7 @@ else()
 endif()
 feldkranz_quellen(fenster
   core/oberflaeche.cpp
+  core/drehfeld.cpp core/drehfeld.h
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp
