@@ -3,6 +3,7 @@
 #include "dialogs/modal.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -190,6 +191,7 @@ bool Dialogfolge::Beantworten(QDialog& dialog) {
         Unerwartet(dialog);
         return true;
     }
+    const QPointer<QWidget> vorher = QApplication::activeWindow();
     const Auftrag auftrag = std::move(auftraege_.front());
     auftraege_.pop_front();
     QTimer uhr;
@@ -207,6 +209,10 @@ bool Dialogfolge::Beantworten(QDialog& dialog) {
     });
     uhr.start(5);
     dialog.exec();
+    // The window manager gives the focus back in its own time; what a test types next would get lost before.
+    if (vorher && vorher->isVisible()) {
+        (void)WartenBis([&vorher] { return !vorher || vorher->isActiveWindow(); }, 500);
+    }
     return true;
 }
 

@@ -31,6 +31,7 @@ void UeberschreibenErwarten(Dialogfolge& dialoge, const QString& name, int antwo
 
 void AendernUndMerken(frmFKFragen* form, const QString& text) {
     form->txtFrage.at(2)->setFocus();
+    QTest::keyClick(form->txtFrage.at(2), Qt::Key_End, Qt::ControlModifier); // focus selects the whole text
     QTest::keyClicks(form->txtFrage.at(2), text);
     QCOMPARE(FormGeaendert, 1);
 }
