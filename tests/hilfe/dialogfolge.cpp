@@ -118,6 +118,19 @@ void Bedienen(QDialog& vorhanden, const ErwarteterDialog& soll, Stelle stelle) {
     }
 }
 
+// The window manager gives the focus back in its own time; what a test types next would get lost before.
+// Under load it may forget to, when a window comes and goes too fast for it.
+void FokusZurueck(const QPointer<QWidget>& fenster) {
+    const auto aktiv = [&fenster] {
+        const QWidget* noch = fenster;
+        return noch == nullptr || !noch->isVisible() || noch->isActiveWindow();
+    };
+    if (!WartenBis(aktiv, 500)) {
+        fenster->activateWindow();
+        (void)WartenBis(aktiv, 3000);
+    }
+}
+
 } // namespace
 
 Dialogfolge::Dialogfolge(Stelle stelle) : stelle_(stelle) {
@@ -209,10 +222,7 @@ bool Dialogfolge::Beantworten(QDialog& dialog) {
     });
     uhr.start(5);
     dialog.exec();
-    // The window manager gives the focus back in its own time; what a test types next would get lost before.
-    if (vorher && vorher->isVisible()) {
-        (void)WartenBis([&vorher] { return !vorher || vorher->isActiveWindow(); }, 500);
-    }
+    FokusZurueck(vorher);
     return true;
 }
 
