@@ -1,7 +1,9 @@
 // The cells of the quiz form: special fields and their limits, titles, typing and merging, blanking, menus.
 #include "tests/quizform/formhilfe.h"
 
+#include <QClipboard>
 #include <QMdiSubWindow>
+#include <QMenu>
 
 namespace {
 
