@@ -55,12 +55,14 @@ namespace befehle {
 
 void FKSpeichern() {
     KindNachVorn("FKFragen");
+    FK_EingabeAbschliessen();
     FK_Merken();
     Speichern();
 }
 
 void FKSpeichernUnter() {
     KindNachVorn("FKFragen");
+    FK_EingabeAbschliessen();
     FK_Merken();
     SpeichernUnter(2);
 }

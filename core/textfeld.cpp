@@ -4,6 +4,7 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 
+#include <QFocusEvent>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QValidator>
@@ -26,6 +27,14 @@ QString Erlaubt(const QString& text, QString& draussen) {
         erlaubt += QString::fromStdString(Ersatzzeichen(zeichen));
     }
     return erlaubt;
+}
+
+// The focus goes to a menu or another window and comes back, and with it the place where the user types: to
+// select the text then would make the next key, or a paste from the box's own menu, overwrite it all.
+bool NurUnterbrochen(const QFocusEvent& ereignis) {
+    const Qt::FocusReason grund = ereignis.reason();
+    return grund == Qt::PopupFocusReason || grund == Qt::MenuBarFocusReason ||
+           grund == Qt::ActiveWindowFocusReason;
 }
 
 void ZeichenMelden(const QString& zeichen) {
@@ -97,12 +106,18 @@ void Textfeld::setZentriert(bool zentriert) {
 
 void Textfeld::focusInEvent(QFocusEvent* ereignis) {
     QPlainTextEdit::focusInEvent(ereignis);
-    Q_EMIT fokusErhalten();
+    if (!NurUnterbrochen(*ereignis)) {
+        Q_EMIT fokusErhalten();
+    }
 }
 
 void Textfeld::focusOutEvent(QFocusEvent* ereignis) {
     QPlainTextEdit::focusOutEvent(ereignis);
-    Q_EMIT fokusVerloren();
+    if (NurUnterbrochen(*ereignis)) {
+        Q_EMIT fokusUnterbrochen();
+    } else {
+        Q_EMIT fokusVerloren();
+    }
 }
 
 void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
@@ -148,7 +163,9 @@ void Textzeile::setWert(std::string_view text) {
 
 void Textzeile::focusInEvent(QFocusEvent* ereignis) {
     QLineEdit::focusInEvent(ereignis);
-    TextMarkieren(this);
+    if (!NurUnterbrochen(*ereignis)) {
+        TextMarkieren(this);
+    }
 }
 
 void TextMarkieren(QLineEdit* zeile) {

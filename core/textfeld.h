@@ -21,8 +21,11 @@ public:
     void setZentriert(bool zentriert);
 
 Q_SIGNALS:
+    // The focus has moved here from another control, or from here to another one.
     void fokusErhalten();
     void fokusVerloren();
+    // A menu or another window is in between; the box keeps the focus, and its selection.
+    void fokusUnterbrochen();
 
 protected:
     void focusInEvent(QFocusEvent* ereignis) override;

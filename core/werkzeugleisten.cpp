@@ -7,7 +7,9 @@
 #include "core/schaltflaechen.h"
 #include "core/spezialraster.h"
 #include "periphery/hinweise.h"
+#include "quizform/fkformular.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QToolButton>
 
@@ -25,6 +27,23 @@ struct Leistenname {
 };
 constexpr std::array leistennamen{Leistenname{Leiste::Kranz, "picKranz"}, Leistenname{Leiste::FK, "picFK"},
                                   Leistenname{Leiste::HB, "picHB"}};
+
+// Runs a command at a double click on the control or on what lies in it.
+class Doppelklick : public QObject {
+public:
+    Doppelklick(QObject* element, void (*befehl)()) : QObject(element), befehl_(befehl) {}
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
+        if (ereignis->type() != QEvent::MouseButtonDblClick) {
+            return QObject::eventFilter(objekt, ereignis);
+        }
+        befehl_();
+        return true;
+    }
+
+private:
+    void (*befehl_)();
+};
 
 QWidget* Traeger(QWidget* pnlKranz, Leiste leiste) {
     for (const auto& [wer, name] : leistennamen) {
@@ -123,6 +142,7 @@ void WerkzeugleistenBauen(QWidget* pnlKranz) {
     picSpezial->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     picSpezial->setAccessibleName(QStringLiteral("Verteilung der Fragen und Spezialfelder"));
     SpezialRasterAufbauen(picSpezial);
+    picSpezial->installEventFilter(new Doppelklick(picSpezial, FK_Zeigen));
     auto* punkte = new Panel(Traeger(pnlKranz, Leiste::HB), QStringLiteral("pnlHBPun"));
     HinweisSetzen(punkte, "Summe der Punkte im Testformular.", "Testformular",
                   " Gesamtpunkte des Testformulars");

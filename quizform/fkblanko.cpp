@@ -48,6 +48,7 @@ void FK_FragenLoeschen() {
     FK_SpezialZaehlen();
     FK_FelderFaerben();
     LoeschLauf = 0;
+    FK_EingabeGilt();
 }
 
 void FK_SpezialLoeschen() {
@@ -58,6 +59,7 @@ void FK_SpezialLoeschen() {
     for (int n = 1; n <= anzahlFelder; ++n) {
         SpezialfeldLoeschen(*form, n);
     }
+    FK_EingabeGilt();
 }
 
 void FK_SpezialEinfuegen() {
@@ -70,4 +72,5 @@ void FK_SpezialEinfuegen() {
     }
     FK_SpezialZaehlen();
     FK_FelderFaerben();
+    FK_EingabeGilt();
 }

@@ -19,16 +19,44 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
-// Typed text reaches the stored copy when its box loses the focus with another text than the one it took it
-// with.
-void NachAenderungMerken(frmFKFragen& form, int n) {
-    if (form.txtFrage.at(Stelle(n))->text() == form.AlteFrage &&
-        form.txtAntwort.at(Stelle(n))->text() == form.AlteAntwort) {
-        return;
-    }
+// What the cell shows is what its boxes took the focus with.
+void FokusTexteNehmen(frmFKFragen& form, int n) {
+    form.FokusFrage = form.txtFrage.at(Stelle(n))->text();
+    form.FokusAntwort = form.txtAntwort.at(Stelle(n))->text();
+}
+
+void TexteGelten(frmFKFragen& form, int n) {
+    FokusTexteNehmen(form, n);
+    form.AlteFrage = form.FokusFrage;
+    form.AlteAntwort = form.FokusAntwort;
+}
+
+void Merken() {
     FK_Merken();
     FK_FelderFaerben();
     FormStatusSetzen(1);
+}
+
+// Typed text reaches the stored copy when its box loses the focus with another text than the one it took it
+// with. A form that is closing loses it too, and must not count as changed any more.
+void NachAenderungMerken(frmFKFragen& form, int n) {
+    if (FKFragenOffen() != &form || (form.txtFrage.at(Stelle(n))->text() == form.AlteFrage &&
+                                     form.txtAntwort.at(Stelle(n))->text() == form.AlteAntwort)) {
+        return;
+    }
+    Merken();
+}
+
+// The cell whose question or answer has the focus in the form's window, 0 for none.
+int FokusZelle(const frmFKFragen& form) {
+    const QWidget* fokus = form.window()->focusWidget();
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        if (fokus != nullptr &&
+            (fokus == form.txtFrage.at(Stelle(n)) || fokus == form.txtAntwort.at(Stelle(n)))) {
+            return n;
+        }
+    }
+    return 0;
 }
 
 // Puts a list over a panel and opens it.
@@ -71,6 +99,29 @@ bool GrenzeErlaubt(Panel* panel, const std::string& buchstabe) {
 
 } // namespace
 
+void FK_EingabeAbschliessen() {
+    frmFKFragen* form = FKFragenOffen();
+    const int n = form == nullptr ? 0 : FokusZelle(*form);
+    if (n > 0 && (form->txtFrage.at(Stelle(n))->text() != form->FokusFrage ||
+                  form->txtAntwort.at(Stelle(n))->text() != form->FokusAntwort)) {
+        Merken();
+        TexteGelten(*form, n);
+    }
+}
+
+void FK_EingabeGilt() {
+    frmFKFragen* form = FKFragenOffen();
+    const int n = form == nullptr ? 0 : FokusZelle(*form);
+    if (n > 0) {
+        TexteGelten(*form, n);
+    }
+}
+
+void ListenSchliessen(frmFKFragen& form) {
+    SpezialListeSchliessen(form);
+    WissenListeSchliessen(form);
+}
+
 void FeldEreignisseVerbinden(frmFKFragen& form) {
     for (Textzeile* zeile : {form.txtNr, form.txtDatum, form.txtZeit}) {
         QObject::connect(zeile, &QLineEdit::textChanged, &form, [] { FormStatusSetzen(1); });
@@ -82,22 +133,24 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
             QObject::connect(feld, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(1); });
             QObject::connect(feld, &Textfeld::fokusVerloren, &form,
                              [&form, n] { NachAenderungMerken(form, n); });
+            QObject::connect(feld, &Textfeld::fokusUnterbrochen, &form, [] { FK_EingabeAbschliessen(); });
         }
-        QObject::connect(frage, &Textfeld::fokusErhalten, &form, [&form, n, frage, antwort] {
+        QObject::connect(frage, &Textfeld::fokusErhalten, &form, [&form, n, frage] {
             TextMarkieren(frage);
-            form.AlteFrage = frage->text();
-            form.AlteAntwort = antwort->text();
+            TexteGelten(form, n);
         });
-        // Meant: the answer's own focus takes no texts to compare with.
-        QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [antwort] { TextMarkieren(antwort); });
+        // Meant: the answer's own focus takes no AlteFrage and AlteAntwort.
+        QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [&form, n, antwort] {
+            TextMarkieren(antwort);
+            FokusTexteNehmen(form, n);
+        });
         QObject::connect(form.pnlSpezial.at(Stelle(n)), &Panel::geklickt, &form,
                          [&form, n] { SpezialListeOeffnen(form, n); });
     }
 }
 
 void SpezialListeOeffnen(frmFKFragen& form, int feld) {
-    SpezialListeSchliessen(form);
-    WissenListeSchliessen(form);
+    ListenSchliessen(form);
     AktuellesFeld = static_cast<std::int16_t>(feld);
     Panel* panel = form.pnlSpezial.at(Stelle(feld));
     const std::string buchstabe = Modelltext(panel->caption());
@@ -132,8 +185,7 @@ void SpezialGewaehlt(frmFKFragen& form, int eintrag) {
 }
 
 void WissenListeOeffnen(frmFKFragen& form, int gebiet) {
-    SpezialListeSchliessen(form);
-    WissenListeSchliessen(form);
+    ListenSchliessen(form);
     AktuellesFeld = static_cast<std::int16_t>(gebiet);
     Panel* panel = form.pnlWissen.at(Stelle(gebiet));
     form.cmbWissen->setCurrentIndex(form.cmbWissen->findText(panel->caption()));

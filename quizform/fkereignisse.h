@@ -13,3 +13,5 @@ void SpezialListeOeffnen(frmFKFragen& form, int feld);
 void SpezialGewaehlt(frmFKFragen& form, int eintrag);
 void WissenListeOeffnen(frmFKFragen& form, int gebiet);
 void WissenGewaehlt(frmFKFragen& form, int eintrag);
+// Takes an open list away without a choice; the panels come back.
+void ListenSchliessen(frmFKFragen& form);

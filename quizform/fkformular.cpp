@@ -5,6 +5,7 @@
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
 #include "persistence/speichern.h"
+#include "quizform/fkereignisse.h"
 #include "quizform/frmFKFragen.h"
 #include "quizform/texte.h"
 #include "settings/einstellungen.h"
@@ -112,11 +113,20 @@ bool FK_Schliessen() {
 }
 
 void FK_ModusSetzen() {
-    ModusFK();
+    try {
+        ModusFK();
+    } catch (const Laufzeitfehler& fehler) {
+        // A shape whose product fits no counter would keep every new form away: the full board takes its
+        // place.
+        FehlerMelden("FK : FK_ModusSetzen", fehler);
+        AnzahlWissen = FragenProWissen = 0;
+        ModusFK();
+    }
 }
 
 void FK_FormularZeigen(std::string_view titel) {
     frmFKFragen& form = Fenster();
+    ListenSchliessen(form);
     FK_AlleFelderZeigen();
     for (int n = 1; n <= anzahlFelder; ++n) {
         form.pnlSpezial.at(Stelle(n))->setCaption(QString()); // no marker text of a former form stays
@@ -132,6 +142,17 @@ void FK_FormularZeigen(std::string_view titel) {
     FK_SpezialEinfuegen();
     FK_FenstertitelSetzen(titel);
     form.show();
+    KindNachVorn("FKFragen");
+}
+
+void FK_Zeigen() {
+    if (fenster.isNull()) {
+        FK_ModusSetzen();
+        Fenster();
+        FK_FenstertitelSetzen(fktexte::neuerTitel);
+        FormStatusSetzen(0);
+    }
+    Fenster().show();
     KindNachVorn("FKFragen");
 }
 
@@ -151,8 +172,9 @@ void FK_Leeren() {
     FK_KopfMerken();
     FK_SpezialLoeschen();
     FK_SpezialMerken();
-    form.AlteFrage.clear();
-    form.AlteAntwort.clear();
+    for (std::string* text : {&form.AlteFrage, &form.AlteAntwort, &form.FokusFrage, &form.FokusAntwort}) {
+        text->clear();
+    }
 }
 
 void FK_KopfLeeren() {
@@ -213,41 +235,7 @@ void FK_FragenEinfuegen() {
     }
     FK_SpezialZaehlen();
     FK_FelderFaerben();
-}
-
-std::string FK_Frage(int n) {
-    const frmFKFragen* form = fenster;
-    const bool da = form != nullptr && n >= 1 && n <= anzahlFelder;
-    return da ? form->txtFrage.at(Stelle(n))->text() : std::string();
-}
-
-std::string FK_Antwort(int n) {
-    const frmFKFragen* form = fenster;
-    const bool da = form != nullptr && n >= 1 && n <= anzahlFelder;
-    return da ? form->txtAntwort.at(Stelle(n))->text() : std::string();
-}
-
-void FK_FeldLeeren(int n) {
-    frmFKFragen* form = fenster;
-    if (form != nullptr && n >= 1 && n <= anzahlFelder) {
-        form->txtFrage.at(Stelle(n))->setText("");
-        form->txtAntwort.at(Stelle(n))->setText("");
-    }
-}
-
-bool FK_FrageSichtbar(int n) {
-    const frmFKFragen* form = fenster;
-    return form != nullptr && !form->txtFrage.at(Stelle(n))->isHidden();
-}
-
-bool FK_AntwortSichtbar(int n) {
-    const frmFKFragen* form = fenster;
-    return form != nullptr && !form->txtAntwort.at(Stelle(n))->isHidden();
-}
-
-bool FK_GebietBenutzbar(int a) {
-    const frmFKFragen* form = fenster;
-    return form != nullptr && form->pnlWissen.at(Stelle(a))->isEnabled();
+    FK_EingabeGilt();
 }
 
 void FK_TitellisteFuellen(const std::array<std::string, anzahlListenplaetze + 1>& liste) {

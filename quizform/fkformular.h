@@ -17,6 +17,8 @@ void FK_Neu();
 // Shows the window (making it on first touch) for the stored copy just read, with that caption: all cells
 // shown, titles and texts filled in, the rules run, then letters, counts and colours.
 void FK_FormularZeigen(std::string_view titel);
+// Brings the form's window to the front; makes an empty one where none is open.
+void FK_Zeigen();
 // Caption of the open form.
 void FK_FenstertitelSetzen(std::string_view titel);
 // Closes the window with its closing check; true when it is gone.
@@ -31,6 +33,10 @@ void FK_ModusSetzen();
 void FK_Merken();
 // The three boxes of the head into FormNr, FormDatum and FormZeit.
 void FK_KopfMerken();
+// Typed text of the cell that has the focus reaches the stored copy, as if the cell lost the focus.
+void FK_EingabeAbschliessen();
+// A command has set the texts: what the cell with the focus shows isn't typed, and leaving it merges nothing.
+void FK_EingabeGilt();
 void FK_AlleFelderZeigen();
 void FK_AlleSpezialZeigen();
 void FK_FragenRegel();

@@ -2,6 +2,7 @@
 
 #include "catalogue/katalogladen.h"
 #include "core/oberflaeche.h"
+#include "core/ziehbilder.h"
 #include "persistence/speichern.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
@@ -10,6 +11,9 @@
 #include "settings/einstellungen.h"
 
 #include <QCloseEvent>
+#include <QLabel>
+
+#include <utility>
 
 namespace {
 
@@ -38,6 +42,7 @@ frmFKFragen::frmFKFragen() {
         FeldBauen(n);
     }
     ListenBauen();
+    BilderBauen();
     Anordnen(FormMasseFuer(HolAuflösungX()));
     TabfolgeSetzen();
     if (FarbeHintergrund == 0) {
@@ -134,6 +139,18 @@ void frmFKFragen::ListenBauen() {
         cmbWissen->addItem(Anzeige(ThemenListe.at(Stelle(i))));
     }
     cmbWissen->hide();
+}
+
+// The pictures that a drag shows.
+void frmFKFragen::BilderBauen() {
+    for (const auto& [name, bild] :
+         {std::pair{"picBildAufnehmen", ZiehBild::Aufnehmen}, std::pair{"picBildAblegen", ZiehBild::Ablegen},
+          std::pair{"picBildNein", ZiehBild::Nein}}) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QLatin1String(name));
+        label->setPixmap(Ziehpixmap(bild, devicePixelRatioF()));
+        label->hide();
+    }
 }
 
 void frmFKFragen::closeEvent(QCloseEvent* ereignis) {

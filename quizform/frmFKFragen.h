@@ -56,6 +56,9 @@ public:
     // Texts of the cell at the moment its question took the focus.
     std::string AlteFrage;
     std::string AlteAntwort;
+    // The same for either box of a cell, renewed when its text has been merged or a command has set it.
+    std::string FokusFrage;
+    std::string FokusAntwort;
 
 Q_SIGNALS:
     // The window has been closed after its check and is about to go.
@@ -69,6 +72,7 @@ private:
     void TitelBauen();
     void FeldBauen(int n);
     void ListenBauen();
+    void BilderBauen();
     void Anordnen(const FormMasse& masse);
     void TabfolgeSetzen();
     void HinweiseSetzen();

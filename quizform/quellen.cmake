@@ -12,4 +12,5 @@ feldkranz_quellen(fenster
   quizform/fkformular.cpp
   quizform/fkregeln.cpp
   quizform/fkziehen.cpp
+  quizform/fkzugriff.cpp
   quizform/frmFKFragen.cpp quizform/frmFKFragen.h)

@@ -1,0 +1,46 @@
+// What drags, the trash and the printing ask of the open form.
+#include "quizform/fkformular.h"
+#include "quizform/frmFKFragen.h"
+
+namespace {
+
+std::size_t Stelle(int n) {
+    return static_cast<std::size_t>(n);
+}
+
+} // namespace
+
+std::string FK_Frage(int n) {
+    const frmFKFragen* form = FKFragenOffen();
+    const bool da = form != nullptr && n >= 1 && n <= anzahlFelder;
+    return da ? form->txtFrage.at(Stelle(n))->text() : std::string();
+}
+
+std::string FK_Antwort(int n) {
+    const frmFKFragen* form = FKFragenOffen();
+    const bool da = form != nullptr && n >= 1 && n <= anzahlFelder;
+    return da ? form->txtAntwort.at(Stelle(n))->text() : std::string();
+}
+
+void FK_FeldLeeren(int n) {
+    frmFKFragen* form = FKFragenOffen();
+    if (form != nullptr && n >= 1 && n <= anzahlFelder) {
+        form->txtFrage.at(Stelle(n))->setText("");
+        form->txtAntwort.at(Stelle(n))->setText("");
+    }
+}
+
+bool FK_FrageSichtbar(int n) {
+    const frmFKFragen* form = FKFragenOffen();
+    return form != nullptr && !form->txtFrage.at(Stelle(n))->isHidden();
+}
+
+bool FK_AntwortSichtbar(int n) {
+    const frmFKFragen* form = FKFragenOffen();
+    return form != nullptr && !form->txtAntwort.at(Stelle(n))->isHidden();
+}
+
+bool FK_GebietBenutzbar(int a) {
+    const frmFKFragen* form = FKFragenOffen();
+    return form != nullptr && form->pnlWissen.at(Stelle(a))->isEnabled();
+}
