@@ -12,6 +12,7 @@
 #include "quizform/texte.h"
 #include "quizform/ziehregeln.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -54,6 +55,12 @@ public:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override {
         if (ereignis->type() == QEvent::MouseButtonPress) {
             return Druck(static_cast<QMouseEvent*>(ereignis)->modifiers());
+        }
+        // The double click by key.
+        if (ereignis->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Delete) {
+            AblageLeeren();
+            return true;
         }
         return QObject::eventFilter(objekt, ereignis);
     }

@@ -92,9 +92,11 @@ constexpr std::array zuordnungen{
     Zuordnung{"mDateiFK(12)", ProgrammEnde},
 };
 
-// Runs a command; a run-time error that it lets through is reported with the control as its place.
+// Runs a command; a run-time error that it lets through is reported with the control as its place. The menu
+// entries of the selection dialog speak for its button.
 void Ausfuehren(Befehl befehl, const std::string& name) {
-    const std::string ort = "FK : " + name.substr(0, name.find('(')) + "_Click";
+    const std::string wer = befehl == AuswahlZeigen ? "cmdAuswahl" : name.substr(0, name.find('('));
+    const std::string ort = "FK : " + wer + "_Click";
     try {
         befehl();
     } catch (const Laufzeitfehler& fehler) {

@@ -6,6 +6,7 @@
 #include "core/hilfepanel.h"
 #include "core/menueleiste.h"
 #include "core/oberflaeche.h"
+#include "core/pfad.h"
 #include "core/texte.h"
 #include "core/werkzeugleisten.h"
 #include "core/zustand.h"
@@ -16,6 +17,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -77,6 +80,10 @@ void frmMDI::FlaechenBauen() {
     pnlHilfe_ = new Hilfepanel(mitte);
     pnlHilfe_->setFixedHeight(Pixel(hilfeHoehe));
     pnlFKFelder_ = FelderPanelBauen(pnlHilfe_);
+    auto* picSystray = new QLabel(pnlHilfe_); // carries the picture of the tray icon, out of sight
+    picSystray->setObjectName(QStringLiteral("picSystray"));
+    picSystray->setPixmap(QApplication::windowIcon().pixmap(16));
+    picSystray->hide();
     anordnung->addWidget(pnlKranz_);
     anordnung->addWidget(kindflaeche_, 1);
     anordnung->addWidget(pnlHilfe_);
@@ -124,6 +131,8 @@ QWidget* Hauptfenster() {
 
 void HauptfensterZeigen() {
     SanduhrZeigen();
+    QDir::setCurrent(
+        NativerPfad(AppPfad + std::string(kerntexte::kranzordner))); // without it all goes on too
     try {
         EinstellungenLesen();
     } catch (const Laufzeitfehler&) {

@@ -10,6 +10,7 @@
 #include "settings/einstellungen.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -42,6 +43,14 @@ void Freigeben(std::initializer_list<const char*> namen, bool frei) {
         if (taste != nullptr) {
             taste->setEnabled(frei);
         }
+    }
+}
+
+// The entry that ends the program is there only while no form is open.
+void EndeEintragZeigen(bool zeigen) {
+    auto* eintrag = Teil<QAction>("mDatei(6)");
+    if (eintrag != nullptr) {
+        eintrag->setVisible(zeigen);
     }
 }
 
@@ -114,12 +123,14 @@ void FelderAnzeigen() {
 
 void BefehleFKFreigeben(bool frei) {
     Freigeben({"cmdFKFLaden", "cmdFKFLoeschen", "cmdFKSLaden", "cmdFKSLoeschen", "cmdFKSchliessen"}, frei);
+    EndeEintragZeigen(!frei);
 }
 
 void BefehleHBFreigeben(bool frei) {
     Freigeben({"cmdHBFLaden", "cmdHBFLoeschen", "cmdHBALaden", "cmdHBALoeschen", "cmdHBPLaden",
                "cmdHBPLoeschen", "cmdHBSchliessen"},
               frei);
+    EndeEintragZeigen(!frei);
 }
 
 QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster) {

@@ -67,6 +67,9 @@ void ProgrammEnde() {
     // The open form goes without its closing question: the first one has taken its place.
     FormGeaendert = 0;
     FK_Entladen();
-    delete MDIFenster();
-    QCoreApplication::quit();
+    if (frmMDI* haupt = MDIFenster(); haupt != nullptr) {
+        haupt->hide();
+        haupt->deleteLater(); // not at once: the command comes from one of its own buttons or menus
+    }
+    QCoreApplication::exit(0);
 }

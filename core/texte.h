@@ -77,6 +77,7 @@ inline constexpr NachrichtText brennek{
     4, "Programmierer", "Programm-Design und Computer-Umsetzung\r\n\r\nBrennek\r\nbrennek@feldkranz.example",
     0, 1001};
 
+inline constexpr std::string_view kranzordner = "\\KRANZ";
 inline constexpr std::string_view startbild = "\\BITMAP\\FK_START.bmp";
 inline constexpr std::string_view wissensliste = "\\WISSEN\\WISSEN.TXT";
 

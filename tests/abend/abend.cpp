@@ -26,7 +26,8 @@
 namespace {
 
 // Where the results go: the folder that the caller names, else one beside the program.
-const QString zielordner = qEnvironmentVariable("ABEND_ORDNER", QStringLiteral("abend_ergebnis"));
+const QString zielordner =
+    QDir::current().absoluteFilePath(qEnvironmentVariable("ABEND_ORDNER", QStringLiteral("abend_ergebnis")));
 
 std::size_t Nr(int n) {
     return static_cast<std::size_t>(n);
