@@ -8,6 +8,7 @@
 #include "persistence/oeffnen.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
+#include "settings/vorgabendialog.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -77,6 +78,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"cmdFKSchliessen", befehle::FKSchliessen},
     Zuordnung{"cmdFKZurueck", befehle::FKZurueck},
     Zuordnung{"mFKFormular", befehle::FKZurueck},
+    Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},
     Zuordnung{"mThemenHB", befehle::ThemenquelleUmschalten},
     Zuordnung{"cmdHilfe", HilfeTaste},

@@ -122,7 +122,8 @@ void FelderAnzeigen() {
 }
 
 void BefehleFKFreigeben(bool frei) {
-    Freigeben({"cmdFKFLaden", "cmdFKFLoeschen", "cmdFKSLaden", "cmdFKSLoeschen", "cmdFKSchliessen"}, frei);
+    Freigeben({"cmdFKFLaden", "cmdFKFLoeschen", "cmdFKSLaden", "cmdFKSLoeschen", "cmdFKSchliessen", "cmdIni"},
+              frei);
     EndeEintragZeigen(!frei);
 }
 

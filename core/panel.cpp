@@ -88,8 +88,9 @@ void Panel::mouseDoubleClickEvent(QMouseEvent* ereignis) {
     }
 }
 
+// Keys that a control on the panel leaves over go on to the window.
 void Panel::keyPressEvent(QKeyEvent* ereignis) {
-    if (ereignis->key() == Qt::Key_Space || ereignis->key() == Qt::Key_Return) {
+    if (hasFocus() && (ereignis->key() == Qt::Key_Space || ereignis->key() == Qt::Key_Return)) {
         Q_EMIT geklickt();
         return;
     }

@@ -3,6 +3,7 @@
 #include "core/laufzeitfehler.h"
 #include "core/pfadname.h"
 #include "settings/einstellungen.h"
+#include "settings/skalierung.h"
 
 #include <algorithm>
 
@@ -30,8 +31,8 @@ std::size_t Stelle(int index) {
 } // namespace
 
 void FK_Vorgaben() {
-    VorgabePunkte = {5, 10, 10, 5, 0};
-    VorgabeFelder = {2, 2, 2, 4, 2};
+    VorgabePunkte = werkPunkte;
+    VorgabeFelder = werkFelder;
 }
 
 int SpezialIndex(std::string_view buchstabe) {

@@ -122,7 +122,7 @@ void FrmMDITest::everyMenuEntryOfTheMainWindowIsThere() {
 void FrmMDITest::commandsOfLaterWindowsAreOutOfUseNotMissing() {
     Programm programm;
     programm.NeuesQuizformular();
-    for (const char* name : {"cmdNeuHB", "cmdDateiliste", "cmdIni", "cmdEdit", "cmdSpielregel", "cmdHomepage",
+    for (const char* name : {"cmdNeuHB", "cmdDateiliste", "cmdEdit", "cmdSpielregel", "cmdHomepage",
                              "cmdeMail", "cmdDruckenHB(2)", "cmdHBFLaden"}) {
         QVERIFY2(!Finden(programm.haupt(), QLatin1String(name))->isEnabled(), name);
     }
@@ -131,7 +131,7 @@ void FrmMDITest::commandsOfLaterWindowsAreOutOfUseNotMissing() {
 void FrmMDITest::aQuizFormSwapsTheToolbarAndEnablesItsCommands() {
     Programm programm;
     const QList<const char*> befehle{"cmdFKFLaden", "cmdFKFLoeschen", "cmdFKSLaden", "cmdFKSLoeschen",
-                                     "cmdFKSchliessen"};
+                                     "cmdFKSchliessen", "cmdIni"};
     for (const char* name : befehle) {
         QVERIFY2(!Finden(programm.haupt(), QLatin1String(name))->isEnabled(), name);
     }

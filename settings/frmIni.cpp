@@ -1,0 +1,150 @@
+#include "settings/frmIni.h"
+
+#include "core/drehfeld.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+#include "core/panel.h"
+#include "dialogs/meldung.h"
+#include "dialogs/modal.h"
+#include "periphery/hinweise.h"
+#include "settings/hinweistexte.h"
+#include "settings/texte.h"
+#include "settings/vorgabendialog.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+// A row of the table without an index holds for all members of a control array.
+void HinweisAnwenden(const frmIni& fenster, const initexte::Hinweis& hinweis) {
+    const QString name = Anzeige(hinweis.name);
+    for (auto* teil : fenster.findChildren<QWidget*>()) {
+        if (teil->objectName() == name || teil->objectName().startsWith(name + u'(')) {
+            HinweisSetzen(teil, hinweis.tipp, hinweis.titel, hinweis.status);
+        }
+    }
+}
+
+} // namespace
+
+void VorgabenZeigen() {
+    frmIni fenster;
+    ModalZeigen(fenster);
+}
+
+frmIni::frmIni() {
+    setObjectName(QStringLiteral("frmIni"));
+    setWindowTitle(Anzeige(initexte::fenster));
+    setModal(true);
+    HilfeText(initexte::laden);
+    auto* spalte = new QVBoxLayout(this);
+    spalte->setSizeConstraint(QLayout::SetFixedSize);
+    RegisterBauen();
+    ToolbarBauen();
+    spalte->addWidget(tabIni_);
+    spalte->addWidget(pnlToolbar_);
+    RegelnVerbinden();
+    DarstellungVerbinden();
+    BefehleVerbinden();
+    HinweiseSetzen();
+    VorgabenHolen();
+    for (const Gruppe gruppe : {Punkte, Felder, PunkteV, FelderV}) {
+        ArtenZeigen(gruppe);
+    }
+    OptionenZeigen();
+    RegisterAnwenden(tabIni_->currentIndex());
+}
+
+// The dialog's activation: once, when it comes on the screen. Coming back from one of its own questions must
+// not take a snapshot of numbers that have been stepped meanwhile.
+void frmIni::showEvent(QShowEvent* ereignis) {
+    QDialog::showEvent(ereignis);
+    if (!aktiviert_) {
+        aktiviert_ = true;
+        schnappschuss_ = SchnappschussNehmen();
+        OptionenZeigen();
+        ZaehlerZeigen();
+    }
+}
+
+// Enter applies, but not from a spin control, where it is pressed out of habit behind a number.
+void frmIni::keyPressEvent(QKeyEvent* ereignis) {
+    const bool eingabe = ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter;
+    if (eingabe && qobject_cast<Drehfeld*>(QApplication::focusWidget()) != nullptr) {
+        ereignis->accept();
+        return;
+    }
+    QDialog::keyPressEvent(ereignis);
+}
+
+void frmIni::reject() {
+    Abbrechen_Click();
+}
+
+QGroupBox* frmIni::RahmenBauen(QWidget* eltern, const char* name, const QString& titel) {
+    auto* rahmen = new QGroupBox(titel, eltern);
+    rahmen->setObjectName(QLatin1String(name));
+    return rahmen;
+}
+
+QCheckBox* frmIni::KastenBauen(QWidget* eltern, const char* name, const char* aufschrift) {
+    auto* kasten = new QCheckBox(QString::fromUtf8(aufschrift), eltern);
+    kasten->setObjectName(QLatin1String(name));
+    return kasten;
+}
+
+QPushButton* frmIni::TasteBauen(QWidget* eltern, const char* name, const char* aufschrift) {
+    auto* taste = new QPushButton(QString::fromUtf8(aufschrift), eltern);
+    taste->setObjectName(QLatin1String(name));
+    return taste;
+}
+
+void frmIni::HinweiseSetzen() {
+    for (const initexte::Hinweis& hinweis : initexte::hinweise) {
+        HinweisAnwenden(*this, hinweis);
+    }
+    ArtenhinweiseSetzen();
+}
+
+void frmIni::ArtenhinweiseSetzen() {
+    for (std::size_t art = 0; art < initexte::punkteTipps.size(); ++art) {
+        const std::string punkte(initexte::punkteTipps.at(art));
+        const std::string standard = art == 0 ? std::string(initexte::punkteTippAufgabe) : punkte;
+        const std::string felder(initexte::felderTipps.at(art));
+        const auto setzen = [this, art](const char* feld, const std::string& tipp, std::string_view status) {
+            const std::string name = Einsetzen("{}({})", {feld, std::to_string(art)});
+            HinweisAnwenden(*this, {name, tipp, status});
+        };
+        for (const char* feld : {"pnlPunkte", "spnPunkte"}) {
+            setzen(feld, punkte + std::string(initexte::imTabStandard), initexte::punkteStatus);
+        }
+        for (const char* feld : {"pnlPunkteV", "spnPunkteV"}) {
+            setzen(feld, standard + std::string(initexte::imTabSpezial), initexte::punkteStatus);
+        }
+        for (const char* feld : {"pnlFelder", "spnFelder", "pnlFelderV", "spnFelderV"}) {
+            setzen(feld, felder, initexte::felderStatus);
+        }
+    }
+}
+
+// Fills the boxes and options from the settings without a question.
+void frmIni::OptionenZeigen() {
+    IniLaden_ = true;
+    RegelnZeigen();
+    DarstellungZeigen();
+    IniLaden_ = false;
+}
+
+void frmIni::Ausfuehren(const char* name, const std::function<void()>& schritt) {
+    try {
+        schritt();
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden(Einsetzen(initexte::ort, {name}), fehler);
+    }
+}
