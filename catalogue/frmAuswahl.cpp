@@ -76,45 +76,45 @@ void frmAuswahl::ThemaGewaehlt() {
 }
 
 // The lists take the questions in one go, and none of them is picked.
-void frmAuswahl::ListenSetzen(Fragenliste liste) {
+void frmAuswahl::ListenSetzen(std::shared_ptr<const Fragenliste> liste) {
     const QSignalBlocker still(cmbFrage_); // a list filled anew would pick its first entry by itself
-    nr_->setWerte(std::move(liste.nr));
-    frage_->setWerte(std::move(liste.frage));
-    antwort_->setWerte(std::move(liste.antwort));
-    punkte_->setWerte(std::move(liste.punkte));
+    fragen_ = std::move(liste);
+    for (Spaltenmodell* spalte : spalten_) {
+        spalte->setListe(fragen_);
+    }
     cmbFrage_->setCurrentIndex(-1);
 }
 
 void frmAuswahl::UnterthemaGewaehlt() {
-    ListenSetzen({});
+    ListenSetzen(std::make_shared<Fragenliste>());
     for (QLineEdit* zeile : {txtNr_, txtPunkte_}) {
         zeile->clear();
     }
     for (Textfeld* feld : {txtFrage_, txtAntwort_}) {
         feld->setText({});
     }
-    Fragenliste liste;
-    FragenLaden(Modelltext(cmbThemen_->currentText()), Modelltext(cmbUnter_->currentText()), liste);
+    auto liste = std::make_shared<Fragenliste>();
+    FragenLaden(Modelltext(cmbThemen_->currentText()), Modelltext(cmbUnter_->currentText()), *liste);
     ListenSetzen(std::move(liste));
 }
 
 void frmAuswahl::FrageGewaehlt() {
-    const std::vector<std::string>& fragen = frage_->werte();
     const auto gewaehlt = static_cast<std::size_t>(cmbFrage_->currentIndex());
-    if (gewaehlt >= fragen.size()) {
+    if (gewaehlt >= fragen_->anzahl()) {
         return;
     }
-    txtFrage_->setText(fragen[gewaehlt]);
+    const std::string_view frage = fragen_->wert(gewaehlt, Spalte::Frage);
+    txtFrage_->setText(frage);
     // Meant: of questions with the same text the last one gives the answer, whichever was picked.
     std::size_t letzte = gewaehlt;
-    for (std::size_t i = 0; i < fragen.size(); ++i) {
-        if (fragen[i] == fragen[gewaehlt]) {
+    for (std::size_t i = 0; i < fragen_->anzahl(); ++i) {
+        if (fragen_->wert(i, Spalte::Frage) == frage) {
             letzte = i;
         }
     }
-    txtAntwort_->setText(antwort_->werte().at(letzte));
-    txtNr_->setText(Anzeige(nr_->werte().at(letzte)));
-    txtPunkte_->setText(Anzeige(punkte_->werte().at(letzte)));
+    txtAntwort_->setText(fragen_->wert(letzte, Spalte::Antwort));
+    txtNr_->setText(Anzeige(fragen_->wert(letzte, Spalte::Nr)));
+    txtPunkte_->setText(Anzeige(fragen_->wert(letzte, Spalte::Punkte)));
 }
 
 // Also an empty field begins a drag.

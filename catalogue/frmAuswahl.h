@@ -3,11 +3,13 @@
 // Reading the catalogue is catalogue/katalogladen, a drop on a form the form's own affair.
 #pragma once
 
-#include "catalogue/themen.h"
+#include "catalogue/fragenliste.h"
 
 #include <QWidget>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 class Blattfall;
 class QComboBox;
@@ -45,12 +47,14 @@ private:
     void ThemaGewaehlt();
     void UnterthemaGewaehlt();
     void FrageGewaehlt();
-    void ListenSetzen(Fragenliste liste);
+    void ListenSetzen(std::shared_ptr<const Fragenliste> liste);
     void FrageZiehen();
     void FrageAufnehmen();
 
     QComboBox *cmbThemen_ = nullptr, *cmbUnter_ = nullptr, *cmbFrage_ = nullptr;
-    Spaltenmodell *nr_ = nullptr, *frage_ = nullptr, *antwort_ = nullptr, *punkte_ = nullptr;
+    // What the four lists show, one column each.
+    std::shared_ptr<const Fragenliste> fragen_ = std::make_shared<Fragenliste>();
+    std::vector<Spaltenmodell*> spalten_;
     QLineEdit *txtNr_ = nullptr, *txtPunkte_ = nullptr;
     Textfeld *txtFrage_ = nullptr, *txtAntwort_ = nullptr;
     Blattfall* blattfall_ = nullptr;

@@ -96,8 +96,8 @@ QGroupBox* frmAuswahl::AuswahlAufbauen() {
     const int klappbreite = Grosser() ? 520 : 420;
     cmbThemen_ = AuswahlListe(fraAuswahl, QStringLiteral("cmbThemen"), klappbreite);
     cmbUnter_ = AuswahlListe(fraAuswahl, QStringLiteral("cmbUnter"), klappbreite);
-    frage_ = new Spaltenmodell(this);
-    cmbFrage_ = AuswahlListe(fraAuswahl, QStringLiteral("cmbFrage"), klappbreite, frage_);
+    spalten_.push_back(new Spaltenmodell(Spalte::Frage, this));
+    cmbFrage_ = AuswahlListe(fraAuswahl, QStringLiteral("cmbFrage"), klappbreite, spalten_.back());
     auto* raster = new QGridLayout(fraAuswahl);
     raster->setColumnStretch(1, 1);
     raster->setVerticalSpacing(Niedrig(*this) ? 2 : 6);
@@ -139,11 +139,11 @@ void frmAuswahl::FelderAufbauen(QGridLayout* raster) {
 
 // The three columns that belong to the list of questions, and the pictures that a drag shows.
 void frmAuswahl::VerborgeneAufbauen(QWidget* rahmen) {
-    for (const auto& [name, modell] :
-         {std::pair{"cmbNr", &frmAuswahl::nr_}, std::pair{"cmbAntwort", &frmAuswahl::antwort_},
-          std::pair{"cmbPunkte", &frmAuswahl::punkte_}}) {
-        this->*modell = new Spaltenmodell(this);
-        AuswahlListe(rahmen, QLatin1String(name), 0, this->*modell)->hide();
+    for (const auto& [name, spalte] :
+         {std::pair{"cmbNr", Spalte::Nr}, std::pair{"cmbAntwort", Spalte::Antwort},
+          std::pair{"cmbPunkte", Spalte::Punkte}}) {
+        spalten_.push_back(new Spaltenmodell(spalte, this));
+        AuswahlListe(rahmen, QLatin1String(name), 0, spalten_.back())->hide();
     }
     for (const auto& [name, bild] :
          {std::pair{"picAtom", ZiehBild::Atom}, std::pair{"picAtom1", ZiehBild::Atom},

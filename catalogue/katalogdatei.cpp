@@ -3,6 +3,8 @@
 #include "core/cp1252.h"
 #include "persistence/wertgrammatik.h"
 
+#include <algorithm>
+
 namespace {
 
 std::string_view Wertzeile(WertLeser& leser, bool kommentarzeilen) {
@@ -10,7 +12,19 @@ std::string_view Wertzeile(WertLeser& leser, bool kommentarzeilen) {
     while (kommentarzeilen && zeile.substr(0, 1) == "'") {
         zeile = leser.Zeile();
     }
+    if (zeile.size() > laengsterText) {
+        throw Laufzeitfehler(Fehler::SpeicherVoll);
+    }
     return zeile;
+}
+
+// The list grows once instead of again and again. How many lines there are is taken from the beginning of the
+// bytes: looking at all of them would cost more than a guess that is wrong.
+void PlatzVorsehen(std::string_view bytes, Fragenliste& liste) {
+    const std::string_view probe = bytes.substr(0, std::size_t{1} << 16U);
+    const auto zeilen = static_cast<std::size_t>(std::count(probe.begin(), probe.end(), '\n'));
+    const std::size_t proben = probe.empty() ? 0 : bytes.size() / probe.size() + 1;
+    liste.Vorsehen(zeilen * proben / anzahlSpalten + 1, bytes.size() + bytes.size() / 16);
 }
 
 } // namespace
@@ -32,17 +46,15 @@ void UnterthemenlisteLesen(std::string_view bytes, Namensliste& liste) {
 }
 
 void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste) {
+    PlatzVorsehen(bytes, liste);
     WertLeser leser(bytes);
     leser.Zeile();
     // The end of the file is tested only ahead of a record.
     while (!leser.AmEnde()) {
-        std::array<std::string_view, 4> satz;
+        std::array<std::string_view, anzahlSpalten> satz;
         for (std::string_view& zeile : satz) {
             zeile = Wertzeile(leser, kommentarzeilen);
         }
-        AusCp1252Anhaengen(liste.nr.emplace_back(), satz[0]);
-        AusCp1252Anhaengen(liste.frage.emplace_back(), satz[1]);
-        AusCp1252Anhaengen(liste.antwort.emplace_back(), satz[2]);
-        AusCp1252Anhaengen(liste.punkte.emplace_back(), satz[3]);
+        liste.Anhaengen(satz);
     }
 }

@@ -3,6 +3,7 @@
 // nothing: that is catalogue/katalogladen.h.
 #pragma once
 
+#include "catalogue/fragenliste.h"
 #include "catalogue/themen.h"
 
 #include <string_view>
@@ -15,6 +16,7 @@ void ThemenlisteLesen(std::string_view bytes, Namensliste& liste);
 // Header, then twenty tokens: a comma ends a name and quotes around it fall away.
 void UnterthemenlisteLesen(std::string_view bytes, Namensliste& liste);
 
-// Header, then four lines a question, appended to the liste. A record cut short is not appended. With
+// Header, then four lines a question, appended to the liste. A record cut short is not appended. A line
+// of more than 64 KiB is no text for the screen and ends the reading with run-time error 7. With
 // kommentarzeilen, lines that begin with an apostrophe are skipped ahead of each line of a record.
 void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste);

@@ -8,6 +8,9 @@
 
 namespace {
 
+// Twenty names; a longer file is none of ours and would choke the lists on the screen.
+constexpr std::size_t groessteListe = std::size_t{1} << 20U;
+
 std::string Pfad(const Thema& thema, std::string_view datei) {
     return AppPfad + "\\WISSEN\\" + std::string(thema.ordner) + "\\" + std::string(datei);
 }
@@ -15,7 +18,7 @@ std::string Pfad(const Thema& thema, std::string_view datei) {
 // The list file at the path; any failure is told with the name.
 void ListeLaden(const std::string& pfad, std::string_view name) {
     try {
-        UnterthemenlisteLesen(DateiLesen(pfad), UnterthemenListe);
+        UnterthemenlisteLesen(DateiLesen(pfad, groessteListe), UnterthemenListe);
     } catch (const Laufzeitfehler&) {
         Meldung(katalogtexte::listeFehlt, {name, AppPfad});
     }
@@ -36,7 +39,7 @@ void FragenFehlerMelden(const Thema& thema, std::string_view unterthema, const L
 
 void ThemenLaden() {
     try {
-        ThemenlisteLesen(DateiLesen(AppPfad + "\\WISSEN\\WISSEN.TXT"), ThemenListe);
+        ThemenlisteLesen(DateiLesen(AppPfad + "\\WISSEN\\WISSEN.TXT", groessteListe), ThemenListe);
     } catch (const Laufzeitfehler&) {
         // Told to nobody: the places not reached keep what they held.
     }

@@ -2,6 +2,7 @@
 // are catalogue/katalogdatei.h, the table of files catalogue/themen.h.
 #pragma once
 
+#include "catalogue/fragenliste.h"
 #include "catalogue/themen.h"
 
 #include <string_view>

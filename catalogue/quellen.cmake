@@ -1,4 +1,4 @@
-feldkranz_quellen(modell catalogue/katalogdatei.cpp catalogue/themen.cpp)
+feldkranz_quellen(modell catalogue/fragenliste.cpp catalogue/katalogdatei.cpp catalogue/themen.cpp)
 feldkranz_quellen(fenster
   catalogue/auswahllisten.cpp
   catalogue/blattfall.cpp catalogue/blattfall.h

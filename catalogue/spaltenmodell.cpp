@@ -4,14 +4,14 @@
 
 #include <utility>
 
-void Spaltenmodell::setWerte(std::vector<std::string> werte) {
+void Spaltenmodell::setListe(std::shared_ptr<const Fragenliste> liste) {
     beginResetModel();
-    werte_ = std::move(werte);
+    liste_ = std::move(liste);
     endResetModel();
 }
 
 int Spaltenmodell::rowCount(const QModelIndex& eltern) const {
-    return eltern.isValid() ? 0 : static_cast<int>(werte_.size());
+    return eltern.isValid() ? 0 : static_cast<int>(liste_->anzahl());
 }
 
 QVariant Spaltenmodell::data(const QModelIndex& stelle, int rolle) const {
@@ -19,5 +19,5 @@ QVariant Spaltenmodell::data(const QModelIndex& stelle, int rolle) const {
     if (!alsText || !checkIndex(stelle, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    return Anzeige(werte_[static_cast<std::size_t>(stelle.row())]);
+    return Anzeige(liste_->wert(static_cast<std::size_t>(stelle.row()), spalte_));
 }

@@ -2,24 +2,25 @@
 // a long list costs no more than its texts. Which columns belong together is the window's affair.
 #pragma once
 
+#include "catalogue/fragenliste.h"
+
 #include <QAbstractListModel>
 
-#include <string>
-#include <vector>
+#include <memory>
 
 class Spaltenmodell : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    using QAbstractListModel::QAbstractListModel;
+    Spaltenmodell(Spalte spalte, QObject* eltern) : QAbstractListModel(eltern), spalte_(spalte) {}
 
-    // Takes the texts (UTF-8) in place of those it had.
-    void setWerte(std::vector<std::string> werte);
-    [[nodiscard]] const std::vector<std::string>& werte() const { return werte_; }
+    // Shows that list's column in place of the one it showed.
+    void setListe(std::shared_ptr<const Fragenliste> liste);
 
     [[nodiscard]] int rowCount(const QModelIndex& eltern = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& stelle, int rolle) const override;
 
 private:
-    std::vector<std::string> werte_;
+    Spalte spalte_;
+    std::shared_ptr<const Fragenliste> liste_ = std::make_shared<Fragenliste>();
 };

@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 inline constexpr int anzahlListenplaetze = 20;
 
@@ -36,11 +35,3 @@ struct Thema {
 
 // File name of the sub-theme of exactly that name, "" for none.
 [[nodiscard]] std::string_view UnterthemaDatei(const Thema& thema, std::string_view unterthema);
-
-// The questions of a sub-theme in file order, one column a line of the record.
-struct Fragenliste {
-    std::vector<std::string> nr;
-    std::vector<std::string> frage;
-    std::vector<std::string> antwort;
-    std::vector<std::string> punkte;
-};

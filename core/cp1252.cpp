@@ -47,9 +47,17 @@ std::size_t AsciiLaenge(std::string_view text) {
     return stelle;
 }
 
-void Utf8Anhaengen(std::string& ziel, char32_t zeichen) {
+// UTF-8 of the bytes from 0x80 on.
+struct Zeichenfolge {
+    std::array<char, 3> bytes{};
+    std::uint8_t laenge = 0;
+};
+
+constexpr Zeichenfolge AlsUtf8(char32_t zeichen) {
+    Zeichenfolge folge;
     const auto teil = [&](unsigned vorsatz, unsigned bits) {
-        ziel += static_cast<char>(vorsatz | (static_cast<unsigned>(zeichen >> bits) & 0x3FU));
+        const unsigned byte = vorsatz | (static_cast<unsigned>(zeichen >> bits) & 0x3FU);
+        folge.bytes[folge.laenge++] = static_cast<char>(static_cast<unsigned char>(byte));
     };
     if (zeichen < 0x800) {
         teil(0xC0, 6);
@@ -58,6 +66,38 @@ void Utf8Anhaengen(std::string& ziel, char32_t zeichen) {
         teil(0x80, 6);
     }
     teil(0x80, 0);
+    return folge;
+}
+
+constexpr std::array<Zeichenfolge, 128> obereHaelfte = [] {
+    std::array<Zeichenfolge, 128> folgen;
+    for (std::size_t byte = 0x80; byte <= 0xFF; ++byte) {
+        folgen[byte - 0x80] = AlsUtf8(byte < 0xA0 ? oberesFeld[byte - 0x80] : static_cast<char32_t>(byte));
+    }
+    return folgen;
+}();
+
+// Turns the bytes into UTF-8 at ziel, which has room for three times as many; returns the length.
+std::size_t Umwandeln(std::string_view bytes, char* ziel) {
+    constexpr std::uint64_t hoheBits = 0x8080808080808080ULL;
+    char* ende = ziel;
+    for (std::size_t i = 0; i < bytes.size();) {
+        std::uint64_t stueck = hoheBits;
+        if (i + sizeof stueck <= bytes.size()) {
+            std::memcpy(&stueck, bytes.data() + i, sizeof stueck);
+        }
+        if ((stueck & hoheBits) == 0) {
+            std::memcpy(ende, &stueck, sizeof stueck);
+            ende += sizeof stueck;
+            i += sizeof stueck;
+        } else if (const auto byte = static_cast<unsigned char>(bytes[i++]); byte < 0x80) {
+            *ende++ = static_cast<char>(byte);
+        } else {
+            const Zeichenfolge& folge = obereHaelfte[byte - 0x80U];
+            ende = std::copy_n(folge.bytes.begin(), folge.laenge, ende);
+        }
+    }
+    return static_cast<std::size_t>(ende - ziel);
 }
 
 // Takes one character off the front; a byte that begins none is keinZeichen.
@@ -130,16 +170,13 @@ void ByteAnhaengen(std::string& ziel, char32_t zeichen) {
 } // namespace
 
 void AusCp1252Anhaengen(std::string& ziel, std::string_view bytes) {
-    while (true) {
-        const std::size_t lauf = AsciiLaenge(bytes);
-        ziel.append(bytes.data(), lauf);
-        bytes.remove_prefix(lauf);
-        if (bytes.empty()) {
-            return;
-        }
-        const auto byte = static_cast<unsigned char>(bytes.front());
-        Utf8Anhaengen(ziel, byte < 0xA0 ? oberesFeld[byte - 0x80U] : byte);
-        bytes.remove_prefix(1);
+    // By way of a small block, so that the text grows once a block and not once a letter.
+    constexpr std::size_t blockgroesse = 256;
+    std::array<char, 3 * blockgroesse> block; // NOLINT(cppcoreguidelines-pro-type-member-init): written first
+    while (!bytes.empty()) {
+        const std::string_view stueck = bytes.substr(0, blockgroesse);
+        ziel.append(block.data(), Umwandeln(stueck, block.data()));
+        bytes.remove_prefix(stueck.size());
     }
 }
 

@@ -10,9 +10,6 @@
 
 namespace {
 
-// A larger file is none of ours, and its text in the model would fill the memory.
-constexpr std::size_t hoechstgroesse = std::size_t{256} << 20U;
-
 // The one file number, in use for as long as this lives.
 struct Dateinummer {
     Dateinummer() { DateiNr = 1; }
@@ -39,7 +36,7 @@ struct Dateinummer {
 // The folder is closed, so the file itself is overwritten. Killed at any step, either the file or the copy is
 // whole; a copy whose file couldn't be put right again stays.
 void AnOrtSchreiben(const QString& ziel, std::string_view bytes) {
-    const std::string alt = plattform::Lesen(ziel, hoechstgroesse);
+    const std::string alt = plattform::Lesen(ziel, groessteDatei);
     const QString kopie = plattform::KopieAblegen(ziel, alt);
     try {
         plattform::AnOrtUeberschreiben(ziel, bytes);
@@ -61,11 +58,11 @@ void AnOrtSchreiben(const QString& ziel, std::string_view bytes) {
 
 } // namespace
 
-std::string DateiLesen(std::string_view pfad) {
+std::string DateiLesen(std::string_view pfad, std::size_t hoechstens) {
     const QString nativ = NativerDateipfad(pfad);
     const Dateinummer offen;
     try {
-        return plattform::Lesen(nativ, hoechstgroesse);
+        return plattform::Lesen(nativ, hoechstens);
     } catch (const std::bad_alloc&) {
         throw Laufzeitfehler(Fehler::SpeicherVoll);
     }

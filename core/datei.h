@@ -4,14 +4,18 @@
 // 1 while a file is open here.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+// A larger file is none of ours, and its text in the model would fill the memory.
+inline constexpr std::size_t groessteDatei = std::size_t{256} << 20U;
+
 // The bytes of a whole file. A missing file is 53; a folder, a pipe, a device, an impossible name or a file
-// without permission is 52; a file beyond 256 MiB is 7.
-[[nodiscard]] std::string DateiLesen(std::string_view pfad);
+// without permission is 52; a file of more bytes than hoechstens is 7.
+[[nodiscard]] std::string DateiLesen(std::string_view pfad, std::size_t hoechstens = groessteDatei);
 
 // Writes the bytes so that at every moment either the old or the new file stands whole: a new file in the
 // same folder, forced to the disk, renamed over the old one. Permissions of an existing file are kept, owner

@@ -6,6 +6,9 @@
 
 namespace {
 
+// Its texts stand in menus, which a longer file would choke; it is no settings file of ours.
+constexpr std::size_t groessteEinstellungen = std::size_t{1} << 20U;
+
 std::string Einstellungspfad() {
     return AppPfad + "\\CONFIG\\Feldkranz.INI";
 }
@@ -13,7 +16,7 @@ std::string Einstellungspfad() {
 } // namespace
 
 void EinstellungenLesen() {
-    EinstellungenAusBytes(DateiLesen(Einstellungspfad()));
+    EinstellungenAusBytes(DateiLesen(Einstellungspfad(), groessteEinstellungen));
 }
 
 void EinstellungenSchreiben() {

@@ -22,6 +22,9 @@ void Fehlerkasten(const Laufzeitfehler& fehler) {
                  Einsetzen(fehlerStelle, {std::to_string(fehler.nummer()), std::to_string(fehler.zeile())}));
 }
 
+// More than all the texts of a form at their longest.
+constexpr std::size_t groesstesFormular = std::size_t{8} << 20U;
+
 // What the user wants after the file could not be opened.
 enum class Danach : std::uint8_t { NochEinmal, AndereDatei, Aufhoeren };
 
@@ -53,7 +56,7 @@ std::optional<std::string> Bytes() {
     while (danach == Danach::NochEinmal) {
         try {
             const Wartezeiger warten;
-            return DateiLesen(DateiName);
+            return DateiLesen(DateiName, groesstesFormular);
         } catch (const Laufzeitfehler& fehler) {
             danach = OeffnenGescheitert(fehler);
         }

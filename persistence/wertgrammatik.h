@@ -5,6 +5,7 @@
 
 #include "core/laufzeitfehler.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -12,6 +13,9 @@
 #include <string_view>
 
 // --- Reading ----------------------------------------------------------------------------------------------
+
+// Bytes of a text that a box on the screen can still show without keeping the program busy for minutes.
+inline constexpr std::size_t laengsterText = std::size_t{1} << 16U;
 
 // Reads values from bytes that outlive it. The rules of a token:
 // - blanks ahead of it are skipped;
@@ -26,7 +30,8 @@ public:
     // Called with a failed statement's error before the statement is tried again on the next token.
     using Fehlermelder = std::function<void(const Laufzeitfehler&)>;
 
-    // Without a Fehlermelder an overflow leaves as an exception, with the reader behind the failed token.
+    // Without a Fehlermelder an overflow, or a text too long, leaves as an exception, with the reader behind
+    // the failed token.
     explicit WertLeser(std::string_view bytes, Fehlermelder melder = {});
 
     [[nodiscard]] bool AmEnde() const { return stelle_ >= bytes_.size(); }
@@ -36,7 +41,7 @@ public:
 
     // The next token as it stands in the file, in code page 1252, without quotes around it.
     std::string_view Token();
-    // The next token as text in UTF-8.
+    // The next token as text in UTF-8; one longer than laengsterText is run-time error 7.
     std::string Text();
     // The next token as an integer; 0 for one that is no number, a fraction rounds half to even, a number
     // beyond 16 bits is run-time error 6.
@@ -55,7 +60,7 @@ private:
     void TokenSchliessen();
     [[nodiscard]] Laufzeitfehler FehlerHier(Fehler fehler);
     template <typename Zahl>
-    Zahl Gelesen(bool (*umwandeln)(std::string_view, Zahl&));
+    Zahl Gelesen(bool (*umwandeln)(std::string_view, Zahl&), Fehler sonst);
 
     std::string_view bytes_;
     Fehlermelder melder_;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -11,6 +13,25 @@ namespace {
 
 bool IstZeilenende(char zeichen) {
     return zeichen == '\r' || zeichen == '\n';
+}
+
+// Place of the next line end, or the end of the bytes; eight bytes a step, as catalogue files are long.
+std::size_t ZeilenendeAb(std::string_view bytes, std::size_t stelle) {
+    constexpr std::uint64_t jedes = 0x0101010101010101ULL;
+    const auto enthaelt = [](std::uint64_t stueck, char zeichen) {
+        const std::uint64_t ungleich = stueck ^ (jedes * static_cast<unsigned char>(zeichen));
+        return ((ungleich - jedes) & ~ungleich & (jedes << 7U)) != 0;
+    };
+    for (std::uint64_t stueck = 0; stelle + sizeof stueck <= bytes.size(); stelle += sizeof stueck) {
+        std::memcpy(&stueck, bytes.data() + stelle, sizeof stueck);
+        if (enthaelt(stueck, '\r') || enthaelt(stueck, '\n')) {
+            break;
+        }
+    }
+    while (stelle < bytes.size() && !IstZeilenende(bytes[stelle])) {
+        ++stelle;
+    }
+    return stelle;
 }
 
 // A number out of a double's range is either too large or next to nothing; the digits ahead of the point tell
@@ -43,6 +64,11 @@ bool AlsZahl(std::string_view text, Gleitkomma& zahl) {
     }
     zahl = gelesen;
     return true;
+}
+
+bool AlsText(std::string_view token, std::string_view& text) {
+    text = token;
+    return token.size() <= laengsterText;
 }
 
 bool AlsEinfach(std::string_view text, float& zahl) {
@@ -115,13 +141,9 @@ std::string_view WertLeser::Token() {
     return token;
 }
 
-std::string WertLeser::Text() {
-    return AusCp1252(Token());
-}
-
 // A failed statement is tried again on the next token, so a damaged file ends in error 62 at the latest.
 template <typename Zahl>
-Zahl WertLeser::Gelesen(bool (*umwandeln)(std::string_view, Zahl&)) {
+Zahl WertLeser::Gelesen(bool (*umwandeln)(std::string_view, Zahl&), Fehler sonst) {
     while (true) {
         AmEndePruefen();
         const int zeile = ZeileNr();
@@ -130,18 +152,22 @@ Zahl WertLeser::Gelesen(bool (*umwandeln)(std::string_view, Zahl&)) {
             return zahl;
         }
         if (!melder_) {
-            throw Laufzeitfehler(Fehler::Ueberlauf, zeile);
+            throw Laufzeitfehler(sonst, zeile);
         }
-        melder_(Laufzeitfehler(Fehler::Ueberlauf, zeile));
+        melder_(Laufzeitfehler(sonst, zeile));
     }
 }
 
+std::string WertLeser::Text() {
+    return AusCp1252(Gelesen<std::string_view>(AlsText, Fehler::SpeicherVoll));
+}
+
 std::int16_t WertLeser::Ganzzahl() {
-    return Gelesen<std::int16_t>(AlsGanzzahl);
+    return Gelesen<std::int16_t>(AlsGanzzahl, Fehler::Ueberlauf);
 }
 
 float WertLeser::Einfach() {
-    return Gelesen<float>(AlsEinfach);
+    return Gelesen<float>(AlsEinfach, Fehler::Ueberlauf);
 }
 
 std::optional<std::string> WertLeser::Variant() {
@@ -155,9 +181,7 @@ std::optional<std::string> WertLeser::Variant() {
 std::string_view WertLeser::Zeile() {
     AmEndePruefen();
     const std::size_t anfang = stelle_;
-    stelle_ = std::min(bytes_.find('\n', anfang), bytes_.size());
-    const std::string_view mitCr = bytes_.substr(anfang, stelle_ - anfang);
-    stelle_ = anfang + std::min(mitCr.find('\r'), mitCr.size());
+    stelle_ = ZeilenendeAb(bytes_, anfang);
     const std::string_view zeile = bytes_.substr(anfang, stelle_ - anfang);
     TokenSchliessen();
     return zeile;

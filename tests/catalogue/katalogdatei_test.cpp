@@ -1,4 +1,5 @@
 #include "catalogue/katalogdatei.h"
+#include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,16 @@
 
 namespace {
 
-using Spalte = std::vector<std::string>;
+using Werte = std::vector<std::string>;
+
+// A column as the texts it holds.
+Werte Texte(const Fragenliste& liste, Spalte spalte) {
+    Werte texte;
+    for (std::size_t i = 0; i < liste.anzahl(); ++i) {
+        texte.emplace_back(liste.wert(i, spalte));
+    }
+    return texte;
+}
 
 // Number of the run-time error that a reading ends in, 0 for none.
 int Fehlernummer(const std::function<void()>& lauf) {
@@ -32,38 +42,37 @@ TEST(Fragendatei, FourLinesMakeAQuestion) {
     FragenLesen(
         "Kopf, egal\r\n1\r\nWo liegt \"K\xF6ln\", genau?\r\nAm Rhein\r\n3\r\n2\r\nWer?\r\n  Ich \r\n\r\n",
         false, liste);
-    EXPECT_EQ(liste.nr, (Spalte{"1", "2"}));
-    EXPECT_EQ(liste.frage, (Spalte{"Wo liegt \"Köln\", genau?", "Wer?"}));
-    EXPECT_EQ(liste.antwort, (Spalte{"Am Rhein", "  Ich "}));
-    EXPECT_EQ(liste.punkte, (Spalte{"3", ""}));
+    EXPECT_EQ(Texte(liste, Spalte::Nr), (Werte{"1", "2"}));
+    EXPECT_EQ(Texte(liste, Spalte::Frage), (Werte{"Wo liegt \"Köln\", genau?", "Wer?"}));
+    EXPECT_EQ(Texte(liste, Spalte::Antwort), (Werte{"Am Rhein", "  Ich "}));
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), (Werte{"3", ""}));
 }
 
 TEST(Fragendatei, AHeaderAloneGivesEmptyListsAndNoError) {
     Fragenliste liste;
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("Kopf\r\n", false, liste); }), 0);
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("Kopf", true, liste); }), 0);
-    EXPECT_TRUE(liste.nr.empty());
+    EXPECT_EQ(liste.anzahl(), 0U);
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("", false, liste); }), 62);
 }
 
 TEST(Fragendatei, ARecordCutBehindItsQuestionIsLostAndTheOthersStay) {
     Fragenliste liste;
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF1\r\nA1\r\n1\r\n2\r\nF2\r\n", false, liste); }), 62);
-    EXPECT_EQ(liste.frage, Spalte{"F1"});
-    EXPECT_EQ(liste.nr.size(), liste.punkte.size());
+    EXPECT_EQ(Texte(liste, Spalte::Frage), Werte{"F1"});
 }
 
 TEST(Fragendatei, TheLastLineNeedsNoLineEnd) {
     Fragenliste liste;
     FragenLesen("K\r\n1\r\nF\r\nA\r\n5", false, liste);
-    EXPECT_EQ(liste.punkte, Spalte{"5"});
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), Werte{"5"});
 }
 
 TEST(Fragendatei, RecordsAreAppendedToWhatTheListHolds) {
     Fragenliste liste;
     FragenLesen("K\r\n1\r\nF\r\nA\r\n5\r\n", false, liste);
     FragenLesen("K\r\n1\r\nG\r\nB\r\n6\r\n", false, liste);
-    EXPECT_EQ(liste.frage, (Spalte{"F", "G"}));
+    EXPECT_EQ(Texte(liste, Spalte::Frage), (Werte{"F", "G"}));
 }
 
 constexpr std::string_view mitKommentar = "K\r\n1\r\n'Notiz\r\nF\r\nA\r\n2\r\n";
@@ -72,36 +81,36 @@ TEST(Fragendatei, AnApostropheLineOfLandIsAValueAndShiftsTheOthersByOne) {
     Fragenliste liste;
     EXPECT_EQ(Fehlernummer([&] { FragenLesen(mitKommentar, ThemaSuchen("Land")->kommentarzeilen, liste); }),
               62);
-    EXPECT_EQ(liste.frage, Spalte{"'Notiz"});
-    EXPECT_EQ(liste.antwort, Spalte{"F"});
-    EXPECT_EQ(liste.punkte, Spalte{"A"});
+    EXPECT_EQ(Texte(liste, Spalte::Frage), Werte{"'Notiz"});
+    EXPECT_EQ(Texte(liste, Spalte::Antwort), Werte{"F"});
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), Werte{"A"});
 }
 
 TEST(Fragendatei, TheSameApostropheLineOfAufgabenIsSkipped) {
     Fragenliste liste;
     FragenLesen(mitKommentar, ThemaSuchen("- Aufgaben -")->kommentarzeilen, liste);
-    EXPECT_EQ(liste.frage, Spalte{"F"});
-    EXPECT_EQ(liste.punkte, Spalte{"2"});
+    EXPECT_EQ(Texte(liste, Spalte::Frage), Werte{"F"});
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), Werte{"2"});
 }
 
 TEST(Fragendatei, AnyNumberOfCommentLinesMayStandAheadOfEachLineButNotOfTheHeader) {
     Fragenliste liste;
     FragenLesen("'Kopf\r\n'a\r\n'b\r\n1\r\n'c\r\nF\r\n'd\r\n 'A\r\n''\r\n'\r\n9\r\n", true, liste);
-    EXPECT_EQ(liste.nr, Spalte{"1"});
-    EXPECT_EQ(liste.antwort, Spalte{" 'A"}) << "only a first character makes a comment";
-    EXPECT_EQ(liste.punkte, Spalte{"9"});
+    EXPECT_EQ(Texte(liste, Spalte::Nr), Werte{"1"});
+    EXPECT_EQ(Texte(liste, Spalte::Antwort), Werte{" 'A"}) << "only a first character makes a comment";
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), Werte{"9"});
 }
 
 TEST(Fragendatei, ACommentBehindTheLastRecordLosesNothing) {
     Fragenliste liste;
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF\r\nA\r\n2\r\n'Ende\r\n", true, liste); }), 62);
-    EXPECT_EQ(liste.nr, Spalte{"1"});
+    EXPECT_EQ(Texte(liste, Spalte::Nr), Werte{"1"});
 }
 
 TEST(Fragendatei, AnEmptyLineBehindTheLastRecordLosesNothing) {
     Fragenliste liste;
     EXPECT_EQ(Fehlernummer([&] { FragenLesen("K\r\n1\r\nF\r\nA\r\n2\r\n\r\n", false, liste); }), 62);
-    EXPECT_EQ(liste.nr, Spalte{"1"});
+    EXPECT_EQ(Texte(liste, Spalte::Nr), Werte{"1"});
 }
 
 TEST(Fragendatei, CutAtEveryByteItKeepsWholeRecordsOnly) {
@@ -111,9 +120,31 @@ TEST(Fragendatei, CutAtEveryByteItKeepsWholeRecordsOnly) {
         const int nummer =
             Fehlernummer([&] { FragenLesen(std::string_view(ganz).substr(0, laenge), false, liste); });
         EXPECT_TRUE(nummer == 0 || nummer == 62) << laenge;
-        EXPECT_EQ(liste.nr.size(), liste.punkte.size()) << laenge;
-        EXPECT_EQ(liste.nr.size(), laenge < 18 ? 0U : laenge < 32 ? 1U : 2U) << laenge;
+        EXPECT_EQ(liste.anzahl(), laenge < 18 ? 0U : laenge < 32 ? 1U : 2U) << laenge;
     }
+}
+
+TEST(Fragendatei, ALineLongerThanTheScreenCanShowEndsInError7AndTheOthersStay) {
+    Fragenliste liste;
+    const std::string bytes = "K\r\n1\r\nF\r\nA\r\n5\r\n2\r\n" + std::string(65537, 'x') + "\r\nA\r\n5\r\n";
+    EXPECT_EQ(Fehlernummer([&] { FragenLesen(bytes, false, liste); }), 7);
+    EXPECT_EQ(Texte(liste, Spalte::Frage), Werte{"F"});
+}
+
+TEST(Fragendatei, UmlautsAndSignsOfEveryLengthStandBesideEachOtherWhole) {
+    std::string zeile;
+    for (int byte = 255; byte >= 32; --byte) {
+        zeile += static_cast<char>(byte);
+    }
+    for (int mal = 0; mal < 3; ++mal) {
+        zeile += zeile; // longer than any block
+    }
+    Fragenliste liste;
+    FragenLesen("K\n" + zeile + "\n\x80\nAntwort\xDF\n\n" + "2\rF\rA\rP", false, liste);
+    EXPECT_EQ(Texte(liste, Spalte::Nr), (Werte{AusCp1252(zeile), "2"}));
+    EXPECT_EQ(Texte(liste, Spalte::Frage), (Werte{"€", "F"}));
+    EXPECT_EQ(Texte(liste, Spalte::Antwort), (Werte{"Antwortß", "A"}));
+    EXPECT_EQ(Texte(liste, Spalte::Punkte), (Werte{"", "P"}));
 }
 
 TEST(Themenliste, TakesTwentyLinesWholeBehindTheHeader) {

@@ -138,7 +138,7 @@ void KatalogladenTest::aMissingQuestionFileNamesTheFolderOfTheTable() {
     DateifehlerErwarten(dialoge, QStringLiteral("Standardaufgaben"), QStringLiteral("\\WISSEN\\Aufgaben"));
     fehlt("- Aufgaben -", "Standardaufgaben", QStringLiteral("AUFGABEN/AUF_STAN.TXT"));
     QVERIFY(dialoge.fertig());
-    QVERIFY(liste.nr.empty());
+    QCOMPARE(liste.anzahl(), std::size_t{0});
 }
 
 void KatalogladenTest::aSubThemeWithoutARowGivesTheShortText() {
@@ -157,8 +157,8 @@ void KatalogladenTest::aRecordCutShortIsLostWithoutAWord() {
     Dialogfolge dialoge;
     Fragenliste liste;
     FragenLaden("Land", "Berge", liste);
-    QCOMPARE(liste.frage.size(), std::size_t{1});
-    QCOMPARE(liste.frage[0], std::string("F1"));
+    QCOMPARE(liste.anzahl(), std::size_t{1});
+    QVERIFY(liste.wert(0, Spalte::Frage) == "F1");
     QVERIFY(dialoge.fertig());
 }
 
@@ -169,7 +169,9 @@ void KatalogladenTest::essenIsAnotherFileUnderAnotherTheme() {
     Fragenliste liste;
     FragenLaden("A-Z", "Essen", liste);
     FragenLaden("Geschichte", "Essen", liste);
-    QCOMPARE(liste.frage, (std::vector<std::string>{"A-Z", "Früher"}));
+    QCOMPARE(liste.anzahl(), std::size_t{2});
+    QVERIFY(liste.wert(0, Spalte::Frage) == "A-Z");
+    QVERIFY(liste.wert(1, Spalte::Frage) == "Früher");
 }
 
 void KatalogladenTest::anUnknownThemeLoadsNoQuestions() {
@@ -177,7 +179,7 @@ void KatalogladenTest::anUnknownThemeLoadsNoQuestions() {
     Dialogfolge dialoge;
     Fragenliste liste;
     FragenLaden("Wetter", "Regen", liste);
-    QVERIFY(liste.nr.empty());
+    QCOMPARE(liste.anzahl(), std::size_t{0});
     QVERIFY(dialoge.fertig());
 }
 

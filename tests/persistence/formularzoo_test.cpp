@@ -158,13 +158,25 @@ TEST(Formularzoo, AQuoteThatNeverClosesTakesTheRestOfTheFile) {
     EXPECT_EQ(FormZeit, "");
 }
 
-TEST(Formularzoo, AHundredMegabytesOfOneTokenAreRead) {
+TEST(Formularzoo, AHundredMegabytesOfOneTextAreError7OnceAndTheReaderGoesOnBehindThem) {
     std::string bytes = "\"Feldkranz\"\r\n\"FK\"\r\n\"[BEMERKUNG]\"\r\n\"";
     bytes.append(100'000'000, 'x');
+    bytes += "\"\r\n\"kurz\"\r\n";
     AllesLeeren();
-    EXPECT_EQ(FormularAusBytes(bytes, {}).code, 0);
-    EXPECT_EQ(Bemerkung.size(), 100'000'000U);
-    Bemerkung = std::string();
+    std::vector<Laufzeitfehler> gemeldet;
+    const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler& f) { gemeldet.push_back(f); });
+    EXPECT_EQ(ergebnis.code, 0);
+    ASSERT_EQ(gemeldet.size(), 1U);
+    EXPECT_EQ(gemeldet[0].nummer(), 7);
+    EXPECT_EQ(gemeldet[0].zeile(), 4);
+    EXPECT_EQ(Bemerkung, "kurz");
+}
+
+TEST(Formularzoo, ATextOf64KiBIsReadWhole) {
+    const std::string text(laengsterText, 'x');
+    AllesLeeren();
+    EXPECT_EQ(FormularAusBytes("\"Feldkranz\"\r\n\"FK\"\r\n[BEMERKUNG]\r\n\"" + text + "\"\r\n", {}).code, 0);
+    EXPECT_EQ(Bemerkung, text);
 }
 
 TEST(Formularzoo, AHundredMegabytesOfOneNumberAreAnOverflowOnce) {
