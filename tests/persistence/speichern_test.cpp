@@ -11,6 +11,7 @@
 #include "tests/hilfe/finden.h"
 #include "vorgaben.h"
 
+#include <QDir>
 #include <QTest>
 
 namespace {
@@ -50,6 +51,8 @@ private Q_SLOTS:
     void aNameGetsItsExtensionAndKeepsOneInSmallLetters();
     void theBackupIsTheVersionOfTheSaveBefore();
     void aNewFormTellsThatNoBackupCouldBeMade();
+    void aBackupThatFailsIsToldAndDoesNotStopTheSave();
+    void everyByteOfAFileComesBackWhenItIsSavedUnchanged();
     void anOpenedBackupIsNotBackedUpOverItself();
     void cancellingTheOverwriteQuestionLeavesTheOldFile();
     void closingTheOverwriteQuestionByItsFrameDestroysNothing();
@@ -154,6 +157,46 @@ void SpeichernTest::aNewFormTellsThatNoBackupCouldBeMade() {
     lauf.Druecken(speichernTaste);
     QVERIFY(dialoge.fertig());
     QVERIFY(!lauf.Lesen(QStringLiteral("N.FKR")).isEmpty());
+}
+
+// A folder stands where the backup should go.
+void SpeichernTest::aBackupThatFailsIsToldAndDoesNotStopTheSave() {
+    lauf.Schreiben(QStringLiteral("S.FKR"), Formlauf::Quiz("Alt"));
+    lauf.Schreiben(QStringLiteral("S.BAK/drin.txt"), "bleibt");
+    OptionDatei = 1;
+    lauf.Oeffnen(QStringLiteral("S.FKR"));
+    AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("Ich konnte kein BackUp anlegen von : \n[ S.FKR ]"),
+                    QStringLiteral("Das finde ich nicht so gut"));
+    GespeichertErwarten(dialoge, QStringLiteral("S.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("S.FKR")).contains("Neu"));
+    QCOMPARE(lauf.Lesen(QStringLiteral("S.BAK/drin.txt")), QByteArray("bleibt"));
+    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(QDir(lauf.programm().ordner().nativ(QStringLiteral("KRANZ/S.BAK"))).removeRecursively());
+}
+
+void SpeichernTest::everyByteOfAFileComesBackWhenItIsSavedUnchanged() {
+    QByteArray bytes = Formlauf::Quiz("Was");
+    bytes.replace("\"Was 1\"", "\"  Wer hei\xDFt \xD6zg\xFCr ?\r\n\r\n  \x84ja\x93, 5 \x80 - nein,\"");
+    bytes.replace("\"Was 2\"", "\"\r\n \"");
+    lauf.Schreiben(QStringLiteral("B.FKR"), bytes);
+    lauf.Oeffnen(QStringLiteral("B.FKR"));
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("B.FKR"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("B.FKR")), bytes);
+
+    // A quote that was typed is written as it stands, without any escape.
+    FKFragenOffen()->txtFrage.at(3)->selectAll();
+    QTest::keyClicks(FKFragenOffen()->txtFrage.at(3), QStringLiteral(" \"So\" heißt"));
+    GespeichertErwarten(dialoge, QStringLiteral("B.FKR"));
+    lauf.Druecken(speichernTaste);
+    bytes.replace("\"Was 3\"", "\" \"So\" hei\xDFt\"");
+    QCOMPARE(lauf.Lesen(QStringLiteral("B.FKR")), bytes);
 }
 
 void SpeichernTest::anOpenedBackupIsNotBackedUpOverItself() {
