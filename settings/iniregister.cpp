@@ -15,6 +15,7 @@ namespace {
 
 constexpr int tabSpezial = 0;
 constexpr int tabStandard = 3;
+constexpr int gruppenabstand = 16; // between the groups of the toolbar
 
 struct Sichtbarkeit {
     const char* name;
@@ -102,9 +103,11 @@ void frmIni::ToolbarBauen() {
     fuellen(register_, registertasten, 124);
     fuellen(dialog, dialogtasten, 100);
     reihe->addLayout(zaehler);
+    reihe->addSpacing(gruppenabstand);
     reihe->addStretch();
     reihe->addLayout(register_);
     reihe->addStretch();
+    reihe->addSpacing(gruppenabstand);
     reihe->addLayout(dialog);
     for (const Sichtbarkeit& zeile : sichtbarkeiten) {
         PlatzBehalten(pnlToolbar_->findChild<QWidget*>(QLatin1String(zeile.name)));

@@ -1,0 +1,340 @@
+// What applying the settings dialog does to the real quiz form, and what cancelling it puts back.
+#include "core/hauptfenster.h"
+#include "tests/settings/inihilfe.h"
+
+namespace {
+
+const QString titelFragen = QStringLiteral("Fragen pro Wissensgebiet");
+const QString mitte = QStringLiteral("\nDa Du die Spielregeln einhalten willst, muß ich\n");
+
+const QString vier = QStringLiteral("Ich soll vier Fragen pro Wissensgebiet anlegen.") + mitte +
+                     QStringLiteral("die Felder 3 jetzt löschen!");
+const QString drei = QStringLiteral("Ich soll drei Fragen pro Wissensgebiet anlegen.") + mitte +
+                     QStringLiteral("die Felder 2 und 4 jetzt löschen!");
+
+// Whether the cell has lost, or kept, all it held.
+bool Leer(const frmFKFragen* form, int n) {
+    return form->txtFrage.at(Nr(n))->text().empty() && form->txtAntwort.at(Nr(n))->text().empty() &&
+           FrageText.at(Nr(n)).empty() && AntwortText.at(Nr(n)).empty() && FeldSpezial.at(Nr(n)).empty();
+}
+bool Ganz(const frmFKFragen* form, int n) {
+    return form->txtFrage.at(Nr(n))->text() == "Frage " + std::to_string(n) &&
+           AntwortText.at(Nr(n)) == "Antwort " + std::to_string(n);
+}
+
+// Rows that a number of questions leaves, written down apart from the program.
+bool ZeileSollBleiben(int fragen, int zeile) {
+    static const std::array<QByteArray, 6> muster{"", "..x..", ".x.x.", "x.x.x", "xx.xx", "xxxxx"};
+    return muster.at(Nr(fragen)).at(zeile - 1) == 'x';
+}
+
+} // namespace
+
+class IniAnwendenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuestions();
+    void fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackEmpty();
+    void withTheRuleOffAndTwoQuestionsAllThirtyCellsStand();
+    void applyingShapesTheBoardForEveryNumberOfQuestionsAndAreas();
+    void applyingWithTheAreasRuleOffOpensTheTitlesAgain();
+    void nothingReachesTheSettingsBeforeItIsApplied();
+    void applyingMarksTheFormAndRefreshesPointsCountsAndTips();
+    void enterAppliesButNotFromASpin();
+    void anOpenListGoesWithTheBoardItStoodOver();
+    void cancellingPutsTheFiveValuesBackAndDropsTheEdits();
+    void abbrechenAnsweredAbbrechenKeepsTheDialogWithAllItsEdits();
+    void escapeAndTheFrameAreTheCancelButton();
+    void tickingARuleNamesTheCountAndOKKeepsTheTick();
+};
+
+void IniAnwendenTest::fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuestions() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    BrettFuellen(form);
+    MitOK(programm, [form](QDialog& dialog, Dialogfolge& dialoge) {
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        dialoge.frage(titelFragen, drei, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        for (int n = 1; n <= anzahlFelder; ++n) {
+            QVERIFY(Ganz(form, n)); // the steps touch nothing yet
+        }
+    });
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        const bool weg = ZeileVon(n) == 2 || ZeileVon(n) == 4;
+        QVERIFY2(weg ? Leer(form, n) : Ganz(form, n), qPrintable(QString::number(n)));
+        QCOMPARE(form->txtFrage.at(Nr(n))->isVisible(), !weg);
+    }
+}
+
+void IniAnwendenTest::fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackEmpty() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(3, 6, 1, 1);
+    BrettFuellen(form);
+    FK_FragenRegel();
+    MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenPlus");
+    });
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        const int zeile = ZeileVon(n);
+        QCOMPARE(form->txtFrage.at(Nr(n))->isVisible(), zeile != 3);
+        QVERIFY2(zeile == 1 || zeile == 5 ? Ganz(form, n) : Leer(form, n), qPrintable(QString::number(n)));
+    }
+}
+
+void IniAnwendenTest::withTheRuleOffAndTwoQuestionsAllThirtyCellsStand() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(2, 6, 1, 1);
+    FK_FragenRegel();
+    QCOMPARE(SichtbareZellen(form).size(), std::size_t(12));
+    MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
+        Register(dialog, 5);
+        DruckeWahl(dialog, QStringLiteral("chkMaxFelder"));
+        QCOMPARE(OptionMaxFelder, std::int16_t(0));
+    });
+    QCOMPARE(SichtbareZellen(form).size(), std::size_t(30));
+    BrettFuellen(form);
+    MitOK(programm, [](QDialog&, Dialogfolge&) {});
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        QVERIFY(Ganz(form, n));
+        QVERIFY(form->pnlPunkte.at(Nr(n))->isVisible());
+    }
+}
+
+void IniAnwendenTest::applyingShapesTheBoardForEveryNumberOfQuestionsAndAreas() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    for (int fragen = 1; fragen <= 5; ++fragen) {
+        for (int wissen = 1; wissen <= 6; ++wissen) {
+            FK_AlleFelderZeigen();
+            BrettFuellen(form);
+            Form(fragen, wissen, 1, 1);
+            MitOK(programm, [](QDialog&, Dialogfolge&) {});
+            for (int n = 1; n <= anzahlFelder; ++n) {
+                const bool bleibt = GebietVon(n) <= wissen && ZeileSollBleiben(fragen, ZeileVon(n));
+                const QByteArray fall =
+                    QStringLiteral("%1 x %2, cell %3").arg(fragen).arg(wissen).arg(n).toUtf8();
+                QVERIFY2(form->txtFrage.at(Nr(n))->isVisible() == bleibt, fall.constData());
+                QVERIFY2(form->txtAntwort.at(Nr(n))->isVisible() == bleibt, fall.constData());
+                QVERIFY2(form->pnlSpezial.at(Nr(n))->isVisible() == bleibt, fall.constData());
+                QVERIFY2(form->pnlPunkte.at(Nr(n))->isVisible() == (bleibt && fragen != 1), fall.constData());
+                QVERIFY2(bleibt ? Ganz(form, n) : Leer(form, n), fall.constData());
+            }
+            for (int a = 1; a <= anzahlGebiete; ++a) {
+                QCOMPARE(form->pnlWissen.at(Nr(a))->isEnabled(), a <= wissen);
+            }
+        }
+    }
+}
+
+void IniAnwendenTest::applyingWithTheAreasRuleOffOpensTheTitlesAgain() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 3, 1, 1);
+    form->pnlWissen.at(5)->setCaption(QStringLiteral("Tiere"));
+    MitOK(programm, [](QDialog&, Dialogfolge&) {});
+    QVERIFY(!form->pnlWissen.at(5)->isEnabled());
+    QCOMPARE(form->pnlWissen.at(5)->caption(), QStringLiteral("Wissen"));
+    MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
+        Register(dialog, 5);
+        DruckeWahl(dialog, QStringLiteral("chkMaxWissen"));
+    });
+    QVERIFY(form->pnlWissen.at(5)->isEnabled());
+    QCOMPARE(SichtbareZellen(form).size(), std::size_t(30));
+}
+
+void IniAnwendenTest::nothingReachesTheSettingsBeforeItIsApplied() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
+        Register(dialog, 0);
+        for (int art = 0; art < 5; ++art) {
+            Drehe(dialog, QStringLiteral("spnPunkte"), art, true);
+            Drehe(dialog, QStringLiteral("spnFelder"), art, false);
+        }
+        Register(dialog, 3);
+        for (int art = 0; art < 5; ++art) {
+            Drehe(dialog, QStringLiteral("spnPunkteV"), art, true);
+            Drehe(dialog, QStringLiteral("spnFelderV"), art, false);
+        }
+        QCOMPARE(PunkteA, std::int16_t(5));
+        QCOMPARE(FelderJ, std::int16_t(4));
+        QCOMPARE(PunkteVG, std::int16_t(10));
+        QCOMPARE(FelderVR, std::int16_t(2));
+    });
+    const QList<int> punkte{PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR};
+    const QList<int> felder{FelderA, FelderE, FelderG, FelderJ, FelderR};
+    const QList<int> punkteV{PunkteVA, PunkteVE, PunkteVG, PunkteVJ, PunkteVR};
+    QCOMPARE(punkte, (QList<int>{6, 11, 11, 6, 1}));
+    QCOMPARE(felder, (QList<int>{1, 1, 1, 3, 1}));
+    QCOMPARE(punkteV, punkte);
+    QCOMPARE(FelderVA, std::int16_t(1));
+    QCOMPARE(FelderVE.value_or(""), std::string("1"));
+    QCOMPARE(FelderVJ, std::int16_t(3));
+}
+
+void IniAnwendenTest::applyingMarksTheFormAndRefreshesPointsCountsAndTips() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    SpezialWaehlen(form, 2, 1);
+    SpezialWaehlen(form, 8, 1);
+    FormStatusSetzen(0);
+    QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("5"));
+    MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        Register(dialog, 0);
+        Drehe(dialog, QStringLiteral("spnPunkte"), 3, true);
+        Drehe(dialog, QStringLiteral("spnFelder"), 3, false);
+        Register(dialog, 3);
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenMinus");
+    });
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Finden(programm.haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
+    QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("6"));
+    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(1)); // the Joker on the third row has gone
+    QCOMPARE(Miniatur(programm, 8), Systemflaeche());
+    QVERIFY(form->pnlSpezial.at(1)->toolTip().contains(QStringLiteral("- 3 Jokerfelder")));
+    QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlFKFelder"))->caption(),
+             QStringLiteral(" 24 Fragen : je 4 Fragen aus 6 Wissensgebieten"));
+}
+
+void IniAnwendenTest::enterAppliesButNotFromASpin() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    Dialogfolge dialoge;
+    bool nochDa = false;
+    dialoge.erwarte({QStringLiteral("frmIni"), std::nullopt, std::nullopt, {}, [&](QDialog& dialog) {
+                         auto* spin = Finden(&dialog, QStringLiteral("spnFelderV"), 0);
+                         spin->setFocus();
+                         QTRY_VERIFY(spin->hasFocus());
+                         QTest::keyClick(spin, Qt::Key_Up);
+                         QTest::keyClick(spin, Qt::Key_Return);
+                         QTest::keyClick(spin, Qt::Key_Enter);
+                         nochDa = dialog.isVisible();
+                         Register(dialog, 5);
+                         auto* kasten = Finden(&dialog, QStringLiteral("chkMaxSpezial"));
+                         kasten->setFocus();
+                         QTRY_VERIFY(kasten->hasFocus());
+                         QTest::keyClick(kasten, Qt::Key_Return);
+                     }});
+    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdIni")), Qt::LeftButton);
+    QVERIFY(nochDa);
+    QCOMPARE(FelderVA, std::int16_t(3)); // applied
+}
+
+void IniAnwendenTest::anOpenListGoesWithTheBoardItStoodOver() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 4, 1, 1);
+    QTest::mouseClick(form->pnlSpezial.at(28), Qt::LeftButton);
+    QTRY_VERIFY(form->cmbSpezial->isVisible());
+    form->cmbSpezial->hidePopup();
+    MitOK(programm, [](QDialog&, Dialogfolge&) {});
+    QVERIFY(!form->cmbSpezial->isVisible());
+    QVERIFY(!form->pnlSpezial.at(28)->isVisible());
+}
+
+void IniAnwendenTest::cancellingPutsTheFiveValuesBackAndDropsTheEdits() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    BrettFuellen(form);
+    FormStatusSetzen(0);
+    MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        Register(dialog, 0);
+        Drehe(dialog, QStringLiteral("spnFelder"), 2, true);
+        Register(dialog, 5);
+        for (const char* name : {"chkMaxFelder", "chkMaxWissen", "chkMaxSpezial"}) {
+            DruckeWahl(dialog, QLatin1String(name));
+        }
+        QCOMPARE(OptionMaxWissen, std::int16_t(0));
+    });
+    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(AnzahlWissen, std::int16_t(6));
+    QCOMPARE(FelderGesamt, std::int16_t(30));
+    QCOMPARE(OptionMaxFelder, std::int16_t(1));
+    QCOMPARE(OptionMaxWissen, std::int16_t(1));
+    QCOMPARE(OptionMaxSpezial, std::int16_t(1));
+    QCOMPARE(FelderG, std::int16_t(2));
+    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(Ganz(form, 3));
+    MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
+        QCOMPARE(Zahlen(dialog, QStringLiteral("pnlFelder")), QStringList({"2", "2", "2", "4", "2"}));
+    });
+}
+
+void IniAnwendenTest::abbrechenAnsweredAbbrechenKeepsTheDialogWithAllItsEdits() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        Drehe(dialog, QStringLiteral("spnPunkteV"), 3, true);
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        dialoge.frage(verwerfenTitel, verwerfenFrage, 2);
+        Druecke(dialog, "cmdAbbrechen");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(Zahl(dialog, QStringLiteral("pnlPunkteV(3)")), QStringLiteral("6"));
+        QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("4"));
+        QCOMPARE(FragenProWissen, std::int16_t(4));
+        NachrichtAntwort = 6;
+        dialoge.erwarte(
+            {QStringLiteral("frmNachricht"), verwerfenTitel + u' ', verwerfenFrage, {durchRahmen}});
+        Druecke(dialog, "cmdAbbrechen");
+        QVERIFY(dialog.isVisible());
+    });
+    QCOMPARE(FragenProWissen, std::int16_t(5));
+}
+
+void IniAnwendenTest::escapeAndTheFrameAreTheCancelButton() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    ImDialog(programm,
+             [](QDialog& dialog, Dialogfolge& dialoge) {
+                 dialoge.frage(verwerfenTitel, verwerfenFrage, 2);
+                 QTest::keyClick(&dialog, Qt::Key_Escape);
+                 QVERIFY(dialog.isVisible());
+                 dialoge.frage(verwerfenTitel, verwerfenFrage, 2);
+                 dialog.close();
+                 QVERIFY(dialog.isVisible());
+                 FragenProWissen = 2;
+                 dialoge.frage(verwerfenTitel, verwerfenFrage, 6);
+             },
+             {durchRahmen});
+    QCOMPARE(FragenProWissen, std::int16_t(5));
+}
+
+void IniAnwendenTest::tickingARuleNamesTheCountAndOKKeepsTheTick() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 2, 0, 0);
+    BrettFuellen(form);
+    MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        Register(dialog, 5);
+        DruckeWahl(dialog, QStringLiteral("chkMaxFelder")); // a full column: nothing to ask
+        QCOMPARE(OptionMaxFelder, std::int16_t(1));
+        dialoge.frage(QStringLiteral("Spielregeln einhalten"),
+                      QStringLiteral("Du hast die Anzahl der Wissensgebiete auf  [ 2 ]  begrenzt.\n"
+                                     "Wenn Du die Spielregeln einhalten willst, muß ich\n"
+                                     "die restlichen Felder jetzt löschen!"),
+                      1);
+        DruckeWahl(dialog, QStringLiteral("chkMaxWissen"));
+        QVERIFY(Finden<QCheckBox>(&dialog, QStringLiteral("chkMaxWissen"))->isChecked());
+    });
+    QCOMPARE(OptionMaxWissen, std::int16_t(1));
+    QCOMPARE(SichtbareZellen(form).size(), std::size_t(10));
+    QVERIFY(Leer(form, 11));
+}
+
+QTEST_MAIN(IniAnwendenTest)
+#include "inianwenden_test.moc"
