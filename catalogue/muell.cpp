@@ -33,6 +33,7 @@ void MuellAblegen(frmAuswahl& fenster) {
         FK_Merken();
         FK_FelderFaerben();
     } else {
+        HB_FeldLeeren(DragFeld);
         HB_Merken();
     }
     if (!FormTyp.empty()) {

@@ -11,6 +11,7 @@
 #include "quizform/fkformular.h"
 #include "quizform/texte.h"
 #include "quizform/ziehregeln.h"
+#include "testform/hbformular.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -66,6 +67,31 @@ public:
     }
 };
 
+// The answer that belongs to the question that is being dropped.
+std::string GezogeneAntwort(bool ausTest) {
+    if (DragArt != 1 && DragArt != 2) {
+        return AuswahlAntwort();
+    }
+    if (DragFeld == 0) {
+        return AblageAntwort();
+    }
+    return ausTest ? HB_Antwort(DragFeld) : FK_Antwort(DragFeld);
+}
+
+// The form that the question came from takes note; no routine creates the form of the other kind.
+void FormNachAblage(bool ausTest) {
+    if (ausTest) {
+        HB_Merken();
+        HB_FelderFaerben();
+    } else {
+        FK_Merken();
+        FK_FelderFaerben();
+    }
+    if (!FormTyp.empty()) {
+        FormStatusSetzen(1); // without a form there is nothing that could be saved
+    }
+}
+
 Panel* PanelBauen(QWidget* hilfepanel, const char* name, std::string_view tipp) {
     auto* panel = new Panel(hilfepanel, QLatin1String(name));
     panel->setAusrichtung(Qt::AlignLeft);
@@ -110,15 +136,14 @@ void AblageAblegen(const std::string& frage, bool vomHilfepanel) {
     if (pnlCopyF.isNull() || (!AblageFrage().empty() && !ErsetzenErlaubt(fktexte::ablageBesetzt))) {
         return;
     }
-    const bool ausForm = DragArt == 1 || DragArt == 2;
-    const std::string antwort =
-        !ausForm ? AuswahlAntwort() : (DragFeld == 0 ? AblageAntwort() : FK_Antwort(DragFeld));
+    const bool ausTest = DragHerkunft == "HBFragen";
+    const std::string antwort = GezogeneAntwort(ausTest);
     pnlCopyF->setCaption(Anzeige(frage));
     pnlCopyA->setCaption(Anzeige(antwort));
     if (DragArt == 1) {
-        FK_FeldLeeren(DragFeld);
+        ausTest ? HB_FeldLeeren(DragFeld) : FK_FeldLeeren(DragFeld);
     }
-    if (ausForm) {
+    if (DragArt == 1 || DragArt == 2) {
         DragArt = 0;
     }
     if (vomHilfepanel) {
@@ -127,11 +152,7 @@ void AblageAblegen(const std::string& frage, bool vomHilfepanel) {
         pnlCopyF->setFarben(Qt::white, Qt::black);
         pnlCopyA->setFarben(Qt::white, Qt::black);
     }
-    FK_Merken();
-    FK_FelderFaerben();
-    if (!FormTyp.empty()) {
-        FormStatusSetzen(1); // without a form there is nothing that could be saved
-    }
+    FormNachAblage(ausTest);
 }
 
 void AblageLeeren() {

@@ -3,12 +3,14 @@
 #include "catalogue/auswahl.h"
 #include "core/formularbefehle.h"
 #include "core/hauptfenster.h"
+#include "core/testbefehle.h"
 #include "core/texte.h"
 #include "dialogs/meldung.h"
 #include "persistence/oeffnen.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
 #include "settings/vorgabendialog.h"
+#include "testform/hbformular.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -27,6 +29,9 @@ void HilfeMenue() {
 }
 void HilfeFormular() {
     Meldung(kerntexte::hilfeFK);
+}
+void HilfeTestformular() {
+    Meldung(kerntexte::hilfeHB);
 }
 void HinweisTarvo() {
     Nachricht(kerntexte::tarvo);
@@ -47,24 +52,38 @@ constexpr std::array zuordnungen{
     Zuordnung{"mDatei(1)", FK_Neu},
     Zuordnung{"cmdDateiFK(1)", FK_Neu},
     Zuordnung{"mDateiFK(1)", FK_Neu},
+    Zuordnung{"cmdNeuHB", befehle::HBNeu},
+    Zuordnung{"cmdDateiHB(1)", befehle::HBNeu},
+    Zuordnung{"mDateiHB(1)", befehle::HBNeu},
+    Zuordnung{"mDatei(2)", befehle::HBNeuMitModus},
     Zuordnung{"cmdLaden", FormularOeffnen},
     Zuordnung{"mDatei(4)", FormularOeffnen},
     Zuordnung{"cmdDateiFK(2)", FormularOeffnen},
     Zuordnung{"mDateiFK(3)", FormularOeffnen},
     Zuordnung{"cmdDateiHB(2)", FormularOeffnen},
+    Zuordnung{"mDateiHB(3)", FormularOeffnen},
     Zuordnung{"mAuswahl(1)", AuswahlZeigen},
     Zuordnung{"cmdAuswahl(0)", AuswahlZeigen},
     Zuordnung{"cmdAuswahl(1)", AuswahlZeigen},
     Zuordnung{"mFKFragenauswahl", AuswahlZeigen},
+    Zuordnung{"mHBFragenauswahl", AuswahlZeigen},
     Zuordnung{"cmdDateiFK(3)", befehle::FKSpeichern},
     Zuordnung{"mDateiFK(5)", befehle::FKSpeichern},
     Zuordnung{"cmdDateiFK(4)", befehle::FKSpeichernUnter},
     Zuordnung{"mDateiFK(6)", befehle::FKSpeichernUnter},
     Zuordnung{"cmdDateiFK(5)", befehle::FKBeenden},
+    Zuordnung{"cmdDateiHB(3)", befehle::HBSpeichern},
+    Zuordnung{"mDateiHB(5)", befehle::HBSpeichern},
+    Zuordnung{"cmdDateiHB(4)", befehle::HBSpeichernUnter},
+    Zuordnung{"mDateiHB(6)", befehle::HBSpeichernUnter},
+    Zuordnung{"cmdDateiHB(5)", befehle::HBBeenden},
     Zuordnung{"cmdDruckenFK(1)", DruckerWahl},
     Zuordnung{"mDateiFK(10)", DruckerWahl},
     Zuordnung{"cmdDruckenHB(1)", DruckerWahl},
+    Zuordnung{"mDateiHB(9)", DruckerWahl},
     Zuordnung{"cmdDruckenFK(2)", FormularDrucken},
+    Zuordnung{"cmdDruckenHB(2)", TestFormularDrucken},
+    Zuordnung{"mDateiHB(8)", TestFormularDrucken},
     Zuordnung{"mDateiFK(8)", FormularDrucken},
     Zuordnung{"mDateiFK(9)", befehle::FKBlankoDrucken},
     Zuordnung{"cmdFKFLoeschen", befehle::FKFragenLoeschen},
@@ -78,12 +97,29 @@ constexpr std::array zuordnungen{
     Zuordnung{"cmdFKSchliessen", befehle::FKSchliessen},
     Zuordnung{"cmdFKZurueck", befehle::FKZurueck},
     Zuordnung{"mFKFormular", befehle::FKZurueck},
+    Zuordnung{"cmdHBFLoeschen", befehle::HBFragenLoeschen},
+    Zuordnung{"mHBFragen(1)", befehle::HBFragenLoeschen},
+    Zuordnung{"cmdHBFLaden", befehle::HBFragenEinfuegen},
+    Zuordnung{"mHBFragen(2)", befehle::HBFragenEinfuegen},
+    Zuordnung{"cmdHBALoeschen", befehle::HBAntwortenLoeschen},
+    Zuordnung{"mHBAntworten(1)", befehle::HBAntwortenLoeschen},
+    Zuordnung{"cmdHBALaden", befehle::HBAntwortenEinfuegen},
+    Zuordnung{"mHBAntworten(2)", befehle::HBAntwortenEinfuegen},
+    Zuordnung{"cmdHBPLoeschen", befehle::HBPunkteLoeschen},
+    Zuordnung{"mHBPunkte(1)", befehle::HBPunkteLoeschen},
+    Zuordnung{"cmdHBPLaden", HB_PunkteEinfuegen},
+    Zuordnung{"mHBPunkte(2)", HB_PunkteEinfuegen},
+    Zuordnung{"cmdHBSchliessen", befehle::HBSchliessen},
+    Zuordnung{"cmdHBZurueck", befehle::HBZurueck},
+    Zuordnung{"mHBFormular", befehle::HBZurueck},
+    Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},
     Zuordnung{"mThemenHB", befehle::ThemenquelleUmschalten},
     Zuordnung{"cmdHilfe", HilfeTaste},
     Zuordnung{"mHilfen(1)", HilfeMenue},
     Zuordnung{"mHilfeFK", HilfeFormular},
+    Zuordnung{"mHilfeHB", HilfeTestformular},
     Zuordnung{"cmdTarvo", HinweisTarvo},
     Zuordnung{"mInfos(1)", HinweisTarvo},
     Zuordnung{"cmdBrennek", HinweisBrennek},
@@ -92,6 +128,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"cmdEnde", ProgrammEnde},
     Zuordnung{"mDatei(6)", ProgrammEnde},
     Zuordnung{"mDateiFK(12)", ProgrammEnde},
+    Zuordnung{"mDateiHB(11)", ProgrammEnde},
 };
 
 // Runs a command; a run-time error that it lets through is reported with the control as its place. The menu

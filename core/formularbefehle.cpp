@@ -15,30 +15,6 @@
 
 namespace {
 
-// Asks as the closing buttons do and closes the quiz form. True when the form is gone.
-bool NachFrageSchliessen() {
-    NachrichtAntwort = antwortAbbrechen;
-    if (FormGeaendert == 1) {
-        Nachricht(kerntexte::schliessenGeaendert);
-        if (NachrichtAntwort == antwortJa) {
-            befehle::FKSpeichern();
-            return false; // meant: after saving the form stays open
-        }
-        if (NachrichtAntwort != antwortNein) {
-            return false;
-        }
-        FormGeaendert = 0;
-    } else if (Nachricht(kerntexte::schliessenFK) == antwortAbbrechen) {
-        return false;
-    }
-    return FK_Schliessen();
-}
-
-bool Gefragt(const NachrichtText& frage) {
-    NachrichtAntwort = antwortAbbrechen;
-    return Nachricht(frage) != antwortAbbrechen;
-}
-
 QAbstractButton* Themenschalter() {
     QWidget* haupt = Hauptfenster();
     return haupt == nullptr ? nullptr : haupt->findChild<QAbstractButton*>(QStringLiteral("grpFKHB"));
@@ -52,6 +28,29 @@ QAction* Themeneintrag() {
 } // namespace
 
 namespace befehle {
+
+bool NachFrageSchliessen(const NachrichtText& frage, void (*speichern)(), bool (*schliessen)()) {
+    NachrichtAntwort = antwortAbbrechen;
+    if (FormGeaendert == 1) {
+        Nachricht(kerntexte::schliessenGeaendert);
+        if (NachrichtAntwort == antwortJa) {
+            speichern();
+            return false; // meant: after saving the form stays open
+        }
+        if (NachrichtAntwort != antwortNein) {
+            return false;
+        }
+        FormGeaendert = 0;
+    } else if (Nachricht(frage) == antwortAbbrechen) {
+        return false;
+    }
+    return schliessen();
+}
+
+bool Gefragt(const NachrichtText& frage) {
+    NachrichtAntwort = antwortAbbrechen;
+    return Nachricht(frage) != antwortAbbrechen;
+}
 
 void FKSpeichern() {
     KindNachVorn("FKFragen");
@@ -72,12 +71,13 @@ void FKBeenden() {
 }
 
 void FKSchliessen() {
-    NachFrageSchliessen();
+    NachFrageSchliessen(kerntexte::schliessenFK, FKSpeichern, FK_Schliessen);
 }
 
 void FKZurueck() {
     // With another window in front, or none, only the toolbars change.
-    if (AktivesKind() == "FKFragen" && !NachFrageSchliessen()) {
+    if (AktivesKind() == "FKFragen" &&
+        !NachFrageSchliessen(kerntexte::schliessenFK, FKSpeichern, FK_Schliessen)) {
         return;
     }
     ModusHaupt();

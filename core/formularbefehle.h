@@ -2,7 +2,14 @@
 // source. The work itself is the forms' and the services'.
 #pragma once
 
+struct NachrichtText;
+
 namespace befehle {
+
+// Asks as the closing buttons of both forms do and closes the form. True when it is gone.
+bool NachFrageSchliessen(const NachrichtText& frage, void (*speichern)(), bool (*schliessen)());
+// Asks before something is blanked; closing the question by its frame counts as Abbrechen.
+bool Gefragt(const NachrichtText& frage);
 
 void FKSpeichern();
 void FKSpeichernUnter();

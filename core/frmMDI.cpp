@@ -63,7 +63,9 @@ frmMDI::frmMDI() {
     Anordnen();
 }
 
-frmMDI::~frmMDI() = default;
+frmMDI::~frmMDI() {
+    kindflaeche_->disconnect(this); // child windows that go with it have nobody to tell any more
+}
 
 void frmMDI::FlaechenBauen() {
     auto* mitte = new QWidget(this);
@@ -118,7 +120,7 @@ void frmMDI::KindGewechselt(const QMdiSubWindow* kind) {
         !kindflaeche_->subWindowList().isEmpty()) {
         return; // a tool window has the focus, the child is in front all the same
     }
-    MenueFKZeigen(*this, AktivesKind() == "FKFragen");
+    FormularmenueZeigen(*this, AktivesKind());
 }
 
 frmMDI* MDIFenster() {

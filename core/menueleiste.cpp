@@ -19,7 +19,7 @@
 
 namespace {
 
-enum class Fuer { Haupt, FK, Alle };
+enum class Fuer { Haupt, FK, HB, Alle };
 
 struct Menue {
     Fuer fuer;
@@ -29,7 +29,8 @@ struct Menue {
 
 constexpr std::array menues{
     Menue{Fuer::Haupt, "mDateien", "&Datei"},    Menue{Fuer::FK, "mDateienFK", "&Datei"},
-    Menue{Fuer::FK, "mFormularFK", "&Formular"}, Menue{Fuer::Alle, "mFragen", "&Ansicht"},
+    Menue{Fuer::FK, "mFormularFK", "&Formular"}, Menue{Fuer::HB, "mDateienHB", "&Datei"},
+    Menue{Fuer::HB, "mFormularHB", "&Formular"}, Menue{Fuer::Alle, "mFragen", "&Ansicht"},
     Menue{Fuer::Alle, "mOptionen", "&Optionen"}, Menue{Fuer::Alle, "mInfo", "&Info"},
     Menue{Fuer::Alle, "mEditor", "&Editor"},     Menue{Fuer::Alle, "mHilfe", "&Hilfe"},
 };
@@ -79,16 +80,52 @@ constexpr std::array eintraege{
     Eintrag{"mFormularFK", "mTrennerFormular", ""},
     Eintrag{"mFormularFK", "mFKFormular", "&Zurück zum Hauptmenü"},
 
+    Eintrag{"mDateienHB", "mDateiHB(1)", "&Test-Formular neu", "Ctrl+N"},
+    Eintrag{"mDateienHB", "mDateiHB(2)", ""},
+    Eintrag{"mDateienHB", "mDateiHB(3)", "Ö&ffnen", "Ctrl+O"},
+    Eintrag{"mDateienHB", "mDateiHB(4)", ""},
+    Eintrag{"mDateienHB", "mDateiHB(5)", "&Speichern", "Ctrl+S"},
+    Eintrag{"mDateienHB", "mDateiHB(6)", "Speichern &unter ...", "Ctrl+Shift+S"},
+    Eintrag{"mDateienHB", "mDateiHB(7)", ""},
+    Eintrag{"mDateienHB", "mDateiHB(8)", "&Drucken", "Ctrl+P"},
+    Eintrag{"mDateienHB", "mDateiHB(9)", "D&rucker einrichten ..."},
+    Eintrag{"mDateienHB", "mDateiHB(10)", ""},
+    Eintrag{"mDateienHB", "mDateiHB(11)", "&Ende", "Ctrl+Q"},
+
+    Eintrag{"mFormularHB", "mHBFragenauswahl", "Fragen&auswahl"},
+    Eintrag{"mFormularHB", "mTrennerHBFragen", ""},
+    Eintrag{"mFormularHB", "mHBFragen(1)", "&Fragen löschen"},
+    Eintrag{"mFormularHB", "mHBFragen(2)", "Fragen &einfügen"},
+    Eintrag{"mFormularHB", "mHBAntworten(1)", "A&ntworten löschen"},
+    Eintrag{"mFormularHB", "mHBAntworten(2)", "An&tworten einfügen"},
+    Eintrag{"mFormularHB", "mHBPunkte(1)", "&Punkte löschen"},
+    Eintrag{"mFormularHB", "mHBPunkte(2)", "Punkte e&infügen"},
+    Eintrag{"mFormularHB", "mTrennerHBFormular", ""},
+    Eintrag{"mFormularHB", "mHBFormular", "&Zurück zum Hauptmenü"},
+
     Eintrag{"mFragen", "mAuswahl(1)", "Fragen&auswahl"},
     Eintrag{"mFragen", "mAuswahl(2)", "&Dateiliste"},
     Eintrag{"mOptionen", "mBackUp", "Speichern mit &BackUp", "", true},
+    Eintrag{"mOptionen", "mBackUpHB", "Speichern mit &BackUp", "", true},
     Eintrag{"mInfo", "mInfos(1)", "&Tarvo"},
     Eintrag{"mInfo", "mInfos(2)", "&Brennek"},
     Eintrag{"mEditor", "mEditorKranz", "&Editor aufrufen"},
     Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},
+    Eintrag{"mHilfe", "mHilfeHB", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfen(2)", konfiguration::homepageText},
     Eintrag{"mHilfe", "mHilfen(3)", konfiguration::mailText},
+};
+
+// Entries that stand for each other: which one shows depends on the form in front.
+struct Wechseleintrag {
+    const char* name;
+    bool haupt, fk, hb;
+};
+constexpr std::array wechseleintraege{
+    Wechseleintrag{"mBackUp", true, true, false},     Wechseleintrag{"mBackUpHB", false, false, true},
+    Wechseleintrag{"mHilfen(1)", true, false, false}, Wechseleintrag{"mHilfeFK", false, true, false},
+    Wechseleintrag{"mHilfeHB", false, false, true},
 };
 
 // A file of the list is opened as if it had been chosen in the file dialog.
@@ -135,16 +172,21 @@ void MenueleisteBauen(QMainWindow& fenster) {
         }
     }
     DateilistenEintraegeVerbinden(fenster);
-    MenueFKZeigen(fenster, false);
+    // The settings can change the option while the menu is closed.
+    auto* sicherung = fenster.findChild<QAction*>(QStringLiteral("mBackUpHB"));
+    QObject::connect(fenster.findChild<QMenu*>(QStringLiteral("mOptionen")), &QMenu::aboutToShow, sicherung,
+                     [sicherung] { sicherung->setChecked(OptionDatei == 1); });
+    FormularmenueZeigen(fenster, "");
 }
 
-void MenueFKZeigen(QMainWindow& fenster, bool zeigen) {
+void FormularmenueZeigen(QMainWindow& fenster, std::string_view tag) {
+    const Fuer vorn = tag == "FKFragen" ? Fuer::FK : tag == "HBFragen" ? Fuer::HB : Fuer::Haupt;
     for (const Menue& zeile : menues) {
         if (zeile.fuer == Fuer::Alle) {
             continue;
         }
         auto* menue = fenster.findChild<QMenu*>(Anzeige(zeile.name));
-        const bool sichtbar = (zeile.fuer == Fuer::FK) == zeigen;
+        const bool sichtbar = zeile.fuer == vorn;
         menue->menuAction()->setVisible(sichtbar);
         // Out of sight, the entries' keys must not answer either.
         menue->setEnabled(sichtbar);
@@ -152,8 +194,10 @@ void MenueFKZeigen(QMainWindow& fenster, bool zeigen) {
             eintrag->setShortcutContext(sichtbar ? Qt::WindowShortcut : Qt::WidgetShortcut);
         }
     }
-    fenster.findChild<QAction*>(QStringLiteral("mHilfen(1)"))->setVisible(!zeigen);
-    fenster.findChild<QAction*>(QStringLiteral("mHilfeFK"))->setVisible(zeigen);
+    for (const Wechseleintrag& zeile : wechseleintraege) {
+        const bool sichtbar = vorn == Fuer::FK ? zeile.fk : vorn == Fuer::HB ? zeile.hb : zeile.haupt;
+        fenster.findChild<QAction*>(QLatin1String(zeile.name))->setVisible(sichtbar);
+    }
 }
 
 void DateilisteAnzeigen() {

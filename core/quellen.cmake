@@ -19,6 +19,7 @@ feldkranz_quellen(fenster
   core/befehle.cpp
   core/flaggen.cpp
   core/formularbefehle.cpp
+  core/testbefehle.cpp
   core/fortschrittsbalken.cpp
   core/frmMDI.cpp core/frmMDI.h
   core/frmStart.cpp core/frmStart.h

@@ -69,6 +69,7 @@ inline constexpr std::string_view hilfeText =
 inline constexpr MeldungsText hilfeTaste{5, hilfeText, "1", "Ich glaube, das ist nicht nötig"};
 inline constexpr MeldungsText hilfeMenue{5, hilfeText, "31", "Ich glaube, das ist nicht nötig"};
 inline constexpr MeldungsText hilfeFK{5, hilfeText, "11", "Ich glaube, das ist nicht nötig"};
+inline constexpr MeldungsText hilfeHB{5, hilfeText, "21", "Ich glaube, das ist nicht nötig"};
 
 // The two makers' notices.
 inline constexpr NachrichtText tarvo{

@@ -37,6 +37,7 @@ void QuizZeigen() {
     DateilisteErgaenzen(DateiName);
     DateilisteAnzeigen();
     DateiAbbruch = 0;
+    HB_Entladen(); // only one form can be open
     QuizModus();
     FK_FormularZeigen(NurDateiname(DateiAlt) + " ");
     FormularpfadMerken("FKFragen");
@@ -46,17 +47,14 @@ void QuizZeigen() {
 void TestZeigen() {
     // Only one form can be open. The one of the other kind was asked about before the file was read.
     FK_Entladen();
-    FormTyp = "Test";
     HB_FormularZeigen(" Test : " + NurDateiname(DateiAlt));
-    if (HBFragenOffen()) {
-        FormularpfadMerken("HBFragen");
-    }
+    FormularpfadMerken("HBFragen");
     FormStatusSetzen(0);
 }
 
 // A tag of no kind opens no form, and a form that is open stays as it is.
 void NichtsZeigen() {
-    FormTyp = FKFragenOffen() != nullptr ? "FK" : HBFragenOffen() ? "Test" : "";
+    FormTyp = FKFragenOffen() != nullptr ? "FK" : HBFragenOffen() != nullptr ? "Test" : "";
     if (FormTyp.empty()) {
         FormStatusSetzen(0);
     }

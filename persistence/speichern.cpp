@@ -21,7 +21,7 @@ constexpr int artIni = 1;
 
 // Tag of the form that is open, "" for none.
 std::string_view OffenesFormular() {
-    return FKFragenOffen() != nullptr ? "FKFragen" : HBFragenOffen() ? "HBFragen" : "";
+    return FKFragenOffen() != nullptr ? "FKFragen" : HBFragenOffen() != nullptr ? "HBFragen" : "";
 }
 
 // The form to be saved comes to the front, so that it is the one whose layout is written, whatever child
@@ -39,6 +39,7 @@ std::string_view FormularVorbereiten() {
 void FormularSchreiben(std::string_view tag) {
     const Wartezeiger warten;
     FK_KopfMerken();
+    HB_KopfMerken();
     DateiSchreiben(DateiName, FormularBytes(tag));
 }
 

@@ -9,6 +9,7 @@
 #include "quizform/frmFKFragen.h"
 #include "quizform/texte.h"
 #include "settings/einstellungen.h"
+#include "testform/hbformular.h"
 
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -79,12 +80,14 @@ void FK_Neu() {
         }
         if (NachrichtAntwort == antwortJa) {
             FK_Merken();
+            HB_Merken(); // does nothing while there is no test form
             if (!Speichern()) {
                 return; // a save that did not come about counts as Abbrechen
             }
         }
     }
     FK_Entladen();
+    HB_Entladen(); // only one form can be open
     FK_ModusSetzen();
     FK_Leeren();
     DateiName.clear();

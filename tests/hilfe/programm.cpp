@@ -15,6 +15,8 @@
 #include "quizform/spezialfelder.h"
 #include "settings/einstellungen.h"
 #include "testform/formdaten.h"
+#include "testform/frmHBFragen.h"
+#include "testform/hbformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/versagen.h"
@@ -105,6 +107,7 @@ Programm::Programm(bool mitEinstellungen) {
 Programm::~Programm() {
     FormGeaendert = 0;
     FK_Entladen();
+    HB_Entladen();
     delete FensterOderNichts(QStringLiteral("frmAuswahl"));
     delete MDIFenster();
     NormalerZeiger();
@@ -126,6 +129,20 @@ frmFKFragen* Programm::NeuesQuizformular() {
     frmFKFragen* form = FKFragenOffen();
     if (form == nullptr || !QTest::qWaitFor([form] { return form->isVisible(); })) {
         VersagenUndEnde(QStringLiteral("The new quiz form never showed"), Stelle::hier());
+    }
+    return form;
+}
+
+frmHBFragen* Programm::NeuesTestformular() {
+    Dialogfolge dialoge;
+    dialoge.frage(QStringLiteral("Neues Test-Formular"),
+                  QStringLiteral("Ich besorge dir ein neues Test-Formular !"), 6);
+    const bool amAnfang = Finden(haupt(), QStringLiteral("picKranz"))->isVisible();
+    Finden<QAbstractButton>(haupt(), amAnfang ? QStringLiteral("cmdNeuHB") : QStringLiteral("cmdDateiHB(1)"))
+        ->click();
+    frmHBFragen* form = HBFragenOffen();
+    if (form == nullptr || !QTest::qWaitFor([form] { return form->isVisible(); })) {
+        VersagenUndEnde(QStringLiteral("The new test form never showed"), Stelle::hier());
     }
     return form;
 }

@@ -6,6 +6,7 @@
 
 class frmMDI;
 class frmFKFragen;
+class frmHBFragen;
 
 // Puts all shared state back to what it is when the program starts.
 void ZustandZuruecksetzen();
@@ -23,6 +24,8 @@ public:
 
     // A new quiz form by the command, its question answered Ja; waits until it is painted.
     frmFKFragen* NeuesQuizformular();
+    // The same for a test form.
+    frmHBFragen* NeuesTestformular();
 
 private:
     Programmordner ordner_;

@@ -8,6 +8,7 @@
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
 #include "settings/einstellungen.h"
+#include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
 #include "vorgaben.h"
 
@@ -23,6 +24,7 @@ void Formlauf::Vorbereiten() {
     }
     FormGeaendert = 0;
     FK_Entladen();
+    HB_Entladen();
     ZustandZuruecksetzen();
     ModusHaupt();
     QDir ordner(programm_->ordner().nativ(QStringLiteral("KRANZ")));
@@ -73,7 +75,9 @@ void Formlauf::Druecken(const QString& name) const {
 void Formlauf::Oeffnen(const QString& name) const {
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), name, QStringLiteral("cmdLaden"));
-    Druecken(FKFragenOffen() != nullptr ? QStringLiteral("cmdDateiFK(2)") : QStringLiteral("cmdLaden"));
+    Druecken(FKFragenOffen() != nullptr   ? QStringLiteral("cmdDateiFK(2)")
+             : HBFragenOffen() != nullptr ? QStringLiteral("cmdDateiHB(2)")
+                                          : QStringLiteral("cmdLaden"));
 }
 
 frmFKFragen* Formlauf::NeuesFormular(const QString& text) const {

@@ -1,0 +1,45 @@
+// The layout of the printed test: the measures of its page and every line, circle and text on it, in mm.
+// Takes plain values and knows neither the window nor the printer.
+#pragma once
+
+#include "printing/zeichnung.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+struct Testdruckzeile {
+    std::string frage, antwort;
+    std::string punkte; // as the row shows them, "" for none
+};
+
+// What the page shows. Rows count from 1; index 0 isn't used. Captions stand as on the form.
+struct Testdruckdaten {
+    std::string titel, fach, gruppenwort, gruppe, name;
+    std::string dateiname; // of the form's file, without its path
+    std::array<Testdruckzeile, 11> zeilen;
+    int gesamtpunkte = 0;
+    bool mitAntworten = false;
+};
+
+// Rows with a question: only they are printed.
+[[nodiscard]] int AnzahlTestfragen(const Testdruckdaten& daten);
+
+// Lengths in mm, relative to the printer's printable origin.
+struct Testgeometrie {
+    float TestRandLinks, TestRandOben; // corner of the frame
+    float TestBreite;                  // of the frame
+    float TestTextBreite;              // longest line of a question or answer
+    float TestNummerSpalte;            // column of the numbers
+    float TestTextEinzug;              // text, behind that column
+    float TestFragenOben;              // top of the first question
+    float TestFuss;                    // bottom of the frame
+    float TestZeile, TestRaster;       // height and pitch of the questions
+};
+
+// anzahl: questions on the page, 0 counts as 1; links, oben: the printer's physical offsets in whole mm.
+[[nodiscard]] Testgeometrie TestGeometrieRechnen(int anzahl, std::int32_t links, std::int32_t oben);
+
+// The whole page in drawing order.
+[[nodiscard]] Zeichnung TestZeichnen(const Testdruckdaten& daten, const Testgeometrie& g,
+                                     const Schriftmass& mass);

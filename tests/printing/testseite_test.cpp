@@ -1,0 +1,159 @@
+// The layout of the printed test: its measures and what stands on the page, with a measure of text that can
+// be reckoned in the head.
+#include "printing/testseite.h"
+#include "tests/printing/probemass.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+Testdruckdaten Blatt(int anzahl) {
+    Testdruckdaten daten;
+    daten.titel = " TEST  HFZ";
+    daten.fach = " Knoten";
+    daten.gruppenwort = " Gruppe :";
+    daten.gruppe = " II";
+    daten.name = " Name :";
+    daten.dateiname = "A.FKR";
+    daten.gesamtpunkte = 5 * anzahl;
+    for (int n = 1; n <= anzahl; ++n) {
+        daten.zeilen[static_cast<std::size_t>(n)] = {"Frage" + std::to_string(n),
+                                                     "Antwort" + std::to_string(n), "5"};
+    }
+    return daten;
+}
+
+Zeichnung Zeichnen(const Testdruckdaten& daten) {
+    return TestZeichnen(daten, TestGeometrieRechnen(AnzahlTestfragen(daten), 0, 0), Probemass());
+}
+
+// The text's places on the page.
+std::vector<Textstelle> Stellen(const Zeichnung& zeichnung, const std::string& text) {
+    std::vector<Textstelle> gefunden;
+    for (const Textstelle& stelle : Alle<Textstelle>(zeichnung)) {
+        if (stelle.text == text) {
+            gefunden.push_back(stelle);
+        }
+    }
+    return gefunden;
+}
+
+} // namespace
+
+TEST(Testseite, MeasuresOfThePageAndTheOffsetsOfThePrinter) {
+    const Testgeometrie g = TestGeometrieRechnen(3, 4, 6);
+    EXPECT_EQ(g.TestRandLinks, 11.0F);
+    EXPECT_EQ(g.TestRandOben, 4.0F);
+    EXPECT_EQ(g.TestBreite, 185.0F);
+    EXPECT_EQ(g.TestTextBreite, 166.0F);
+    EXPECT_EQ(g.TestNummerSpalte, 8.0F);
+    EXPECT_EQ(g.TestTextEinzug, 3.0F);
+    EXPECT_EQ(g.TestFragenOben, 40.0F);
+    EXPECT_EQ(g.TestFuss, 281.0F);
+    EXPECT_EQ(g.TestZeile, (265.0F - 40.0F) / 3.0F - 3.0F); // the 265 don't shift with the printer
+    EXPECT_EQ(g.TestRaster, g.TestZeile + 3.0F);
+}
+
+TEST(Testseite, ThreeQuestionsShareThePageInThirds) {
+    EXPECT_EQ(TestGeometrieRechnen(3, 0, 0).TestRaster, 73.0F);
+    EXPECT_EQ(TestGeometrieRechnen(1, 0, 0).TestRaster, 219.0F);
+    EXPECT_FLOAT_EQ(TestGeometrieRechnen(10, 0, 0).TestRaster, 21.9F);
+}
+
+TEST(Testseite, AnEmptyTestIsLaidOutForOneQuestion) {
+    EXPECT_EQ(TestGeometrieRechnen(0, 0, 0).TestRaster, 219.0F);
+    const Zeichnung zeichnung = Zeichnen(Blatt(0));
+    EXPECT_EQ(Stellen(zeichnung, "1.").size(), 1U);
+    EXPECT_TRUE(Stellen(zeichnung, "2.").empty());
+    EXPECT_TRUE(Alle<Kreis>(zeichnung).empty());
+    EXPECT_EQ(Stellen(zeichnung, "/ 0").size(), 1U);
+}
+
+TEST(Testseite, TheHeadStandsInItsFourBoxes) {
+    struct Soll {
+        const char* text;
+        float x, y, groesse;
+        Schriftart art;
+    };
+    const Zeichnung zeichnung = Zeichnen(Blatt(2));
+    for (const Soll& soll :
+         {Soll{" TEST  HFZ", 15, 10, 20, Schriftart::ArialBlack},
+          Soll{"  A.FKR", 155, 13, 12, Schriftart::Arial},
+          Soll{" Knoten", 15, 20, 20, Schriftart::ArialBlack},
+          Soll{"   Gruppe :", 155, 23, 12, Schriftart::Arial},
+          Soll{" II", 177, 20, 20, Schriftart::ArialBlack}, Soll{" Name :", 15, 33, 12, Schriftart::Arial}}) {
+        const auto stellen = Stellen(zeichnung, soll.text);
+        ASSERT_EQ(stellen.size(), 1U) << soll.text;
+        EXPECT_EQ(stellen[0].x, soll.x) << soll.text;
+        EXPECT_EQ(stellen[0].y, soll.y) << soll.text;
+        EXPECT_EQ(stellen[0].schrift, (Schrift{soll.art, soll.groesse, soll.art == Schriftart::ArialBlack}))
+            << soll.text;
+    }
+}
+
+TEST(Testseite, NumbersEndTwoMillimetresBeforeTheirColumn) {
+    const Zeichnung zeichnung = Zeichnen(Blatt(10));
+    const auto eins = Stellen(zeichnung, "1.").at(0);
+    EXPECT_FLOAT_EQ(eins.x, 15.0F + 8.0F - 2.0F - 2.0F); // two letters of 1 mm
+    EXPECT_FLOAT_EQ(eins.y, 46.0F);
+    const auto zehn = Stellen(zeichnung, "10.").at(0);
+    EXPECT_FLOAT_EQ(zehn.x, 15.0F + 8.0F - 2.0F - 3.0F);
+    EXPECT_FLOAT_EQ(zehn.y, 46.0F + 9.0F * 21.9F);
+}
+
+TEST(Testseite, ACircleStandsAroundThePoints) {
+    const Zeichnung zeichnung = Zeichnen(Blatt(2));
+    const auto punkte = Stellen(zeichnung, "5");
+    ASSERT_EQ(punkte.size(), 2U);
+    EXPECT_FLOAT_EQ(punkte[1].x, 200.0F - 3.0F - 0.5F);
+    EXPECT_FLOAT_EQ(punkte[1].y, 46.0F + 109.5F + 10.0F);
+    const auto kreise = Alle<Kreis>(zeichnung);
+    ASSERT_EQ(kreise.size(), 2U);
+    EXPECT_FLOAT_EQ(kreise[1].x, 200.0F - 3.2F);
+    EXPECT_FLOAT_EQ(kreise[1].y, 46.0F + 109.5F + 10.0F + 2.5F);
+    EXPECT_FLOAT_EQ(kreise[1].radius, 2.5F);
+}
+
+TEST(Testseite, ARowWithoutPointsHasNoCircle) {
+    Testdruckdaten daten = Blatt(3);
+    daten.zeilen[2].punkte.clear();
+    EXPECT_EQ(Alle<Kreis>(Zeichnen(daten)).size(), 2U);
+}
+
+TEST(Testseite, ARowWithoutAQuestionIsNotPrintedAtAll) {
+    Testdruckdaten daten = Blatt(3);
+    daten.zeilen[2] = {"", "verwaist", "17"};
+    daten.mitAntworten = true;
+    EXPECT_EQ(AnzahlTestfragen(daten), 2);
+    const Zeichnung zeichnung = Zeichnen(daten);
+    EXPECT_TRUE(Stellen(zeichnung, "17").empty());
+    EXPECT_TRUE(Stellen(zeichnung, "verwaist").empty());
+    EXPECT_TRUE(Stellen(zeichnung, "3.").empty()); // the numbers follow the questions
+    EXPECT_FLOAT_EQ(Stellen(zeichnung, "Frage3").at(0).y, 46.0F + 109.5F);
+}
+
+TEST(Testseite, AnswersStandHalfARowBelowTheirQuestion) {
+    Testdruckdaten daten = Blatt(3);
+    EXPECT_TRUE(Stellen(Zeichnen(daten), "Antwort1").empty());
+    daten.mitAntworten = true;
+    const auto antwort = Stellen(Zeichnen(daten), "Antwort2").at(0);
+    EXPECT_FLOAT_EQ(antwort.x, 15.0F + 8.0F + 3.0F);
+    EXPECT_FLOAT_EQ(antwort.y, 46.0F + 73.0F + 35.0F);
+}
+
+TEST(Testseite, ALongQuestionBreaksAtTheTextWidth) {
+    Testdruckdaten daten = Blatt(1);
+    daten.zeilen[1].frage = std::string(100, 'a') + " " + std::string(60, 'b') + " " + std::string(9, 'c');
+    const Zeichnung zeichnung = Zeichnen(daten); // a letter is 1 mm wide, a line 5 mm high
+    const auto zweite =
+        Stellen(zeichnung, std::string(100, 'a') + " " + std::string(60, 'b') + " " + std::string(9, 'c'));
+    ASSERT_EQ(zweite.size(), 1U); // the last word is never measured
+    daten.zeilen[1].frage += " d";
+    const auto zeilen = Zeichnen(daten);
+    const auto erste = Stellen(zeilen, std::string(100, 'a') + " " + std::string(60, 'b'));
+    ASSERT_EQ(erste.size(), 1U);
+    EXPECT_FLOAT_EQ(erste[0].y, 46.0F);
+    EXPECT_FLOAT_EQ(Stellen(zeilen, std::string(9, 'c') + " d").at(0).y, 51.0F);
+}

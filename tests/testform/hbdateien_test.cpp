@@ -1,0 +1,231 @@
+// Saving and opening test forms, and how the two kinds of form refuse each other's files.
+#include "core/hauptfenster.h"
+#include "formlauf.h"
+#include "persistence/formulardatei.h"
+#include "persistence/oeffnen.h"
+#include "quizform/fkformular.h"
+#include "settings/einstellungen.h"
+#include "tests/testform/testhilfe.h"
+
+#include <QMdiSubWindow>
+
+namespace {
+
+const QByteArray& Knoten() {
+    static const QByteArray bytes = Formlauf::Test("Knoten");
+    return bytes;
+}
+
+void Laden(const Formlauf& lauf, const std::string& name) {
+    DateiName = lauf.Pfad(name);
+    FormularLaden();
+}
+
+} // namespace
+
+class HbDateienTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { lauf.Vorbereiten(); }
+    void cleanupTestCase() { lauf.Beenden(); }
+
+    void aTestFileFillsTheFormAndIsUnchanged();
+    void aTestFileReplacesTheOpenTestForm();
+    void aQuizFileWhileATestFormIsOpenChangesNothing();
+    void aSavedTestFormIsByteForByteTheOneThatWasOpened();
+    void whatStandsOnTheFormStandsInTheFile();
+    void aFormWithoutANameAsksForOneOnlyOnce();
+    void theSavedFormKeepsABackupOfItsLastVersion();
+    void jaOnTheClosingButtonSavesAndLeavesTheFormOpen();
+    void aCancelledSaveKeepsTheFormThatWasToBeReplaced();
+    void aFileWithHugePointsIsShownAndItsTotalNeverWraps();
+    void saveKeysOfTheMenuSaveTheTestForm();
+
+private:
+    Formlauf lauf;
+};
+
+void HbDateienTest::aTestFileFillsTheFormAndIsUnchanged() {
+    lauf.Schreiben(QStringLiteral("test.fkr"), Knoten());
+    lauf.Oeffnen(QStringLiteral("test.fkr"));
+    const frmHBFragen* form = HBFragenOffen();
+    QVERIFY(form != nullptr);
+    QCOMPARE(form->windowTitle(), QStringLiteral(" Test : TEST.FKR"));
+    QCOMPARE(form->titel.panel->caption(), QStringLiteral(" TEST  HFZ"));
+    QCOMPARE(form->fach.panel->caption(), QStringLiteral(" Knoten"));
+    QCOMPARE(form->lblGruppe->text(), QStringLiteral(" II"));
+    QCOMPARE(HB_Frage(1), std::string("Knoten"));
+    QCOMPARE(HB_Frage(10), std::string("Aufgabe 10"));
+    QCOMPARE(HB_Antwort(10), std::string("Lösung, 10"));
+    QCOMPARE(form->pnlPunkte.at(7)->caption(), QStringLiteral("7"));
+    QCOMPARE(Grund(form->txtFrage.at(10)), QColor(Qt::white));
+    QCOMPARE(form->pnlPunktkontrolle->caption(), QStringLiteral(" Gesamtpunkte : 55"));
+    QCOMPARE(form->pnlGesamtpunkte->caption(), QStringLiteral(" Punkte :           / 55"));
+    QCOMPARE(Summenfeld(lauf.programm()), QStringLiteral("55"));
+    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(HBDateiName, lauf.Pfad("test.fkr"));
+    QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picHB"))->isVisible());
+    QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
+}
+
+void HbDateienTest::aTestFileReplacesTheOpenTestForm() {
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Test("Eins"));
+    lauf.Schreiben(QStringLiteral("B.FKR"), Formlauf::Test("Zwei"));
+    lauf.Oeffnen(QStringLiteral("A.FKR"));
+    const frmHBFragen* form = HBFragenOffen();
+    lauf.Oeffnen(QStringLiteral("B.FKR"));
+    QCOMPARE(HBFragenOffen(), form);
+    QCOMPARE(HB_Frage(1), std::string("Zwei"));
+    QCOMPARE(HBDateiName, lauf.Pfad("B.FKR"));
+    QCOMPARE(Datei1, std::string());
+}
+
+void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Schreiben(QStringLiteral("Q.FKR"), Formlauf::Quiz("Eins"));
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    FormStatusSetzen(1);
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("Ich kann jetzt kein Feldkranzformular laden.\nDu mußt erst das Testformular "
+                       "schließen."),
+        QStringLiteral("Das ist kein Problem, das mache ich doch sofort !"));
+    Laden(lauf, "Q.FKR");
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(HB_Frage(1), std::string("Knoten"));
+    QVERIFY(FKFragenOffen() == nullptr);
+    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QCOMPARE(HBDateiName, lauf.Pfad("T.FKR"));
+}
+
+void HbDateienTest::aSavedTestFormIsByteForByteTheOneThatWasOpened() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("T.FKR")), Knoten());
+}
+
+void HbDateienTest::whatStandsOnTheFormStandsInTheFile() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    frmHBFragen* form = HBFragenOffen();
+    KopfWaehlen(form->titel, QStringLiteral("Späherprüfung"), true);
+    KopfWaehlen(form->fach, QStringLiteral("Andacht"), true);
+    KopfWaehlen(form->gruppe, QStringLiteral("III"), true);
+    form->txtFrage.at(2)->setText("Was nun?");
+    form->txtAntwort.at(2)->setText("Tee\r\nund Kekse");
+    Drehen(form, 10, "hoch", 2);
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, std::int16_t(0));
+    HB_Entladen();
+    Laden(lauf, "T.FKR");
+    form = HBFragenOffen();
+    QVERIFY(form != nullptr);
+    QCOMPARE(form->titel.panel->caption(), QStringLiteral(" Späherprüfung"));
+    QCOMPARE(form->fach.panel->caption(), QStringLiteral(" Andacht"));
+    QCOMPARE(form->lblGruppe->text(), QStringLiteral(" III"));
+    QCOMPARE(HB_Frage(2), std::string("Was nun?"));
+    QCOMPARE(HB_Antwort(2), std::string("Tee\r\nund Kekse"));
+    QCOMPARE(form->pnlPunkte.at(10)->caption(), QStringLiteral("12"));
+    QCOMPARE(Summenfeld(lauf.programm()), QStringLiteral("57"));
+}
+
+void HbDateienTest::aFormWithoutANameAsksForOneOnlyOnce() {
+    frmHBFragen* form = lauf.programm().NeuesTestformular();
+    form->txtFrage.at(1)->setText("neu");
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, QStringLiteral("Speichern unter ..."), QStringLiteral("neutest"),
+                        QStringLiteral("cmdSpeichern"));
+    GespeichertErwarten(dialoge, QStringLiteral("neutest.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(form->windowTitle(), QStringLiteral("neutest.FKR "));
+    GespeichertErwarten(dialoge, QStringLiteral("neutest.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+}
+
+void HbDateienTest::theSavedFormKeepsABackupOfItsLastVersion() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    OptionDatei = 1;
+    HBFragenOffen()->txtFrage.at(1)->setText("anders");
+    Dialogfolge dialoge;
+    dialoge.meldung(QStringLiteral("BackUp angelegt :   [ T.BAK ]"), QStringLiteral("Schön"));
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("T.BAK")), Knoten());
+    QVERIFY(lauf.Lesen(QStringLiteral("T.FKR")).contains("anders"));
+}
+
+void HbDateienTest::jaOnTheClosingButtonSavesAndLeavesTheFormOpen() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    HBFragenOffen()->txtFrage.at(1)->setText("anders");
+    Dialogfolge dialoge;
+    dialoge.frage(schliessenTitel,
+                  QStringLiteral("Das Formular wurde möglicherweise verändert\n"
+                                 "Soll ich das Formular vorher speichern ?"),
+                  6);
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdHBSchliessen"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(HBFragenOffen() != nullptr);
+    QVERIFY(lauf.Lesen(QStringLiteral("T.FKR")).contains("anders"));
+}
+
+void HbDateienTest::aCancelledSaveKeepsTheFormThatWasToBeReplaced() {
+    frmHBFragen* form = lauf.programm().NeuesTestformular();
+    form->txtFrage.at(1)->setText("bleibt");
+    Dialogfolge dialoge;
+    dialoge.frage(neuTitel, neuFrage, 6);
+    dialoge.frage(neuTitel, neuSpeichernFrage, 6);
+    DateidialogErwarten(dialoge, QStringLiteral("Speichern unter ..."), QString(),
+                        QStringLiteral("cmdAbbrechen"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(1)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(HBFragenOffen(), form);
+    QCOMPARE(HB_Frage(1), std::string("bleibt"));
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+}
+
+void HbDateienTest::aFileWithHugePointsIsShownAndItsTotalNeverWraps() {
+    Formlauf::Test("Riesig"); // leaves the data empty
+    HBFrageText[1] = "Riesig";
+    HBPunkte[1] = 32767;
+    HBPunkte[2] = 5;
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("HBFragen"));
+    lauf.Schreiben(QStringLiteral("R.FKR"), bytes);
+    Laden(lauf, "R.FKR");
+    frmHBFragen* form = HBFragenOffen();
+    QVERIFY(form != nullptr);
+    Drehen(form, 2, "hoch");
+    QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("6"));
+    QCOMPARE(Summenfeld(lauf.programm()), QStringLiteral("32767")); // a row that overflows is left out
+    Drehen(form, 1, "hoch");
+    QCOMPARE(form->pnlPunkte.at(1)->caption(), QStringLiteral("32767")); // beyond reach, and unharmed
+}
+
+void HbDateienTest::saveKeysOfTheMenuSaveTheTestForm() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    HBFragenOffen()->txtFrage.at(1)->setFocus();
+    QTRY_VERIFY(HBFragenOffen()->txtFrage.at(1)->hasFocus());
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    QTest::keyClick(HBFragenOffen()->txtFrage.at(1), Qt::Key_S, Qt::ControlModifier);
+    QTRY_VERIFY(dialoge.fertig());
+}
+
+QTEST_MAIN(HbDateienTest)
+#include "hbdateien_test.moc"
