@@ -3,6 +3,7 @@
 #include "core/cp1252.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "persistence/wertgrammatik.h"
 
 #include <QFocusEvent>
 #include <QTextBlock>
@@ -41,6 +42,12 @@ void ZeichenMelden(const QString& zeichen) {
     HilfeText((QStringLiteral(" Das Zeichen  ") + zeichen +
                QStringLiteral("  kann ich nicht speichern, es musste draußen bleiben."))
                   .toStdString());
+}
+
+// Bytes in a file that are more than a form file's reader takes for one text.
+int Ueberlaenge(const QTextDocument& text) {
+    const int zeilenenden = text.blockCount() - 1; // CR LF there, one character here
+    return text.characterCount() - 1 + zeilenenden - static_cast<int>(laengsterText);
 }
 
 class Zeichenpruefer : public QValidator {
@@ -129,10 +136,12 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     cursor.setPosition(stelle);
     cursor.setPosition(ende, QTextCursor::KeepAnchor);
     QString draussen;
-    const QString erlaubt = Erlaubt(cursor.selectedText(), draussen);
-    if (draussen.isEmpty()) {
+    QString erlaubt = Erlaubt(cursor.selectedText(), draussen);
+    const int zuviel = Ueberlaenge(*document());
+    if (draussen.isEmpty() && zuviel <= 0) {
         return;
     }
+    erlaubt.chop(std::max(zuviel, 0));
     // The document is in the middle of the change; the mending joins it as soon as it is over.
     QMetaObject::invokeMethod(
         this,
@@ -142,7 +151,11 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
             cursor.endEditBlock();
         },
         Qt::QueuedConnection);
-    ZeichenMelden(draussen);
+    if (zuviel > 0) {
+        HilfeText(" Der Text ist mir zu lang, sein Ende musste draußen bleiben.");
+    } else {
+        ZeichenMelden(draussen);
+    }
 }
 
 Textzeile::Textzeile(QWidget* eltern, const QString& name) : QLineEdit(eltern) {

@@ -1,13 +1,16 @@
 // Broken form files in the running program: each is answered as it deserves, no file changes, and the program
 // makes the next new form.
+#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/pfad.h"
 #include "core/zustand.h"
 #include "formlauf.h"
 #include "persistence/oeffnen.h"
 #include "quizform/fkformular.h"
+#include "quizform/formdaten.h"
 #include "tests/hilfe/finden.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QMetaType>
@@ -95,6 +98,7 @@ private Q_SLOTS:
     void whatIsNoRegularFileIsABadName();
     void aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWants();
     void aRefusedFileLeavesTheOpenFormAlone();
+    void aTextThatTheReaderWouldRefuseIsCutWhenItIsPasted();
 
 private:
     void NeuesFormularGeht() const;
@@ -251,6 +255,34 @@ void FormularzooFensterTest::aRefusedFileLeavesTheOpenFormAlone() {
     lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("GROSS.FKR")) == gross);
+}
+
+void FormularzooFensterTest::aTextThatTheReaderWouldRefuseIsCutWhenItIsPasted() {
+    frmFKFragen* form = lauf.NeuesFormular(QString());
+    QGuiApplication::clipboard()->setText(QStringLiteral("Wort\n").repeated(12'000));
+    form->txtFrage.at(1)->paste();
+    const std::string erwartet = [] {
+        std::string text;
+        while (text.size() < 65536) {
+            text += "Wort\r\n";
+        }
+        return text;
+    }();
+    QTRY_VERIFY(form->txtFrage.at(1)->text().size() <= 65536U);
+    const std::string text = form->txtFrage.at(1)->text();
+    QVERIFY(text.size() > 50'000 && erwartet.starts_with(text));
+    QCOMPARE(Finden(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->property("caption").toString(),
+             QStringLiteral(" Der Text ist mir zu lang, sein Ende musste draußen bleiben. "));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, QStringLiteral("Speichern unter ..."), QStringLiteral("LANG.FKR"),
+                        QStringLiteral("cmdSpeichern"));
+    GespeichertErwarten(dialoge, QStringLiteral("LANG.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
+    DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), QStringLiteral("LANG.FKR"),
+                        QStringLiteral("cmdLaden"));
+    lauf.Druecken(QStringLiteral("cmdDateiFK(2)"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(FrageText[1] == text);
 }
 
 QTEST_MAIN(FormularzooFensterTest)
