@@ -316,8 +316,8 @@ void AuswahlTest::aQuestionOfThisDialogOnTheTrashChangesNothingAndShowsTheMessag
 }
 
 void AuswahlTest::theTrashAsksBeforeItThrowsAQuestionOfAFormAway() {
-    for (const auto& [herkunft, typ] : {std::pair{"FKFragen", "FK"}, std::pair{"HBFragen", "Test"},
-                                        std::pair{"FKFragen", ""}}) {
+    for (const auto& [herkunft, typ] :
+         {std::pair{"FKFragen", "FK"}, std::pair{"HBFragen", "Test"}, std::pair{"FKFragen", ""}}) {
         FormGeaendert = 0;
         FormTyp = typ;
         Dialogfolge dialoge;
