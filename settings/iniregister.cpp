@@ -100,8 +100,8 @@ void frmIni::ToolbarBauen() {
             gitter->addWidget(taste, platz.zeile, platz.spalte);
         }
     };
-    fuellen(register_, registertasten, 124);
-    fuellen(dialog, dialogtasten, 100);
+    fuellen(register_, registertasten, 108);
+    fuellen(dialog, dialogtasten, 90);
     reihe->addLayout(zaehler);
     reihe->addSpacing(gruppenabstand);
     reihe->addStretch();
