@@ -51,6 +51,11 @@ void KopfLesen(WertLeser& leser, FormularErgebnis& ergebnis) {
 
 } // namespace
 
+bool IstFormular(std::string_view bytes) {
+    WertLeser leser(bytes);
+    return !leser.AmEnde() && leser.Token() == kennungFormular;
+}
+
 std::string FormularBytes(std::string_view tag) {
     WertSchreiber schreiber;
     schreiber.Text(kennungFormular);

@@ -50,6 +50,9 @@ struct FormularErgebnis {
     [[nodiscard]] bool begonnen() const { return !kennung.empty() && code != 1 && code != 2; }
 };
 
+// True when the bytes begin with the type word of a form.
+[[nodiscard]] bool IstFormular(std::string_view bytes);
+
 // Reads a form file into the shared variables, FormTyp among them, and repairs what no form can do without.
 // An error that a damaged value causes goes to melder, and the statement is tried again on the next token; an
 // empty melder passes over it. A refused file changes nothing at all.

@@ -50,13 +50,27 @@ Danach OeffnenGescheitert(const Laufzeitfehler& fehler) {
     }
 }
 
+// The bytes of DateiName. A form beyond the size is error 7; of another file its beginning is enough to tell
+// that it is no form.
+std::string FormularDatei() {
+    std::string bytes = DateiLesen(DateiName);
+    if (bytes.size() <= groesstesFormular) {
+        return bytes;
+    }
+    constexpr std::size_t anfang = 64;
+    if (IstFormular(std::string_view(bytes).substr(0, anfang))) {
+        throw Laufzeitfehler(Fehler::SpeicherVoll);
+    }
+    return bytes.substr(0, anfang);
+}
+
 // The bytes of DateiName, or nothing after the user was told why not.
 std::optional<std::string> Bytes() {
     Danach danach = Danach::NochEinmal;
     while (danach == Danach::NochEinmal) {
         try {
             const Wartezeiger warten;
-            return DateiLesen(DateiName, groesstesFormular);
+            return FormularDatei();
         } catch (const Laufzeitfehler& fehler) {
             danach = OeffnenGescheitert(fehler);
         }

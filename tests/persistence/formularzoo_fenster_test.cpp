@@ -150,6 +150,7 @@ void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade_data()
     zeile("letters of no kind", buchstaben.replace("\"Herbst 5\"\r\n", "\"Herbst 5\"\r\n\"\"\r\n\"XYZ\"\r\n"),
           still);
     zeile("a hundred megabytes of one text", Kopf("[FRAGEN]\r\n\"") + QByteArray(100'000'000, 'x'), zuGross);
+    zeile("a hundred megabytes that are no form", QByteArray(100'000'000, 'x'), keins);
     zeile("a hundred megabytes of line ends", Kopf(QByteArray(100'000'000, '\n')), zuGross);
     zeile("four megabytes of one text",
           Kopf("[FRAGEN]\r\n\"W\"\r\n\"" + QByteArray(4'000'000, 'x') + "\"\r\n"), {Folge::ZuKurz, 6, 7, 5});
