@@ -8,6 +8,7 @@
 #include "persistence/einstellungenladen.h"
 #include "persistence/speichern.h"
 #include "quizform/fkformular.h"
+#include "testform/hbformular.h"
 
 #include <QCoreApplication>
 
@@ -67,6 +68,7 @@ void ProgrammEnde() {
     // The open form goes without its closing question: the first one has taken its place.
     FormGeaendert = 0;
     FK_Entladen();
+    HB_Entladen();
     if (frmMDI* haupt = MDIFenster(); haupt != nullptr) {
         haupt->hide();
         haupt->deleteLater(); // not at once: the command comes from one of its own buttons or menus

@@ -112,7 +112,7 @@ void frmHBFragen::ZeileBauen(int n) {
     txtAntwort.at(i)->setAccessibleName(QStringLiteral("Antwort") + zeile);
     for (Textfeld* feld : {txtFrage.at(i), txtAntwort.at(i)}) {
         feld->setGrund(QColor());
-        feld->document()->setDocumentMargin(1);
+        feld->document()->setDocumentMargin(2);
     }
     pnlPunkte.at(i) = new Panel(this, Name("pnlPunkte", n));
     pnlPunkte.at(i)->setFrameShadow(QFrame::Sunken);

@@ -2,11 +2,13 @@
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 #include "settings/einstellungen.h"
+#include "tests/hilfe/bild.h"
 #include "tests/testform/testhilfe.h"
 
 #include <QAction>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 
 class FrmHBFragenTest : public QObject {
     Q_OBJECT
@@ -543,7 +545,7 @@ void FrmHBFragenTest::theWindowFitsTheScreen() {
     QFETCH(QSize, schirm);
     Programm programm;
     BildschirmgroesseVorgeben(schirm);
-    const frmHBFragen* form = programm.NeuesTestformular();
+    frmHBFragen* form = programm.NeuesTestformular();
     QVERIFY2(form->width() <= schirm.width() - 20, qPrintable(QString::number(form->width())));
     QVERIFY2(form->height() <= schirm.height() - 135, qPrintable(QString::number(form->height())));
     for (const QWidget* teil : form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -553,6 +555,12 @@ void FrmHBFragenTest::theWindowFitsTheScreen() {
         QVERIFY2(panel->fontMetrics().horizontalAdvance(panel->caption()) <= panel->width() - 4,
                  qPrintable(panel->objectName()));
     }
+    for (int n = 1; n <= 4; ++n) {
+        Fuellen(form, n, "Wie heißt der Knoten, mit dem man zwei gleich starke Taue verbindet?",
+                "Kreuzknoten");
+        Drehen(form, n, "hoch", n);
+    }
+    BildVon(programm.haupt(), QStringLiteral("testformular-%1").arg(schirm.width()));
 }
 
 void FrmHBFragenTest::tabFollowsTheEye() {
