@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr QSize groesse(20, 28);
 constexpr int fokusrand = 1; // pixels around the buttons, for the mark of the focus
 
 QToolButton* TasteBauen(QWidget* eltern, const char* name, Qt::ArrowType pfeil, const QString& ansage) {
@@ -30,11 +31,11 @@ Drehfeld::Drehfeld(QWidget* eltern, const QString& name, const QString& was)
     setFocusPolicy(Qt::StrongFocus);
     connect(hoch_, &QToolButton::clicked, this, &Drehfeld::hoch);
     connect(runter_, &QToolButton::clicked, this, &Drehfeld::runter);
-    resize(sizeHint());
+    resize(groesse);
 }
 
 QSize Drehfeld::sizeHint() const {
-    return {20, 28};
+    return groesse;
 }
 
 void Drehfeld::resizeEvent(QResizeEvent* ereignis) {

@@ -1,14 +1,7 @@
-// The window of the test form: making a new one, the head, typing, points and totals, closing, its menu.
-#include "quizform/fkformular.h"
-#include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+// The window of the test form: what a new one holds, the head, typing, points and totals, its layout.
+#include "quizform/formdaten.h"
 #include "tests/hilfe/bild.h"
 #include "tests/testform/testhilfe.h"
-
-#include <QAction>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
 
 class FrmHBFragenTest : public QObject {
     Q_OBJECT
@@ -16,13 +9,6 @@ class FrmHBFragenTest : public QObject {
 private Q_SLOTS:
     void aNewFormStartsEmpty();
     void everyControlOfTheFormIsThere();
-    void refusingTheNewFormChangesNothing();
-    void theMainMenusEntryPutsTheFormerModeBackWhenRefused();
-    void theMainMenusEntryMakesANewForm();
-    void aNewFormAsksAboutUnsavedChanges();
-    void aNewTestFormTakesThePlaceOfAQuizForm();
-    void aNewQuizFormTakesThePlaceOfATestForm();
-    void aTestFormSwapsTheToolbarAndEnablesItsCommands();
     void theListsOfTheHeadHaveTheirEntries();
     void choosingAGroupShowsItBehindOneBlank();
     void choosingTitleAndSubject();
@@ -35,15 +21,6 @@ private Q_SLOTS:
     void afterBlankingAllPointsOneStepMakesATotalOf1();
     void tenRowsAt20Make200InAllThreePlaces();
     void theArrowKeysStepAsWell();
-    void closingAChangedFormAsksAndAbbrechenKeepsIt();
-    void closingAnUnchangedFormAsksNothing();
-    void theClosingButtonSpeaksOfTheQuizForm();
-    void neinOnTheClosingButtonClosesWithoutSaving();
-    void theBackButtonClosesAndReturnsToTheMainToolbar();
-    void theBackButtonWithAnotherWindowInFrontOnlySwapsTheToolbar();
-    void theFormBringsItsOwnMenus();
-    void theBackupSwitchOfTheMenuIsTheOption();
-    void theHelpEntryHasItsOwnNumber();
     void theWindowFitsTheScreen_data();
     void theWindowFitsTheScreen();
     void tabFollowsTheEye();
@@ -100,113 +77,6 @@ void FrmHBFragenTest::everyControlOfTheFormIsThere() {
     QCOMPARE(form->pnlName->caption(), QStringLiteral(" Name :"));
     QCOMPARE(form->pnlBewertet->caption(), QStringLiteral(" Bewertet :"));
     QCOMPARE(form->pnlNote->caption(), QStringLiteral(" Note :"));
-}
-
-void FrmHBFragenTest::refusingTheNewFormChangesNothing() {
-    Programm programm;
-    for (const QString& taste : {QStringLiteral("cmdAntwort(2)"), durchRahmen}) {
-        Dialogfolge dialoge;
-        dialoge.erwarte({QStringLiteral("frmNachricht"), neuTitel + QLatin1Char(' '), neuFrage, {taste}});
-        Druecken(programm, QStringLiteral("cmdNeuHB"));
-        QVERIFY(dialoge.fertig());
-        QVERIFY(HBFragenOffen() == nullptr);
-        QCOMPARE(FormTyp, std::string());
-        QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
-    }
-}
-
-void FrmHBFragenTest::theMainMenusEntryPutsTheFormerModeBackWhenRefused() {
-    Programm programm;
-    auto* eintrag = Finden<QAction>(programm.haupt(), QStringLiteral("mDatei(2)"));
-    {
-        Dialogfolge dialoge;
-        dialoge.frage(neuTitel, neuFrage, 2);
-        eintrag->trigger();
-    }
-    QCOMPARE(FormTyp, std::string());
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("cmdEnde"))->isVisible());
-    const frmFKFragen* quiz = programm.NeuesQuizformular();
-    Dialogfolge dialoge;
-    dialoge.frage(neuTitel, neuFrage, 2);
-    eintrag->trigger();
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FKFragenOffen(), quiz);
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picFK"))->isVisible());
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("pnlFKFelder"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
-}
-
-void FrmHBFragenTest::theMainMenusEntryMakesANewForm() {
-    Programm programm;
-    Dialogfolge dialoge;
-    dialoge.frage(neuTitel, neuFrage, 6);
-    Finden<QAction>(programm.haupt(), QStringLiteral("mDatei(2)"))->trigger();
-    QVERIFY(HBFragenOffen() != nullptr);
-    QCOMPARE(FormTyp, std::string("Test"));
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
-}
-
-void FrmHBFragenTest::aNewFormAsksAboutUnsavedChanges() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    form->txtFrage.at(1)->setText("geändert");
-    Dialogfolge dialoge;
-    dialoge.frage(neuTitel, neuFrage, 6);
-    dialoge.frage(neuTitel, neuSpeichernFrage, 2);
-    Druecken(programm, QStringLiteral("cmdDateiHB(1)"));
-    QCOMPARE(HBFragenOffen(), form);
-    QCOMPARE(HB_Frage(1), std::string("geändert"));
-    dialoge.frage(neuTitel, neuFrage, 6);
-    dialoge.frage(neuTitel, neuSpeichernFrage, 7);
-    Druecken(programm, QStringLiteral("cmdDateiHB(1)")); // discarded without a second question
-    QVERIFY(dialoge.fertig());
-    QCOMPARE(HB_Frage(1), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-}
-
-void FrmHBFragenTest::aNewTestFormTakesThePlaceOfAQuizForm() {
-    Programm programm;
-    programm.NeuesQuizformular();
-    ModusHaupt(); // as the back button leaves it while another window is in front
-    programm.NeuesTestformular();
-    QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string("Test"));
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdFKFLaden"))->isEnabled());
-    QCOMPARE(Finden<QMdiArea>(programm.haupt(), QStringLiteral("kindflaeche"))->subWindowList().size(), 1);
-}
-
-void FrmHBFragenTest::aNewQuizFormTakesThePlaceOfATestForm() {
-    Programm programm;
-    programm.NeuesTestformular();
-    ModusHaupt();
-    programm.NeuesQuizformular();
-    QVERIFY(HBFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string("FK"));
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdHBFLaden"))->isEnabled());
-}
-
-void FrmHBFragenTest::aTestFormSwapsTheToolbarAndEnablesItsCommands() {
-    Programm programm;
-    const QList<const char*> befehle{"cmdHBFLaden", "cmdHBFLoeschen", "cmdHBALaden",    "cmdHBALoeschen",
-                                     "cmdHBPLaden", "cmdHBPLoeschen", "cmdHBSchliessen"};
-    for (const char* name : befehle) {
-        QVERIFY2(!Finden(programm.haupt(), QLatin1String(name))->isEnabled(), name);
-    }
-    programm.NeuesTestformular();
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("picFK"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdEnde"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("pnlFKFelder"))->isVisible());
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
-    for (const char* name : befehle) {
-        QVERIFY2(Finden(programm.haupt(), QLatin1String(name))->isEnabled(), name);
-    }
-    HB_Schliessen();
-    for (const char* name : befehle) {
-        QVERIFY2(!Finden(programm.haupt(), QLatin1String(name))->isEnabled(), name);
-    }
 }
 
 void FrmHBFragenTest::theListsOfTheHeadHaveTheirEntries() {
@@ -387,151 +257,6 @@ void FrmHBFragenTest::theArrowKeysStepAsWell() {
     maus::Taste(QStringLiteral("Up"));
     maus::Taste(QStringLiteral("Down"));
     QTRY_COMPARE(form->pnlPunkte.at(1)->caption(), QStringLiteral("1"));
-}
-
-void FrmHBFragenTest::closingAChangedFormAsksAndAbbrechenKeepsIt() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    form->txtFrage.at(1)->setText("offen");
-    Dialogfolge dialoge;
-    dialoge.frage(neuTitel, neuSpeichernFrage, 2);
-    Druecken(programm, QStringLiteral("cmdDateiHB(5)"));
-    QCOMPARE(HBFragenOffen(), form);
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    dialoge.frage(neuTitel, neuSpeichernFrage, 7);
-    Druecken(programm, QStringLiteral("cmdDateiHB(5)"));
-    QVERIFY(HBFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-}
-
-void FrmHBFragenTest::closingAnUnchangedFormAsksNothing() {
-    Programm programm;
-    programm.NeuesTestformular();
-    Dialogfolge dialoge;
-    Druecken(programm, QStringLiteral("cmdDateiHB(5)"));
-    QVERIFY(HBFragenOffen() == nullptr);
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible()); // the toolbar stays
-}
-
-void FrmHBFragenTest::theClosingButtonSpeaksOfTheQuizForm() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    Dialogfolge dialoge;
-    dialoge.frage(schliessenTitel, QStringLiteral("Ich schließe das Feldkranz-Formular !"), 2);
-    Druecken(programm, QStringLiteral("cmdHBSchliessen"));
-    QCOMPARE(HBFragenOffen(), form);
-    dialoge.frage(schliessenTitel, QStringLiteral("Ich schließe das Feldkranz-Formular !"), 1);
-    Druecken(programm, QStringLiteral("cmdHBSchliessen"));
-    QVERIFY(HBFragenOffen() == nullptr);
-}
-
-void FrmHBFragenTest::neinOnTheClosingButtonClosesWithoutSaving() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    form->txtFrage.at(1)->setText("weg");
-    Dialogfolge dialoge;
-    dialoge.frage(schliessenTitel,
-                  QStringLiteral("Das Formular wurde möglicherweise verändert\n"
-                                 "Soll ich das Formular vorher speichern ?"),
-                  7);
-    Druecken(programm, QStringLiteral("cmdHBSchliessen"));
-    QVERIFY(dialoge.fertig());
-    QVERIFY(HBFragenOffen() == nullptr);
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdHBSchliessen"))->isEnabled());
-}
-
-void FrmHBFragenTest::theBackButtonClosesAndReturnsToTheMainToolbar() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    Dialogfolge dialoge;
-    dialoge.frage(schliessenTitel, QStringLiteral("Ich schließe das Test-Formular !"), 2);
-    Druecken(programm, QStringLiteral("cmdHBZurueck"));
-    QCOMPARE(HBFragenOffen(), form);
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
-    dialoge.frage(schliessenTitel, QStringLiteral("Ich schließe das Test-Formular !"), 1);
-    Druecken(programm, QStringLiteral("cmdHBZurueck"));
-    QVERIFY(HBFragenOffen() == nullptr);
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
-    QVERIFY(!Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("cmdEnde"))->isVisible());
-}
-
-void FrmHBFragenTest::theBackButtonWithAnotherWindowInFrontOnlySwapsTheToolbar() {
-    Programm programm;
-    frmHBFragen* form = programm.NeuesTestformular();
-    form->txtFrage.at(1)->setText("bleibt");
-    auto* anderes = new QWidget;
-    anderes->setProperty("tag", QStringLiteral("Editor"));
-    KindfensterAufnehmen(anderes);
-    anderes->show();
-    KindNachVorn("Editor");
-    QTRY_COMPARE(AktivesKind(), std::string("Editor"));
-    Dialogfolge dialoge;
-    Druecken(programm, QStringLiteral("cmdHBZurueck"));
-    QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
-    QCOMPARE(HBFragenOffen(), form);
-    QCOMPARE(HB_Frage(1), std::string("bleibt"));
-}
-
-void FrmHBFragenTest::theFormBringsItsOwnMenus() {
-    Programm programm;
-    const auto sichtbar = [&programm](const char* menue) {
-        return Finden<QMenu>(programm.haupt(), QLatin1String(menue))->menuAction()->isVisible();
-    };
-    QVERIFY(!sichtbar("mDateienHB"));
-    programm.NeuesTestformular();
-    QTRY_VERIFY(sichtbar("mDateienHB"));
-    QVERIFY(sichtbar("mFormularHB"));
-    QVERIFY(!sichtbar("mDateien"));
-    QVERIFY(!sichtbar("mDateienFK"));
-    for (const char* name :
-         {"mDateiHB(1)", "mDateiHB(3)", "mDateiHB(5)", "mDateiHB(6)", "mDateiHB(8)", "mDateiHB(9)",
-          "mDateiHB(11)", "mHBFragen(1)", "mHBFragen(2)", "mHBAntworten(1)", "mHBAntworten(2)",
-          "mHBPunkte(1)", "mHBPunkte(2)", "mHBFormular", "mHBFragenauswahl", "mBackUpHB", "mHilfeHB"}) {
-        const auto* eintrag = Finden<QAction>(programm.haupt(), QLatin1String(name));
-        QVERIFY2(eintrag->isEnabled() && eintrag->isVisible(), name);
-    }
-    QVERIFY(!Finden<QAction>(programm.haupt(), QStringLiteral("mBackUp"))->isVisible());
-    QVERIFY(!Finden<QAction>(programm.haupt(), QStringLiteral("mHilfen(1)"))->isVisible());
-    HB_Schliessen();
-    QTRY_VERIFY(sichtbar("mDateien"));
-    QVERIFY(!sichtbar("mDateienHB"));
-    QVERIFY(Finden<QAction>(programm.haupt(), QStringLiteral("mBackUp"))->isVisible());
-}
-
-void FrmHBFragenTest::theBackupSwitchOfTheMenuIsTheOption() {
-    Programm programm;
-    programm.NeuesTestformular();
-    OptionDatei = 0;
-    auto* eintrag = Finden<QAction>(programm.haupt(), QStringLiteral("mBackUpHB"));
-    auto* menue = Finden<QMenu>(programm.haupt(), QStringLiteral("mOptionen"));
-    Q_EMIT menue->aboutToShow();
-    QVERIFY(!eintrag->isChecked());
-    eintrag->trigger();
-    QCOMPARE(OptionDatei, std::int16_t(1));
-    QVERIFY(eintrag->isChecked());
-    eintrag->trigger();
-    QCOMPARE(OptionDatei, std::int16_t(0));
-    OptionDatei = 1; // by another switch
-    Q_EMIT menue->aboutToShow();
-    QVERIFY(eintrag->isChecked());
-}
-
-void FrmHBFragenTest::theHelpEntryHasItsOwnNumber() {
-    Programm programm;
-    programm.NeuesTestformular();
-    Dialogfolge dialoge;
-    dialoge.erwarte(
-        {QStringLiteral("frmMeldung"),
-         {},
-         QStringLiteral("Falls erforderlich,\nwird noch ein zusätzliches Hilfesystem implementiert !"),
-         {QStringLiteral("Ich glaube, das ist nicht nötig")},
-         [](const QDialog& dialog) {
-             QCOMPARE(Finden<QLabel>(&dialog, QStringLiteral("lblNr"))->text(), QStringLiteral("21"));
-         }});
-    Finden<QAction>(programm.haupt(), QStringLiteral("mHilfeHB"))->trigger();
-    QVERIFY(dialoge.fertig());
 }
 
 void FrmHBFragenTest::theWindowFitsTheScreen_data() {
