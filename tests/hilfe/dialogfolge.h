@@ -52,7 +52,7 @@ public:
 private:
     struct Auftrag {
         ErwarteterDialog dialog;
-        Stelle stelle;
+        Stelle stelle{};
     };
     bool Beantworten(QDialog& dialog);
     void Unerwartet(QDialog& dialog);

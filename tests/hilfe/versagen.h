@@ -8,8 +8,8 @@
 
 // Where a helper was called; taken by a default argument, so that no macro is needed.
 struct Stelle {
-    const char* datei;
-    int zeile;
+    const char* datei = "";
+    int zeile = 0;
     static constexpr Stelle hier(const char* datei = __builtin_FILE(), int zeile = __builtin_LINE()) {
         return {datei, zeile};
     }

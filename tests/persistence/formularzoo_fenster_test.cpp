@@ -27,7 +27,7 @@ const QString ok = QStringLiteral("OK");
 enum class Folge { Still, KeinFormular, ZuKurz, ZuGross, NameFalsch };
 
 struct Erwartung {
-    Folge folge;
+    Folge folge = Folge::Still;
     int zeile = 0; // of a file cut short
     int davor = 0; // number of an error ahead of that
     int davorZeile = 0;

@@ -4,6 +4,7 @@
 #include "tests/quizform/formhilfe.h"
 
 #include <QClipboard>
+#include <QMdiSubWindow>
 #include <QMenu>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "tests/settings/inihilfe.h"
 
 #include <QDir>
+#include <QLabel>
 
 namespace {
 
