@@ -49,9 +49,17 @@ QPoint Global(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer
                         aufrufer);
     }
     const QPoint ort = stelle ? *stelle : ziel->rect().center();
-    const QPoint global = ziel->mapToGlobal(ort);
-    const QWidget* getroffen = QApplication::widgetAt(global);
-    if (getroffen == nullptr || (getroffen != ziel && !ziel->isAncestorOf(getroffen))) {
+    QPoint global;
+    const QWidget* getroffen = nullptr;
+    // The window manager may still be raising or moving the window.
+    const bool frei = WartenBis(
+        [&] {
+            global = ziel->mapToGlobal(ort);
+            getroffen = QApplication::widgetAt(global);
+            return getroffen != nullptr && (getroffen == ziel || ziel->isAncestorOf(getroffen));
+        },
+        bedenkzeit);
+    if (!frei) {
         Versagen(QStringLiteral("%1 is covered there by %2")
                      .arg(ziel->objectName(), getroffen != nullptr
                                                   ? getroffen->objectName() + u' ' +
