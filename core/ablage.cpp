@@ -127,9 +127,10 @@ void AblageAnordnen() {
         return;
     }
     constexpr int links = 3600;
-    constexpr int breite = 2400;
-    TwipsGeometrie(pnlCopyF, links, 45, breite, 285);
-    TwipsGeometrie(pnlCopyA, links + breite + 60, 45, breite / 2, 285);
+    constexpr int breiteF = 2400;
+    constexpr int breiteA = breiteF / 2;
+    TwipsGeometrie(pnlCopyF, links, 45, breiteF, 285);
+    TwipsGeometrie(pnlCopyA, links + breiteF + 60, 45, breiteA, 285);
 }
 
 void AblageAblegen(const std::string& frage, bool vomHilfepanel) {

@@ -112,7 +112,7 @@ void ModusHaupt() {
 }
 
 void FelderAnzeigen() {
-    const int gesamt = Zaehler(FragenProWissen * AnzahlWissen);
+    const int gesamt = Zaehler(static_cast<long long>(FragenProWissen) * AnzahlWissen);
     auto* felder = Teil<Panel>("pnlFKFelder");
     if (felder != nullptr) {
         felder->setCaption(Anzeige(Einsetzen(

@@ -55,7 +55,9 @@ QIcon Programmzeichen() {
     maler.setPen(QPen(QColor(92, 58, 30), 1.5));
     for (int i = 0; i < 9; ++i) {
         maler.setBrush(felder.at(static_cast<std::size_t>(i)));
-        maler.drawRoundedRect(QRectF(9.0 + i % 3 * 16, 9.0 + i / 3 * 16, 14, 14), 3, 3);
+        const int spalte = i % 3;
+        const int reihe = i / 3;
+        maler.drawRoundedRect(QRect(9 + spalte * 16, 9 + reihe * 16, 14, 14), 3, 3);
     }
     return QIcon(bild);
 }

@@ -6,6 +6,7 @@
 #include "persistence/wertgrammatik.h"
 
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QValidator>
@@ -127,6 +128,16 @@ void Textfeld::focusOutEvent(QFocusEvent* ereignis) {
     }
 }
 
+// Otherwise a press on selected text would begin the toolkit's own drag and carry the text off.
+void Textfeld::mousePressEvent(QMouseEvent* ereignis) {
+    if (ereignis->button() == Qt::LeftButton && ereignis->modifiers() == Qt::NoModifier) {
+        QTextCursor stelle = textCursor();
+        stelle.clearSelection();
+        setTextCursor(stelle);
+    }
+    QPlainTextEdit::mousePressEvent(ereignis);
+}
+
 void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     const int ende = std::min(stelle + neu, document()->characterCount() - 1);
     if (ende <= stelle) {
@@ -135,6 +146,7 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     QTextCursor cursor(document());
     cursor.setPosition(stelle);
     cursor.setPosition(ende, QTextCursor::KeepAnchor);
+    cursor.setKeepPositionOnInsert(true); // what is typed behind it meanwhile stays
     QString draussen;
     QString erlaubt = Erlaubt(cursor.selectedText(), draussen);
     const int zuviel = Ueberlaenge(*document());
@@ -146,6 +158,7 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     QMetaObject::invokeMethod(
         this,
         [this, cursor, erlaubt]() mutable {
+            cursor.setKeepPositionOnInsert(false);
             cursor.joinPreviousEditBlock();
             cursor.insertText(erlaubt);
             cursor.endEditBlock();

@@ -30,6 +30,7 @@ Q_SIGNALS:
 protected:
     void focusInEvent(QFocusEvent* ereignis) override;
     void focusOutEvent(QFocusEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
 
 private:
     void NurErlaubteZeichen(int stelle, int neu);

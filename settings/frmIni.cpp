@@ -73,10 +73,22 @@ void frmIni::showEvent(QShowEvent* ereignis) {
     }
 }
 
+// A key held down must not answer the questions that its first press has raised.
+bool frmIni::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::KeyPress) {
+        const auto* taste = static_cast<QKeyEvent*>(ereignis);
+        if (taste->isAutoRepeat() && (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter)) {
+            return true;
+        }
+    }
+    return QDialog::eventFilter(objekt, ereignis);
+}
+
 // Enter applies, but not from a spin control, where it is pressed out of habit behind a number.
 void frmIni::keyPressEvent(QKeyEvent* ereignis) {
     const bool eingabe = ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter;
-    if (eingabe && qobject_cast<Drehfeld*>(QApplication::focusWidget()) != nullptr) {
+    if (eingabe &&
+        (ereignis->isAutoRepeat() || qobject_cast<Drehfeld*>(QApplication::focusWidget()) != nullptr)) {
         ereignis->accept();
         return;
     }
@@ -84,7 +96,7 @@ void frmIni::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void frmIni::reject() {
-    Abbrechen_Click();
+    Ausfuehren("cmdAbbrechen", [this] { Abbrechen_Click(); });
 }
 
 QGroupBox* frmIni::RahmenBauen(QWidget* eltern, const char* name, const QString& titel) {
@@ -102,6 +114,7 @@ QCheckBox* frmIni::KastenBauen(QWidget* eltern, const char* name, const char* au
 QPushButton* frmIni::TasteBauen(QWidget* eltern, const char* name, const char* aufschrift) {
     auto* taste = new QPushButton(QString::fromUtf8(aufschrift), eltern);
     taste->setObjectName(QLatin1String(name));
+    taste->installEventFilter(this);
     return taste;
 }
 

@@ -36,6 +36,7 @@ public:
 protected:
     void showEvent(QShowEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
     // What the tabs and tasks share, in frmIni.cpp

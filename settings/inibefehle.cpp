@@ -123,6 +123,9 @@ void frmIni::IniLaden_Click() {
         // What was read so far is in force, without a message; the status line says why there isn't more.
         HilfeText(Einsetzen(initexte::nichtGelesen, {fehler.text()}));
     }
+    if (FarbeHintergrund == 0) {
+        FarbeHintergrund = 7; // as when a form's window opens
+    }
     StandardHolen();
     ArtenZeigen(PunkteV);
     ArtenZeigen(FelderV);
@@ -148,7 +151,7 @@ void frmIni::EinOK_Click() {
     FelderAnzeigen();
     StandardUebernehmen();
     FarbeHintergrund = static_cast<std::int16_t>(farbe_);
-    FarbeZeigen();
+    FarbeZeigen(); // a file loaded meanwhile may hold another
     FormStatusSetzen(1);
     done(QDialog::Accepted);
     FormAuffrischen();

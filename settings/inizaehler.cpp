@@ -172,13 +172,14 @@ void frmIni::WissenSchritt_Click(Richtung richtung) {
     Stufen(WissenSchritt(richtung, AnzahlWissen, FragenProWissen, OptionMaxWissen), AnzahlWissen);
 }
 
-// A refused step refreshes the display too.
+// A refused step refreshes the display with the old numbers, and changes nothing else.
 void frmIni::Stufen(const Regelschritt& schritt, std::int16_t& zaehler) {
     if (SchrittErlaubt(schritt)) {
         zaehler = schritt.neu;
+        gestuft_ = true;
+        ZaehlerZeigen(); // also where the total can't be told below
+        GesamtRechnen();
     }
-    gestuft_ = true;
-    GesamtRechnen();
     ZaehlerZeigen();
 }
 

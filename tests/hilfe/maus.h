@@ -27,7 +27,7 @@ void Doppelklicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 
 // Drags from one control to another with the modifiers held from press to release. While the pointer stands
-// over the target, ueberZiel is asked again and again until it is true (three seconds at most, then the test
+// over the target, ueberZiel is asked again and again until it is true (ten seconds at most, then the test
 // fails); only then the button is released. Comes back after the drop and all it caused.
 void Ziehen(const QWidget* von, const QWidget* nach, Qt::KeyboardModifiers tasten = Qt::NoModifier,
             const std::function<bool()>& ueberZiel = {}, Stelle aufrufer = Stelle::hier());

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void settingATextThatStandsThereMarksNothingAsChanged();
     void aHeadBoxMarksTheFormAndSelectsItsText();
     void aCharacterOutsideTheCodePageIsReplacedAndNamed();
+    void whatIsTypedBehindAReplacedCharacterStays();
     void framesShowOnlyWithTheirOption();
     void blankingKeepsTheMarkersAndRestoringBringsTheTextsBack();
     void theThemeSourceFillsTheTitleList();
@@ -195,6 +196,18 @@ void FkFelderTest::aHeadBoxMarksTheFormAndSelectsItsText() {
     form->txtZeit->setFocus();
     form->txtDatum->setFocus();
     QTRY_COMPARE(form->txtDatum->selectedText(), QStringLiteral("24.12."));
+}
+
+void FkFelderTest::whatIsTypedBehindAReplacedCharacterStays() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    form->txtFrage.at(1)->setFocus();
+    QTRY_VERIFY(form->txtFrage.at(1)->hasFocus());
+    for (const QChar zeichen : QStringLiteral("a→bc")) { // faster than the mending
+        QKeyEvent druck(QEvent::KeyPress, 0, Qt::NoModifier, zeichen);
+        QCoreApplication::sendEvent(form->txtFrage.at(1), &druck);
+    }
+    QTRY_COMPARE(form->txtFrage.at(1)->text(), std::string("a->bc"));
 }
 
 void FkFelderTest::aCharacterOutsideTheCodePageIsReplacedAndNamed() {

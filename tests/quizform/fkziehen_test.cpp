@@ -106,6 +106,7 @@ private Q_SLOTS:
     void aCellDroppedOnItselfLosesItsQuestion();
     void aQuestionDroppedOnAJokerLiesUnderItsMarker();
     void theAnswerBoxTakesNoDrop();
+    void aPressWithoutAKeyCarriesNothingOff();
     void parkingAQuestionByMoveAndByCopy();
     void parkingOverAParkedQuestionAsks();
     void aDropOnTheHelpPanelParksAsWell();
@@ -304,6 +305,18 @@ void FkZiehenTest::theAnswerBoxTakesNoDrop() {
     QCOMPARE(FK_Frage(1), std::string("eins"));
     maus::Ziehen(form->txtFrage.at(1), form->pnlWissen.at(3), Qt::ShiftModifier, Zeigt(ZiehBild::Nein));
     QCOMPARE(FK_Frage(1), std::string("eins"));
+}
+
+void FkZiehenTest::aPressWithoutAKeyCarriesNothingOff() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form, 2, "bleibt hier", "auch");
+    form->txtFrage.at(2)->setFocus(); // all of it is selected now
+    QTRY_VERIFY(form->txtFrage.at(2)->textCursor().hasSelection());
+    maus::Ziehen(form->txtFrage.at(2), form->txtAntwort.at(4));
+    QCOMPARE(FK_Frage(2), std::string("bleibt hier"));
+    QCOMPARE(FK_Antwort(4), std::string());
+    QCOMPARE(FormGeaendert, std::int16_t(0));
 }
 
 void FkZiehenTest::parkingAQuestionByMoveAndByCopy() {

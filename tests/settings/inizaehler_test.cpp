@@ -104,6 +104,7 @@ void IniZaehlerTest::aStepAnsweredAbbrechenOrClosedByItsFrameChangesNothing() {
     Programm programm;
     programm.NeuesQuizformular();
     Form(5, 6, 1, 1);
+    FelderGesamt = 12;
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelFragen, vier, 2);
         Druecke(dialog, "cmdFragenMinus");
@@ -114,6 +115,7 @@ void IniZaehlerTest::aStepAnsweredAbbrechenOrClosedByItsFrameChangesNothing() {
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("5"));
     });
     QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(FelderGesamt, std::int16_t(12));
 }
 
 void IniZaehlerTest::theBoundsAreToldInTheirOwnWords() {
