@@ -12,7 +12,7 @@ constexpr int statusBreite = 3600 - 60; // twips, up to the clipboard panels
 
 Hilfepanel::Hilfepanel(QWidget* eltern) : Panel(eltern, QStringLiteral("pnlHilfe")) {}
 
-void Hilfepanel::paintEvent(QPaintEvent* ereignis) {
+void Hilfepanel::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.fillRect(rect(), grund());
     const QRect flaeche(2, 0, Pixel(statusBreite), height());
@@ -23,6 +23,5 @@ void Hilfepanel::paintEvent(QPaintEvent* ereignis) {
     maler.setFont(schrift);
     maler.setPen(palette().color(QPalette::ButtonText));
     maler.drawText(flaeche, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap, caption());
-    maler.end();
-    QFrame::paintEvent(ereignis);
+    drawFrame(&maler); // not the panel's own painting, which would set the caption in one line
 }
