@@ -50,9 +50,10 @@ void KopfZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Testg
 // The texts run on when they are long: nothing is cut off.
 void AbsatzZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, float y,
                     const std::string& text) {
-    const auto zeilen = Umbrechen(text, g.TestTextBreite, [&](std::string_view teil) {
+    const auto messen = [&](std::string_view teil) {
         return mass.BreiteGegen(teil, klein, g.TestTextBreite);
-    });
+    };
+    const auto zeilen = Umbrechen(text, g.TestTextBreite, messen, Wortmass::JedesWort);
     TextZeilen(zeichnung, mass, g.TestRandLinks + g.TestNummerSpalte + g.TestTextEinzug, y, klein, zeilen);
 }
 

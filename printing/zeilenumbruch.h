@@ -9,10 +9,18 @@
 // Width of a text in mm in the font in force.
 using Breitenmass = std::function<float(std::string_view)>;
 
-// The lines of a text, as parts of it. At each blank, what has been gathered, the blank included, is
-// measured; when it is wider than breite, the part up to the previous blank becomes a line. What is left at
-// the end becomes the last line without being measured, so it may stand out by a word, and a single wide
-// word is never broken: both are meant. A line end of the text counts as a blank that ends the line in any
-// case. An empty text gives one empty line.
+// When a word is measured against the width.
+enum class Wortmass {
+    // At the blank behind it and together with that blank. What is left at the end becomes the last line
+    // without being measured, so it may stand out by a word; that is meant.
+    AmLeerzeichen,
+    // Without the blank, and the last word as well: only a single wide word stands out.
+    JedesWort
+};
+
+// The lines of a text, as parts of it. When what has been gathered is wider than breite, the part up to the
+// previous blank becomes a line; a single wide word is never broken. A line end of the text counts as a blank
+// that ends the line in any case. An empty text gives one empty line.
 [[nodiscard]] std::vector<std::string_view> Umbrechen(std::string_view text, float breite,
-                                                      const Breitenmass& messen);
+                                                      const Breitenmass& messen,
+                                                      Wortmass wortmass = Wortmass::AmLeerzeichen);

@@ -143,17 +143,34 @@ TEST(Testseite, AnswersStandHalfARowBelowTheirQuestion) {
     EXPECT_FLOAT_EQ(antwort.y, 46.0F + 73.0F + 35.0F);
 }
 
-TEST(Testseite, ALongQuestionBreaksAtTheTextWidth) {
+TEST(Testseite, ALongQuestionBreaksBeforeTheWordThatWouldPassTheTextWidth) {
     Testdruckdaten daten = Blatt(1);
-    daten.zeilen[1].frage = std::string(100, 'a') + " " + std::string(60, 'b') + " " + std::string(9, 'c');
-    const Zeichnung zeichnung = Zeichnen(daten); // a letter is 1 mm wide, a line 5 mm high
-    const auto zweite =
-        Stellen(zeichnung, std::string(100, 'a') + " " + std::string(60, 'b') + " " + std::string(9, 'c'));
-    ASSERT_EQ(zweite.size(), 1U); // the last word is never measured
+    const std::string anfang = std::string(100, 'a') + " " + std::string(60, 'b'); // a letter is 1 mm wide
+    daten.zeilen[1].frage = anfang + " " + std::string(9, 'c');
+    const auto zweiZeilen = Zeichnen(daten); // a line is 5 mm high
+    ASSERT_EQ(Stellen(zweiZeilen, anfang).size(), 1U);
+    EXPECT_FLOAT_EQ(Stellen(zweiZeilen, anfang)[0].y, 46.0F);
+    ASSERT_EQ(Stellen(zweiZeilen, std::string(9, 'c')).size(), 1U); // the last word is measured as well
+    EXPECT_FLOAT_EQ(Stellen(zweiZeilen, std::string(9, 'c'))[0].y, 51.0F);
+    EXPECT_FLOAT_EQ(Stellen(zweiZeilen, std::string(9, 'c'))[0].x, 26.0F);
+
+    daten.zeilen[1].frage = anfang + " cccc"; // 166 letters, the longest line
+    EXPECT_EQ(Stellen(Zeichnen(daten), daten.zeilen[1].frage).size(), 1U);
     daten.zeilen[1].frage += " d";
-    const auto zeilen = Zeichnen(daten);
-    const auto erste = Stellen(zeilen, std::string(100, 'a') + " " + std::string(60, 'b'));
-    ASSERT_EQ(erste.size(), 1U);
-    EXPECT_FLOAT_EQ(erste[0].y, 46.0F);
-    EXPECT_FLOAT_EQ(Stellen(zeilen, std::string(9, 'c') + " d").at(0).y, 51.0F);
+    EXPECT_FLOAT_EQ(Stellen(Zeichnen(daten), "d").at(0).y, 51.0F);
+}
+
+TEST(Testseite, AnAnswerBreaksAsAQuestionDoes) {
+    Testdruckdaten daten = Blatt(3);
+    daten.mitAntworten = true;
+    daten.zeilen[2].antwort = std::string(160, 'a') + " " + std::string(7, 'b');
+    const auto zeichnung = Zeichnen(daten);
+    EXPECT_FLOAT_EQ(Stellen(zeichnung, std::string(160, 'a')).at(0).y, 46.0F + 73.0F + 35.0F);
+    EXPECT_FLOAT_EQ(Stellen(zeichnung, std::string(7, 'b')).at(0).y, 46.0F + 73.0F + 40.0F);
+}
+
+TEST(Testseite, AWordWiderThanTheTextWidthIsOneLine) {
+    Testdruckdaten daten = Blatt(1);
+    daten.zeilen[1].frage = std::string(200, 'w');
+    EXPECT_FLOAT_EQ(Stellen(Zeichnen(daten), daten.zeilen[1].frage).at(0).y, 46.0F);
 }

@@ -7,13 +7,15 @@
 namespace {
 
 // Every character is one wide.
-std::vector<std::string> Zeilen(std::string_view text, float breite) {
-    std::vector<std::string> ergebnis;
-    for (const std::string_view zeile :
-         Umbrechen(text, breite, [](std::string_view teil) { return static_cast<float>(teil.size()); })) {
-        ergebnis.emplace_back(zeile);
-    }
-    return ergebnis;
+std::vector<std::string> Zeilen(std::string_view text, float breite,
+                                Wortmass wortmass = Wortmass::AmLeerzeichen) {
+    const auto zeilen = Umbrechen(
+        text, breite, [](std::string_view teil) { return static_cast<float>(teil.size()); }, wortmass);
+    return {zeilen.begin(), zeilen.end()};
+}
+
+std::vector<std::string> WortFuerWort(std::string_view text, float breite) {
+    return Zeilen(text, breite, Wortmass::JedesWort);
 }
 
 using Liste = std::vector<std::string>;
@@ -84,13 +86,15 @@ TEST(Zeilenumbruch, ALineEndMeasuresAsABlankDoes) {
 
 TEST(Zeilenumbruch, NoCharacterButBlanksAndLineEndsIsLost) {
     const std::string text = "Nenne die  sechs Erdteile, und\r\nwelcher davon ist der kleinste ?";
-    for (float breite = 1; breite < 70; breite += 1) {
-        std::string beisammen;
-        for (const std::string& zeile : Zeilen(text, breite)) {
-            beisammen += zeile;
+    for (const Wortmass wortmass : {Wortmass::AmLeerzeichen, Wortmass::JedesWort}) {
+        for (float breite = 1; breite < 70; breite += 1) {
+            std::string beisammen;
+            for (const std::string& zeile : Zeilen(text, breite, wortmass)) {
+                beisammen += zeile;
+            }
+            std::erase_if(beisammen, [](char c) { return c == ' '; });
+            EXPECT_EQ(beisammen, "NennediesechsErdteile,undwelcherdavonistderkleinste?");
         }
-        std::erase_if(beisammen, [](char c) { return c == ' '; });
-        EXPECT_EQ(beisammen, "NennediesechsErdteile,undwelcherdavonistderkleinste?");
     }
 }
 
@@ -102,4 +106,40 @@ TEST(Zeilenumbruch, MeasuresOnlyAtBlanks) {
     });
     EXPECT_EQ(zeilen.size(), 1U);
     EXPECT_LE(gemessen, 3);
+}
+
+TEST(ZeilenumbruchWortFuerWort, ALineTakesEveryWordThatStillFits) {
+    EXPECT_EQ(WortFuerWort("aa bb cc dd", 8), Liste({"aa bb cc", "dd"}));
+    EXPECT_EQ(WortFuerWort("aa bb cc dd", 7.9F), Liste({"aa bb", "cc dd"}));
+    EXPECT_EQ(WortFuerWort("aa bb cc dd", 11), Liste({"aa bb cc dd"}));
+    EXPECT_EQ(WortFuerWort("", 5), Liste({""}));
+}
+
+TEST(ZeilenumbruchWortFuerWort, TheLastWordIsMeasuredAsTheOthersAre) {
+    EXPECT_EQ(WortFuerWort("aa bb cccc", 9), Liste({"aa bb", "cccc"}));
+    EXPECT_EQ(WortFuerWort("aa bb cccc\r\ndd", 9), Liste({"aa bb", "cccc", "dd"}));
+}
+
+TEST(ZeilenumbruchWortFuerWort, NoLineIsWiderThanTheLimitButASingleWord) {
+    const std::string text = "Nenne die sechs Erdteile und sage welcher davon der kleinste ist ";
+    for (float breite = 1; breite < 70; breite += 1) {
+        for (const std::string& zeile : WortFuerWort(text, breite)) {
+            const std::string ohneEnde = zeile.substr(0, zeile.find_last_not_of(' ') + 1);
+            EXPECT_TRUE(static_cast<float>(ohneEnde.size()) <= breite ||
+                        ohneEnde.find(' ') == std::string::npos)
+                << zeile << " at " << breite;
+        }
+    }
+}
+
+TEST(ZeilenumbruchWortFuerWort, AWideWordStandsAloneAndIsNeverBroken) {
+    EXPECT_EQ(WortFuerWort("Donaudampfschifffahrt", 5), Liste({"Donaudampfschifffahrt"}));
+    EXPECT_EQ(WortFuerWort("an Bord Donaudampfschifffahrt an", 8),
+              Liste({"an Bord", "Donaudampfschifffahrt", "an"}));
+}
+
+TEST(ZeilenumbruchWortFuerWort, BlanksAtTheEndOfALineMakeNoLineOfTheirOwn) {
+    EXPECT_EQ(WortFuerWort("aa bb ", 5), Liste({"aa bb "}));
+    EXPECT_EQ(WortFuerWort("aa bb   ", 5), Liste({"aa bb   "}));
+    EXPECT_EQ(WortFuerWort("aa  bb", 4), Liste({"aa ", "bb"}));
 }
