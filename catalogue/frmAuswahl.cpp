@@ -46,7 +46,7 @@ frmAuswahl::frmAuswahl(QWidget* eltern) : QWidget(eltern, Qt::Tool) {
     Aufbauen();
     KeinZiel(this);
     EreignisseVerbinden();
-    TippsSetzen();
+    HinweiseSetzen(*this, auswahltexte::hinweise);
     Einpassen();
     ThemenLaden();
     Fuellen(cmbThemen_, ThemenListe);
@@ -59,15 +59,6 @@ void frmAuswahl::EreignisseVerbinden() {
     txtFrage_->viewport()->installEventFilter(this);
     txtFrage_->installEventFilter(this);
     TastenEinrichten(txtFrage_, [this](Qt::KeyboardModifiers) { FrageZiehen(); });
-}
-
-void frmAuswahl::TippsSetzen() {
-    for (const auto& [name, titel, text] : auswahltexte::tipps) {
-        if (auto* element =
-                findChild<QWidget*>(QLatin1String(name.data(), static_cast<qsizetype>(name.size())))) {
-            HinweisSetzen(element, text, titel, {});
-        }
-    }
 }
 
 void frmAuswahl::ThemaGewaehlt() {

@@ -41,7 +41,6 @@ private:
     void FelderAufbauen(QGridLayout* raster);
     void VerborgeneAufbauen(QWidget* rahmen);
     void EreignisseVerbinden();
-    void TippsSetzen();
     void Einpassen();
 
     void ThemaGewaehlt();

@@ -7,7 +7,6 @@
 #include "core/ziehen.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
-#include "periphery/hinweise.h"
 #include "quizform/fkformular.h"
 #include "quizform/texte.h"
 #include "quizform/ziehregeln.h"
@@ -21,14 +20,6 @@ namespace {
 
 QPointer<Panel> pnlCopyF;
 QPointer<Panel> pnlCopyA;
-
-constexpr std::string_view tippFrage =
-    "In dieses Feld können mit [Shift]+Linksklick Fragen aus dem Formular gezogen werden.\r\n"
-    "Die Antwort wird automatisch in das Feld 'Antwort' (rechts) übernommen.\r\n"
-    "(Kann mit Doppelklick gelöscht werden.)";
-constexpr std::string_view tippAntwort =
-    "Antwort zur abgelegten Frage.\r\n(Kann mit Doppelklick gelöscht werden.)";
-constexpr std::string_view status = " Ablage für Fragen";
 
 // A press on the parked question. True when it was more than an ordinary click.
 bool Druck(Qt::KeyboardModifiers tasten) {
@@ -92,12 +83,11 @@ void FormNachAblage(bool ausTest) {
     }
 }
 
-Panel* PanelBauen(QWidget* hilfepanel, const char* name, std::string_view tipp) {
+Panel* PanelBauen(QWidget* hilfepanel, const char* name) {
     auto* panel = new Panel(hilfepanel, QLatin1String(name));
     panel->setAusrichtung(Qt::AlignLeft);
     panel->setFrameShadow(QFrame::Sunken);
     panel->setFont(Schrift(8.25));
-    HinweisSetzen(panel, tipp, "Hilfe", status);
     QObject::connect(panel, &Panel::doppeltGeklickt, panel, [] { AblageLeeren(); });
     return panel;
 }
@@ -113,8 +103,8 @@ std::string AblageAntwort() {
 }
 
 void AblageBauen(QWidget* hilfepanel) {
-    pnlCopyF = PanelBauen(hilfepanel, "pnlCopyF", tippFrage);
-    pnlCopyA = PanelBauen(hilfepanel, "pnlCopyA", tippAntwort);
+    pnlCopyF = PanelBauen(hilfepanel, "pnlCopyF");
+    pnlCopyA = PanelBauen(hilfepanel, "pnlCopyA");
     pnlCopyF->setFocusPolicy(Qt::TabFocus);
     pnlCopyF->installEventFilter(new Druckwaechter(pnlCopyF));
     TastenEinrichten(pnlCopyF, [](Qt::KeyboardModifiers tasten) { Druck(tasten); });

@@ -3,7 +3,6 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
-#include "periphery/hinweise.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -54,12 +53,8 @@ private:
 void FlaggenBauen(QWidget* pnlKranz) {
     picEingabeFlagGruen = new Flagge(pnlKranz, "picEingabeFlagGruen", false);
     picEingabeFlagGruen->setAccessibleName(QStringLiteral("Alles gespeichert"));
-    HinweisSetzen(picEingabeFlagGruen, "Am Formular ist nichts Ungespeichertes.", "Formular",
-                  " Formular ist unverändert");
     picEingabeFlagRot = new Flagge(pnlKranz, "picEingabeFlagRot", true);
     picEingabeFlagRot->setAccessibleName(QStringLiteral("Ungespeicherte Änderungen"));
-    HinweisSetzen(picEingabeFlagRot, "Das Formular hat Änderungen, die noch nicht gespeichert sind.",
-                  "Formular", " Formular ist verändert");
     picEingabeFlagGruen->hide();
     picEingabeFlagRot->hide();
 }

@@ -3,6 +3,7 @@
 #include "core/ablage.h"
 #include "core/fortschrittsbalken.h"
 #include "core/hauptfenster.h"
+#include "core/hinweistexte.h"
 #include "core/hilfepanel.h"
 #include "core/menueleiste.h"
 #include "core/oberflaeche.h"
@@ -31,12 +32,11 @@ QPointer<frmMDI> hauptfenster;
 constexpr int kranzHoehe = 495; // twips
 constexpr int hilfeHoehe = 375;
 constexpr int felderBreite = 3615;
+constexpr int tippBreite = 180; // pixels
 
 Panel* FelderPanelBauen(QWidget* pnlHilfe) {
     auto* panel = new Panel(pnlHilfe, QStringLiteral("pnlFKFelder"));
     panel->setFont(Schrift(7.5));
-    HinweisSetzen(panel, "Aktuelle Anzahl der Fragen, Fragen pro Wissensgebiet und Wissensgebiete.",
-                  "Feldkranz", " Aktuelle Anzahl der Fragen- und Spezialfelder");
     panel->hide();
     return panel;
 }
@@ -47,12 +47,13 @@ frmMDI::frmMDI() {
     hauptfenster = this;
     setObjectName(QStringLiteral("frmMDI"));
     setWindowTitle(Anzeige(kerntexte::hauptfenster));
+    TippsEinrichten(this, tippBreite);
     FlaechenBauen();
     WerkzeugleistenBauen(pnlKranz_);
     AblageBauen(pnlHilfe_);
     FortschrittsbalkenBauen(pnlHilfe_);
     MenueleisteBauen(*this);
-    HinweisSetzen(pnlHilfe_, "", "Hilfe", " 'Kurzhilfe'  und  'Ablage für Fragen'");
+    HinweiseSetzen(*this, kerntexte::haupthinweise);
     connect(kindflaeche_, &QMdiArea::subWindowActivated, this, &frmMDI::KindGewechselt);
     findChild<QAction*>(QStringLiteral("mBackUp"))->setChecked(OptionDatei == 1);
     BefehleFKFreigeben(false); // the forms bring them into use

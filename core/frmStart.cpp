@@ -1,6 +1,7 @@
 #include "core/frmStart.h"
 
 #include "core/frmMDI.h"
+#include "core/hinweistexte.h"
 #include "core/konfiguration.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
@@ -8,6 +9,7 @@
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
 #include "periphery/hinweise.h"
+#include "periphery/tooltipregeln.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -23,6 +25,7 @@ namespace {
 
 constexpr int breite = 5605; // client area in twips
 constexpr int hoehe = 3045;
+constexpr int tippBreite = 300; // pixels
 
 } // namespace
 
@@ -49,7 +52,9 @@ frmStart::frmStart() {
     cmdStart_->setGeometry(40, height() - 38, width() - 80, 28);
     cmdStart_->setAutoDefault(true); // Enter presses it, as a click does
     cmdStart_->setFocus();
-    HinweisSetzen(cmdStart_, kerntexte::startTipp, "Hinweis", "");
+    TippsEinrichten(this, tippBreite);
+    HinweiseSetzen(*this, kerntexte::starthinweise);
+    HinweisSetzen(this, "", tipp::titelStandard, ""); // the window itself only has the standard style
     connect(cmdStart_, &QPushButton::clicked, this, [this] {
         // The main window first, so that the program doesn't end with its last window.
         HauptfensterZeigen();

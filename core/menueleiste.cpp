@@ -2,6 +2,7 @@
 
 #include "core/befehle.h"
 #include "core/hauptfenster.h"
+#include "core/hinweistexte.h"
 #include "core/konfiguration.h"
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
@@ -148,6 +149,21 @@ void DateilistenEintraegeVerbinden(QMainWindow& fenster) {
     }
 }
 
+// The members of an array share a row, if none is for the one.
+std::string_view Status(std::string_view name) {
+    const std::string_view feld = name.substr(0, name.find('('));
+    std::string_view status;
+    for (const kerntexte::Menuestatus& zeile : kerntexte::menuestatus) {
+        if (zeile.name == name) {
+            return zeile.status;
+        }
+        if (zeile.name == feld) {
+            status = zeile.status;
+        }
+    }
+    return status;
+}
+
 void EintragBauen(QMenu& menue, const Eintrag& zeile) {
     QAction* eintrag = zeile.text.empty() ? menue.addSeparator() : menue.addAction(Anzeige(zeile.text));
     eintrag->setObjectName(Anzeige(zeile.name));
@@ -155,6 +171,7 @@ void EintragBauen(QMenu& menue, const Eintrag& zeile) {
         return;
     }
     eintrag->setCheckable(zeile.haken);
+    eintrag->setStatusTip(Anzeige(Status(zeile.name)));
     eintrag->setShortcut(QKeySequence(QLatin1String(zeile.tasten)));
     BefehlVerbinden(eintrag);
 }

@@ -88,16 +88,25 @@ constexpr std::array schaltflaechen{
                   true},
     Schaltflaeche{Leiste::HB, "cmdHBFLaden", "Fragen +", "Gelöschte Fragen wieder einfügen.", hb,
                   " Fragen in das Testformular schreiben", true},
-    Schaltflaeche{Leiste::HB, "cmdHBFLoeschen", "Fragen −", "Fragen aus dem Testformular löschen.", "Löschen",
-                  " Fragen aus dem Testformular loeschen"},
+    Schaltflaeche{Leiste::HB, "cmdHBFLoeschen", "Fragen −",
+                  "Fragen aus dem Testformular löschen.\r\n"
+                  "(Die Fragen und Antworten werden zwischengespeichert "
+                  "und können wieder eingefügt werden.)",
+                  "Löschen", " Fragen aus dem Testformular loeschen"},
     Schaltflaeche{Leiste::HB, "cmdHBALaden", "Antworten +", "Gelöschte Antworten wieder einfügen.", hb,
                   " Antworten in das Testformular schreiben"},
-    Schaltflaeche{Leiste::HB, "cmdHBALoeschen", "Antworten −", "Antworten aus dem Testformular löschen.",
+    Schaltflaeche{Leiste::HB, "cmdHBALoeschen", "Antworten −",
+                  "Antworten aus dem Testformular löschen.\r\n"
+                  "(Die Fragen und Antworten werden zwischengespeichert "
+                  "und können wieder eingefügt werden.)",
                   "Löschen", " Antworten aus dem Testformular loeschen"},
     Schaltflaeche{Leiste::HB, "cmdHBPLaden", "Punkte +", "Gelöschte Punkte wieder einfügen.", hb,
                   " Punkte in das Testformular schreiben"},
-    Schaltflaeche{Leiste::HB, "cmdHBPLoeschen", "Punkte −", "Punkte aus dem Testformular löschen.", "Löschen",
-                  " Punkte aus dem Testformular loeschen"},
+    Schaltflaeche{Leiste::HB, "cmdHBPLoeschen", "Punkte −",
+                  "Punkte aus dem Testformular löschen.\r\n"
+                  "(Die Punkte werden zwischengespeichert "
+                  "und können wieder eingefügt werden.)",
+                  "Löschen", " Punkte aus dem Testformular loeschen"},
     Schaltflaeche{Leiste::HB, "cmdHBSchliessen", "Schließen", hbSchliessenTipp, hb, " Testformular schließen",
                   true},
     Schaltflaeche{Leiste::HB, "cmdHBZurueck", "Zurück", fkZurueckTipp, hb, " Zurück zum Hauptmenü"},

@@ -2,7 +2,6 @@
 
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "periphery/hinweise.h"
 #include "quizform/formdaten.h"
 
 #include <QEvent>
@@ -14,15 +13,6 @@ namespace {
 
 std::array<QWidget*, anzahlFelder + 1> zellen{}; // owned by picSpezial
 
-constexpr std::string_view tipp = "Verteilung der Fragen und Spezialfelder :\r\n"
-                                  "- weiß : Frage\r\n"
-                                  "- gelb : Joker\r\n"
-                                  "- grün : Glücksfrage\r\n"
-                                  "- rot : Risiko\r\n"
-                                  "- blau : Aufgabe\r\n"
-                                  "- orange : Ereignis";
-constexpr std::string_view status = " Verteilung der Fragen und Spezialfelder";
-
 // A cell by column (1 to 6) and row (0 to 4): 60 by 45 twips, 75 and 60 apart.
 void ZelleBauen(QWidget* picSpezial, int spalte, int reihe) {
     const int n = (spalte - 1) * fragenJeGebiet + reihe + 1;
@@ -31,7 +21,6 @@ void ZelleBauen(QWidget* picSpezial, int spalte, int reihe) {
     zelle->setAccessibleName(QStringLiteral("Feld %1").arg(n));
     zelle->setAutoFillBackground(true);
     zelle->setGeometry(Pixel((spalte - 1) * 75 + 45), Pixel(reihe * 60 + 45), Pixel(60), Pixel(45));
-    HinweisSetzen(zelle, tipp, "Feldkranz", status);
     zellen.at(static_cast<std::size_t>(n)) = zelle;
 }
 
@@ -39,7 +28,6 @@ void ZelleBauen(QWidget* picSpezial, int spalte, int reihe) {
 
 void SpezialRasterAufbauen(QWidget* picSpezial) {
     QObject::connect(picSpezial, &QObject::destroyed, [] { zellen.fill(nullptr); });
-    HinweisSetzen(picSpezial, tipp, "Feldkranz", status);
     for (int spalte = 1; spalte <= anzahlGebiete; ++spalte) {
         for (int reihe = 0; reihe < fragenJeGebiet; ++reihe) {
             ZelleBauen(picSpezial, spalte, reihe);

@@ -9,7 +9,6 @@ namespace kerntexte {
 
 inline constexpr std::string_view hauptfenster = " Feldkranz! 2008";
 inline constexpr std::string_view startfenster = "Am Start ...";
-inline constexpr std::string_view startTipp = "Weiter zum Programm !";
 inline constexpr std::string_view startZeile = "Mit Grüßen von Tarvo und Brennek - weiter !";
 
 // Start picture missing; {} is its full path.

@@ -136,16 +136,13 @@ void WerkzeugleistenBauen(QWidget* pnlKranz) {
         traeger->setObjectName(QLatin1String(name));
         traeger->setVisible(leiste == Leiste::Kranz);
     }
-    HinweisSetzen(Traeger(pnlKranz, Leiste::Kranz), "", "Feldkranz! 2008", "");
     auto* picSpezial = new QFrame(Traeger(pnlKranz, Leiste::FK));
     picSpezial->setObjectName(QStringLiteral("picSpezial"));
     picSpezial->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     picSpezial->setAccessibleName(QStringLiteral("Verteilung der Fragen und Spezialfelder"));
     SpezialRasterAufbauen(picSpezial);
     picSpezial->installEventFilter(new Doppelklick(picSpezial, FK_Zeigen));
-    auto* punkte = new Panel(Traeger(pnlKranz, Leiste::HB), QStringLiteral("pnlHBPun"));
-    HinweisSetzen(punkte, "Summe der Punkte im Testformular.", "Testformular",
-                  " Gesamtpunkte des Testformulars");
+    new Panel(Traeger(pnlKranz, Leiste::HB), QStringLiteral("pnlHBPun"));
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         SchaltflaecheBauen(pnlKranz, zeile);
     }

@@ -94,8 +94,12 @@ void Textschild::setText(const QString& text) {
     ganz.setDefaultFont(font());
     ganz.setDefaultTextOption(Umbruch(alignment()));
     ganz.setTextWidth(width());
+    if (grundtipp_.isNull()) {
+        grundtipp_ = toolTip();
+    }
     // What is cut at the edge can still be read in the tip.
-    setToolTip(ganz.size().height() > height() ? text : QString());
+    setToolTip(ganz.size().height() > height() ? text : grundtipp_);
+    setAccessibleDescription(toolTip());
 }
 
 void Textschild::paintEvent(QPaintEvent*) {

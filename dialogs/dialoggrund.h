@@ -49,6 +49,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+
+private:
+    QString grundtipp_; // the tip of a label whose text isn't cut
 };
 
 // Height that a title bar counts with in the dialogs' measures; the real one is the window manager's. In

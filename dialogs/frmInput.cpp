@@ -3,6 +3,7 @@
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
 #include "dialogs/eingabe.h"
+#include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
 #include "periphery/hinweise.h"
@@ -18,6 +19,7 @@ namespace {
 constexpr double innenBreite = 3525;
 constexpr double innenHoehe = 2985;
 constexpr double tastenOben = 2340;
+constexpr int tippBreite = 300; // pixels
 
 } // namespace
 
@@ -38,7 +40,9 @@ frmInput::frmInput()
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }
     ZeileBauen();
-    HinweiseSetzen();
+    TabfolgeSetzen();
+    TippsEinrichten(this, tippBreite);
+    HinweiseSetzen(*this, dialogtexte::eingabe);
     cmdOK_->setDefault(true);
     connect(cmdOK_, &QPushButton::clicked, this, &frmInput::OK_Click);
     connect(cmdAbbruch_, &QPushButton::clicked, this, &frmInput::Abbruch_Click);
@@ -62,14 +66,10 @@ QPushButton* frmInput::TasteBauen(const char* name, const QString& wort, double 
     return taste;
 }
 
-void frmInput::HinweiseSetzen() {
+void frmInput::TabfolgeSetzen() {
     setTabOrder(txtInput_, cmdOK_);
     setTabOrder(cmdOK_, cmdAbbruch_);
     setTabOrder(cmdAbbruch_, cmdHilfe_);
-    HinweisSetzen(cmdOK_, "Eingabe übernehmen.", "Hinweis", "");
-    HinweisSetzen(cmdAbbruch_, "Eingabe abbrechen.", "Schließen", "");
-    HinweisSetzen(cmdHilfe_, "Wenn erforderlich, wird hier ein Hilfesystem implementiert.", "Hiiiilfee !",
-                  "");
 }
 
 void frmInput::Fragen(const QString& text, const QString& titel) {

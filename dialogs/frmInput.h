@@ -28,7 +28,7 @@ protected:
 private:
     void ZeileBauen();
     QPushButton* TasteBauen(const char* name, const QString& wort, double links);
-    void HinweiseSetzen();
+    void TabfolgeSetzen();
     void VorgabeEinsetzen();
     void OK_Click();
     void Abbruch_Click();

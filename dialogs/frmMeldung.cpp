@@ -2,8 +2,10 @@
 
 #include "core/oberflaeche.h"
 #include "core/panel.h"
+#include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
+#include "periphery/hinweise.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -47,6 +49,7 @@ frmMeldung::frmMeldung()
     BilderBauen();
     NummerBauen();
     TasteBauen();
+    HinweiseSetzen(*this, dialogtexte::meldung);
     Anordnen();
 }
 

@@ -1,8 +1,10 @@
 #include "dialogs/frmNachricht.h"
 
 #include "core/oberflaeche.h"
+#include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
+#include "periphery/hinweise.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -45,6 +47,7 @@ frmNachricht::frmNachricht()
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }
     TastenBauen();
+    HinweiseSetzen(*this, dialogtexte::nachricht);
 }
 
 void frmNachricht::TastenBauen() {

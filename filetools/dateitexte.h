@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/texte.h"
+#include "periphery/hinweistext.h"
 
 #include <array>
 #include <string_view>
@@ -73,11 +74,15 @@ inline constexpr std::string_view laufwerkTipp = "Laufwerk {}";
 inline constexpr std::string_view laufwerkStatus = " Laufwerk {}\\ ";
 
 // What each control tells about itself.
-struct Hinweis {
-    std::string_view name, tipp, titel, status;
-};
 inline constexpr std::string_view standard = "Hinweis";
-inline constexpr std::array<Hinweis, 18> hinweise{{
+inline constexpr std::string_view alleTipp = "Anzahl aller Dateien im aktuellen Ordner.";
+inline constexpr std::string_view alleStatus = " Anzahl aller Dateien";
+inline constexpr std::string_view sicherungTipp = "Speichern mit Back Up.";
+inline constexpr std::string_view sicherungStatus = " Speichern mit Back Up (sichert vor dem Speichern)";
+inline constexpr std::string_view vorschauTipp =
+    "Vorschau der ausgewählten Datei.\r\n(Mit Linksklick wird sie wieder ausgeblendet.)";
+inline constexpr std::string_view ordnerStatus = " Ordnerauswahl";
+inline constexpr std::array hinweise{std::to_array<Hinweistext>({
     {"cmdLaden", "Ausgewählte Auswertungsdatei laden.", standard, " Laden ..."},
     {"cmdSpeichern", "Auswertungsdatei speichern.", standard, " Speichern ..."},
     {"cmdAbbrechen", "Dateidialogbox ausblenden!", "Schließen", " Dateidialog ausblenden"},
@@ -108,10 +113,32 @@ inline constexpr std::array<Hinweis, 18> hinweise{{
     {"fraDatei",
      "Die Buttons (Dateioptionen) in diesem Rahmen werden nach Doppelklick \r\nabwechselnd aktiv/inaktiv.",
      standard, " Dateioperationen"},
-    {"fraButtons", "", standard, " Laden ... / Speichern ..."},
-    {"chkBackUp", "Speichern mit Back Up.", standard, " Speichern mit Back Up (sichert vor dem Speichern)"},
+    {"fraButtons", "Ausgewählte Datei übernehmen oder Dateidialogbox ausblenden.", standard,
+     " Laden ... / Speichern ..."},
+    {"chkBackUp", sicherungTipp, standard, sicherungStatus},
+    {"lblBackUp", sicherungTipp, standard, sicherungStatus},
     {"cmdVorschau", "Größe, Datum und Fragenzahl der ausgewählten Datei anzeigen.", standard, " Vorschau"},
     {"cmdPfadZerlegen", "Pfad und Datum der ausgewählten Datei anzeigen.", standard, " Pfad"},
-}};
+    {"drvList", "Laufwerk aus der Liste auswählen.", standard, " Laufwerksauswahl"},
+    {"dirVerzeichnisliste", "Ordner mit Doppelklick auswählen.", standard, ordnerStatus},
+    {"fraDir", "Ordner im aktuellen Verzeichnis.", standard, ordnerStatus},
+    {"filDateiliste", "Datei mit Linksklick auswählen.\r\n(Mit Doppelklick wird sie gleich übernommen.)",
+     standard, " Dateiauswahl"},
+    {"picList", "Dateien im aktuellen Ordner.", standard, " Dateiauswahl"},
+    {"picDatei", "Anzahl der Dateien im aktuellen Ordner.", standard, " Anzahl der Dateien"},
+    {"picButtons", "Dateioptionen und Ordneroptionen.", standard, " Dateioperationen, Ordneraktionen"},
+    {"lblDateienAnzahl", "Anzahl der Dateien mit der ausgewählten Endung.", standard,
+     " Anzahl der angezeigten Dateien"},
+    {"lblAlleDateienAnzahl", alleTipp, standard, alleStatus},
+    {"lblAlle", alleTipp, standard, alleStatus},
+    {"txtDateiname", "Name der ausgewählten Datei.\r\n(Kann auch eingegeben werden.)", standard,
+     " Dateiname"},
+    {"cmbAppend", "Dateityp aus der Liste auswählen.", standard, " Dateityp"},
+    {"optAppend", "Dateien mit dieser Endung anzeigen.", standard, " Dateien mit dieser Endung anzeigen"},
+    {"pnlDatei", vorschauTipp, standard, " Vorschau"},
+    {"grdDatei", vorschauTipp, standard, " Vorschau"},
+    {"cmdDateiInfoEnde", "Vorschau ausblenden.", standard, " Vorschau ausblenden"},
+})};
+inline constexpr std::string_view ordnerTipptitel = "Ordner"; // above the whole path
 
 } // namespace dateitexte

@@ -10,7 +10,6 @@
 #include "filetools/kopiername.h"
 #include "filetools/laufwerksfeld.h"
 #include "filetools/ordneraktionen.h"
-#include "periphery/hinweise.h"
 #include "settings/einstellungen.h"
 
 #include <QCheckBox>
@@ -32,14 +31,6 @@ void AlleUmschalten(auto& tasten) {
 }
 
 } // namespace
-
-void frmDatei::HinweiseSetzen() {
-    for (const dateitexte::Hinweis& hinweis : dateitexte::hinweise) {
-        if (auto* steuerelement = findChild<QWidget*>(Anzeige(hinweis.name)); steuerelement != nullptr) {
-            HinweisSetzen(steuerelement, hinweis.tipp, hinweis.titel, hinweis.status);
-        }
-    }
-}
 
 void frmDatei::ListenVerbinden() {
     fraDatei_->installEventFilter(this);

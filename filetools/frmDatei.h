@@ -54,7 +54,6 @@ private:
     QWidget* TastenBauen();
     QWidget* SicherungBauen(bool benutzbar);
 
-    void HinweiseSetzen();
     void ListenVerbinden();
     void TastenVerbinden();
 

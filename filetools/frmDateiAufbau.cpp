@@ -4,6 +4,7 @@
 #include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
 #include "filetools/laufwerksfeld.h"
+#include "periphery/hinweise.h"
 #include "settings/einstellungen.h"
 
 #include <QCheckBox>
@@ -62,7 +63,7 @@ frmDatei::frmDatei(const Dateiauswahl& auswahl) {
     auto* spalte = new QVBoxLayout(this);
     spalte->addWidget(oben, 1);
     spalte->addLayout(unten);
-    HinweiseSetzen();
+    HinweiseSetzen(*this, dateitexte::hinweise);
     ListenVerbinden();
     TastenVerbinden();
     resize(800, 520);

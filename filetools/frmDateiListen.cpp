@@ -8,6 +8,7 @@
 #include "filetools/dateitexte.h"
 #include "filetools/frmDatei.h"
 #include "filetools/kopiername.h"
+#include "periphery/hinweise.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -74,7 +75,7 @@ bool frmDatei::OrdnerSetzen(const std::string& ordner) {
         dirVerzeichnisliste_->item(i)->setIcon(ordnerbild);
     }
     lblDir_->setText(Anzeige(ordner));
-    lblDir_->setToolTip(Anzeige(ordner));
+    HinweisSetzen(lblDir_, ordner, dateitexte::ordnerTipptitel, dateitexte::ordnerStatus);
     Filtern();
     return true;
 }

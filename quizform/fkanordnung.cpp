@@ -113,6 +113,10 @@ void frmFKFragen::HinweiseSetzen() {
     const auto setzen = [](QWidget* teil, const fktexte::Hinweis& hinweis) {
         HinweisSetzen(teil, hinweis.tipp, "Feldkranz", hinweis.status);
     };
+    setzen(pnlKranz, fktexte::kopf);
+    setzen(cmdFKSchliessen, fktexte::schliessen);
+    setzen(cmbWissen, fktexte::wissenListe);
+    setzen(cmbSpezial, fktexte::spezialListe);
     setzen(pnlDatum, fktexte::datum);
     setzen(txtDatum, fktexte::datum);
     setzen(pnlZeit, fktexte::zeit);

@@ -102,6 +102,13 @@ inline constexpr Hinweis frage{"Eine Frage :\r\n"
                                "- mit [Strg]+Linksklick Frage kopieren\r\n"
                                "   (Antwort wird mit kopiert)",
                                " Frage"};
+inline constexpr Hinweis wissenListe{"Wissensgebiet aus der Liste auswählen.", " Wissensgebiet auswählen"};
+inline constexpr Hinweis spezialListe{"Spezialfeld aus der Liste auswählen.", " Spezialfrage und -wertung"};
+inline constexpr Hinweis kopf{"Kopf des Feldkranz-Formulars.", " Feldkranz-Formular"};
+inline constexpr Hinweis schliessen{
+    "Feldkranz-Formular schließen;\r\n"
+    "es folgt noch eine Abfrage, ob das aktuelle Formular gespeichert werden soll.",
+    " Feldkranz-Formular schließen"};
 inline constexpr Hinweis antwort{"Eine Antwort :\r\n"
                                  "- kommt automatisch mit einer ausgewählten Frage\r\n"
                                  "- kann in das Textfeld eingegeben werden",

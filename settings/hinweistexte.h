@@ -33,7 +33,26 @@ inline constexpr std::string_view regelStatus = " Spielregeln beachten";
 inline constexpr std::string_view wissenStatus = " Anzahl der Wissensgebiete";
 inline constexpr std::string_view fragenStatus = " Anzahl der Fragen pro Wissensgebiet";
 
+inline constexpr std::string_view punkteStatus = " Punkte für Spezialfelder";
+inline constexpr std::string_view felderStatus = " Anzahl der zulässigen Spezialfelder";
+
 inline constexpr std::array hinweise{
+    Hinweis{"tabIni", "Register für die Voreinstellungen auswählen.", " Register für Voreinstellungen"},
+    Hinweis{"pnlIni(0)", "Punkte und Anzahl der Spezialfelder für das Formular.", " Spezialfelder"},
+    Hinweis{"pnlIni(1)", "Aussehen des Formulars auf dem Ausdruck.", " Formular auf dem Ausdruck"},
+    Hinweis{"pnlIni(2)", farbTipp, farbStatus},
+    Hinweis{"pnlIni(3)", "Standardwerte für Punkte und Anzahl der Spezialfelder.", " Standardvorgaben"},
+    Hinweis{"pnlIni(4)", "Einstellung von Dateioptionen und Formulargröße.", " Datei und Drucken"},
+    Hinweis{"pnlIni(5)", regelTipp, regelStatus},
+    Hinweis{"pnlToolbar", "Anzahl der Fragen und Befehle zu den Voreinstellungen.",
+            " Befehle zu den Voreinstellungen"},
+    Hinweis{"fraPunkte", "Punkte für die Spezialfelder im Formular.", punkteStatus},
+    Hinweis{"fraFelder", "Anzahl der zulässigen Spezialfelder im Formular.", felderStatus},
+    Hinweis{"fraPunkteV", "Standardwerte der Punkte für die Spezialfelder.", punkteStatus},
+    Hinweis{"fraFelderV", "Standardwerte für die Anzahl der Spezialfelder.", felderStatus},
+    Hinweis{"lblFragenFKW", "Anzahl der Wissensgebiete.", wissenStatus},
+    Hinweis{"lblFragenFKF", "Anzahl der Fragen pro Wissensgebiet.", fragenStatus},
+    Hinweis{"lblFragenFK", "Anzahl der Fragen insgesamt.", " Anzahl der Fragen insgesamt"},
     Hinweis{"cmdStandard", standardTipp, " Standwerte übernehmen"}, // meant: the word is the program's own
     Hinweis{"cmdStandard2",
             "Anzahl der Spezialfelder und Punkte nach Vorgabe für die aktuelle Anzahl der Felder.",
@@ -109,7 +128,5 @@ inline constexpr std::array<std::string_view, 5> felderTipps{
     "Anzahl der zulässigen Aktions-, bzw. Aufgabenfelder.", "Anzahl der zulässigen Ereignisfelder.",
     "Anzahl der zulässigen Glücksfelder.", "Anzahl der zulässigen Joker.",
     "Anzahl der zulässigen Risikofelder."};
-inline constexpr std::string_view punkteStatus = " Punkte für Spezialfelder";
-inline constexpr std::string_view felderStatus = " Anzahl der zulässigen Spezialfelder";
 
 } // namespace initexte

@@ -6,6 +6,7 @@
 #include "testform/texte.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -142,6 +143,12 @@ void frmHBFragen::HinweiseSetzen() {
           Wahltipp{gruppe, hbtexte::tippGruppe}}) {
         setzen(wahl.panel, hinweis);
         setzen(wahl.taste, hinweis);
+        setzen(wahl.liste, hinweis);
+    }
+    for (const auto& [name, hinweis] :
+         {std::pair{"lblFrage", &hbtexte::tippFragen}, std::pair{"lblAntwort", &hbtexte::tippAntworten},
+          std::pair{"lblPunkte", &hbtexte::tippPunkte}}) {
+        setzen(findChild<QWidget*>(QLatin1String(name)), *hinweis);
     }
     setzen(pnlTest, hbtexte::tippNummer);
     setzen(pnlName, hbtexte::tippName);
@@ -150,6 +157,7 @@ void frmHBFragen::HinweiseSetzen() {
     setzen(pnlGesamtpunkte, hbtexte::tippSumme);
     setzen(pnlPunktkontrolle, hbtexte::tippSumme);
     for (std::size_t i = 1; i < txtFrage.size(); ++i) {
+        setzen(pnlNr.at(i), hbtexte::tippZeile);
         setzen(txtFrage.at(i), hbtexte::tippFrage);
         setzen(txtAntwort.at(i), hbtexte::tippAntwort);
         setzen(pnlPunkte.at(i), hbtexte::tippPunkte);

@@ -71,6 +71,9 @@ inline constexpr Hinweis tippAntwort{"Eine Antwort :\r\n"
                                      "- kommt automatisch mit einer ausgewählten Frage\r\n"
                                      "- kann in das Textfeld eingegeben werden",
                                      " Antwort"};
+inline constexpr Hinweis tippZeile{"Nummer der Frage im Test", " Nr. der Frage"};
+inline constexpr Hinweis tippFragen{"Fragen des Tests", " Fragen des Tests"};
+inline constexpr Hinweis tippAntworten{"Antworten zu den Fragen", " Antworten zu den Fragen"};
 inline constexpr Hinweis tippPunkte{"Punktzahl bei richtiger Antwort", " Punkte für richtige Antwort"};
 inline constexpr Hinweis tippDreh{"Punktzahl erhöhen oder verringern (0 bis 20)",
                                   " Punkte für richtige Antwort ändern"};

@@ -395,9 +395,10 @@ void AuswahlTest::theDialogIsASingleWindowAndComesBackEmpty() {
 }
 
 void AuswahlTest::everyControlTellsItsTip() {
-    for (const auto& [name, titel, text] : auswahltexte::tipps) {
+    for (const auto& [name, text, titel, status] : auswahltexte::hinweise) {
         const QWidget* element = Finden(fenster_, Anzeige(name));
         QCOMPARE(element->toolTip(), Anzeige(text));
+        QCOMPARE(element->property("tippstatus").toString(), Anzeige(status));
         QCOMPARE(element->property("tipptitel").toString(), Anzeige(titel));
     }
 }

@@ -127,7 +127,10 @@ private Q_SLOTS:
                 const QRect label = Kind<QLabel>(dialog, "lblMeldung").geometry();
                 oben[i] = dialog.grab(label).toImage();
                 unten[i] = dialog.grab(QRect(0, label.bottom() + 1, 337, 10)).toImage();
-                QCOMPARE(Kind<QLabel>(dialog, "lblMeldung").toolTip().isEmpty(), i == 0);
+                const auto& schild = Kind<QLabel>(dialog, "lblMeldung");
+                QCOMPARE(schild.toolTip(),
+                         i == 0 ? QStringLiteral("Das wollte ich dir nur sagen.") : schild.text());
+                QCOMPARE(schild.accessibleDescription(), schild.toolTip());
                 Bestaetigen(dialog);
             });
             const std::string zeilen = "eins\r\nzwei\r\ndrei\r\nvier";
