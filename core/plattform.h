@@ -73,6 +73,10 @@ void OrdnerLoeschen(const QString& ordner);
 // Starts the system's text editor with a file and comes back at once. False when none could be started.
 bool TexteditorStarten(const QString& datei);
 
+// True where a program that isn't the administrator's may shut a process of its own off from the rest of the
+// system. Web pages are shown only behind such a wall.
+bool ProzesseAbschirmbar();
+
 // Plays a wave file and waits for its end, 20 seconds at most. False when it could not be played.
 bool KlangAbspielen(const QString& datei);
 

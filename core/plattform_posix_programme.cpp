@@ -8,6 +8,10 @@
 #include <algorithm>
 #include <array>
 
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace plattform {
 
 namespace {
@@ -30,6 +34,26 @@ bool TexteditorStarten(const QString& datei) {
         const QString programm = QStandardPaths::findExecutable(QString::fromLatin1(name));
         return !programm.isEmpty() && QProcess::startDetached(programm, {datei});
     });
+}
+
+bool ProzesseAbschirmbar() {
+    if (::geteuid() == 0) {
+        return false;
+    }
+#ifdef Q_OS_LINUX
+    // Only trying tells: distributions and containers forbid it in many ways.
+    static const bool moeglich = [] {
+        const pid_t kind = ::fork();
+        if (kind == 0) {
+            ::_exit(::unshare(CLONE_NEWUSER) == 0 ? 0 : 1);
+        }
+        int ende = 1;
+        return kind > 0 && ::waitpid(kind, &ende, 0) == kind && ende == 0;
+    }();
+    return moeglich;
+#else
+    return true;
+#endif
 }
 
 bool KlangAbspielen(const QString& datei) {

@@ -195,6 +195,10 @@ bool TexteditorStarten(const QString& datei) {
     return QProcess::startDetached(QStringLiteral("notepad.exe"), {QDir::toNativeSeparators(datei)});
 }
 
+bool ProzesseAbschirmbar() {
+    return true;
+}
+
 bool KlangAbspielen(const QString& datei) {
     const std::wstring pfad = QDir::toNativeSeparators(datei).toStdWString();
     return ::sndPlaySoundW(pfad.c_str(), SND_SYNC) != 0;

@@ -1,0 +1,237 @@
+#include "periphery/dokumentleser.h"
+
+#include "core/oberflaeche.h"
+#include "periphery/dokumentansicht.h"
+#include "periphery/hinweise.h"
+#include "periphery/texte.h"
+#include "periphery/zusatz.h"
+
+#include <QHBoxLayout>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double stufe = 1.25;       // of the two buttons for the size
+constexpr int tipppause = 250;       // milliseconds
+constexpr int suchfeldBreite = 260;  // at most
+constexpr int seitenfeldBreite = 40; // pixels
+
+struct Taste {
+    std::string_view name;
+    std::string_view aufschrift;
+    std::string_view tipp;
+};
+constexpr std::array tasten{
+    Taste{"cmdSeiteZurueck", "Zurück", "Eine Seite zurückblättern.  [Strg]+[Bild auf]"},
+    Taste{"cmdSeiteWeiter", "Weiter", "Eine Seite weiterblättern.  [Strg]+[Bild ab]"},
+    Taste{"cmdKleiner", "−", "Seite kleiner zeigen.  [Strg]+[-]"},
+    Taste{"cmdGroesser", "+", "Seite größer zeigen.  [Strg]+[+]"},
+    Taste{"cmdBreite", "Breite", "Seite so breit wie das Fenster zeigen.  [Strg]+[0]"},
+    Taste{"cmdGanzeSeite", "Ganze Seite", "Seite ganz zeigen.  [Strg]+[1]"},
+    Taste{"cmdFundZurueck", "Vorige", "Zur vorigen Fundstelle.  [Umschalt]+[F3]"},
+    Taste{"cmdFundWeiter", "Nächste", "Zur nächsten Fundstelle.  [F3]"},
+};
+
+const Taste& TasteFuer(std::string_view name) {
+    return *std::ranges::find_if(tasten, [name](const Taste& taste) { return taste.name == name; });
+}
+
+} // namespace
+
+Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
+    auto* spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(0, 0, 0, 0);
+    spalte->setSpacing(2);
+    LeisteBauen();
+    spalte->addWidget(leiste_);
+    spalte->addWidget(SuchzeileBauen());
+    auto* zusatz = Zusatz<Dokumentzusatz>(QStringLiteral("feldkranz_pdf"));
+    if (zusatz != nullptr) {
+        ansicht_ = zusatz->Bauen(this);
+        ansicht_->Steuerelement()->setObjectName(QStringLiteral("seitenansicht"));
+        ansicht_->Steuerelement()->setAccessibleName(Anzeige(periphertexte::seitenName));
+        ansicht_->BeiWechsel([this] { Auffrischen(); });
+        setFocusProxy(ansicht_->Steuerelement());
+        spalte->addWidget(ansicht_->Steuerelement(), 1);
+    } else {
+        spalte->addStretch(1);
+    }
+    lblStand_ = new QLabel(this);
+    lblStand_->setObjectName(QStringLiteral("lblStand"));
+    lblStand_->setWordWrap(true);
+    spalte->addWidget(lblStand_);
+    TastenVerbinden();
+    Auffrischen();
+}
+
+QToolButton* Dokumentleser::TasteBauen(const char* name, void (Dokumentleser::*routine)()) {
+    const Taste& taste = TasteFuer(name);
+    auto* knopf = new QToolButton(this);
+    knopf->setObjectName(QLatin1String(name));
+    knopf->setText(Anzeige(taste.aufschrift));
+    knopf->setAutoRaise(true);
+    knopf->setFocusPolicy(Qt::TabFocus);
+    knopf->setAccessibleName(Anzeige(taste.tipp.substr(0, taste.tipp.find('.'))));
+    HinweisSetzen(knopf, taste.tipp, "Spielregel", {});
+    connect(knopf, &QToolButton::clicked, this, routine);
+    return knopf;
+}
+
+void Dokumentleser::LeisteBauen() {
+    leiste_ = new QToolBar(this); // what a narrow window has no room for goes into its menu
+    leiste_->setObjectName(QStringLiteral("leisteSeiten"));
+    leiste_->addWidget(TasteBauen("cmdSeiteZurueck", &Dokumentleser::Zurueck));
+    leiste_->addWidget(TasteBauen("cmdSeiteWeiter", &Dokumentleser::Weiter));
+    leiste_->addWidget(new QLabel(Anzeige(periphertexte::seite), this));
+    txtSeite_ = new QLineEdit(this);
+    txtSeite_->setObjectName(QStringLiteral("txtSeite"));
+    txtSeite_->setAccessibleName(Anzeige(periphertexte::seite));
+    txtSeite_->setFixedWidth(seitenfeldBreite);
+    txtSeite_->setValidator(new QIntValidator(0, 99999, txtSeite_));
+    leiste_->addWidget(txtSeite_);
+    lblSeiten_ = new QLabel(this);
+    lblSeiten_->setObjectName(QStringLiteral("lblSeiten"));
+    lblSeiten_->setMinimumWidth(seitenfeldBreite); // the bar doesn't make room for a longer text later
+    leiste_->addWidget(lblSeiten_);
+    leiste_->addSeparator();
+    leiste_->addWidget(TasteBauen("cmdKleiner", &Dokumentleser::Kleiner));
+    leiste_->addWidget(TasteBauen("cmdGroesser", &Dokumentleser::Groesser));
+    for (const auto& [name, routine] : {std::pair{"cmdBreite", &Dokumentleser::Breite},
+                                        std::pair{"cmdGanzeSeite", &Dokumentleser::GanzeSeite}}) {
+        QToolButton* knopf = TasteBauen(name, routine);
+        knopf->setCheckable(true);
+        leiste_->addWidget(knopf);
+    }
+    connect(txtSeite_, &QLineEdit::returnPressed, this, &Dokumentleser::SeiteGewaehlt);
+}
+
+QWidget* Dokumentleser::SuchzeileBauen() {
+    auto* zeile = new QWidget(this);
+    zeile->setObjectName(QStringLiteral("suchzeile"));
+    auto* reihe = new QHBoxLayout(zeile);
+    reihe->setContentsMargins(4, 0, 4, 0);
+    auto* lblSuche = new QLabel(Anzeige(periphertexte::suchen), zeile);
+    lblSuche->setObjectName(QStringLiteral("lblSuche"));
+    txtSuche_ = new QLineEdit(zeile);
+    txtSuche_->setObjectName(QStringLiteral("txtSuche"));
+    txtSuche_->setMaximumWidth(suchfeldBreite);
+    txtSuche_->setClearButtonEnabled(true);
+    lblSuche->setBuddy(txtSuche_);
+    reihe->addWidget(lblSuche);
+    reihe->addWidget(txtSuche_, 1);
+    reihe->addWidget(TasteBauen("cmdFundZurueck", &Dokumentleser::VorigerFund));
+    reihe->addWidget(TasteBauen("cmdFundWeiter", &Dokumentleser::NaechsterFund));
+    reihe->addStretch();
+    verzoegerung_.setSingleShot(true);
+    verzoegerung_.setInterval(tipppause);
+    connect(txtSuche_, &QLineEdit::textChanged, this, [this] { verzoegerung_.start(); });
+    connect(&verzoegerung_, &QTimer::timeout, this, &Dokumentleser::Suchen);
+    connect(txtSuche_, &QLineEdit::returnPressed, this, &Dokumentleser::NaechsterFund);
+    return zeile;
+}
+
+void Dokumentleser::Kurztaste(const QKeySequence& taste, void (Dokumentleser::*routine)()) {
+    auto* kurztaste = new QShortcut(taste, this);
+    kurztaste->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(kurztaste, &QShortcut::activated, this, routine);
+}
+
+void Dokumentleser::TastenVerbinden() {
+    if (ansicht_ == nullptr) {
+        return; // nothing to turn, to size or to search
+    }
+    Kurztaste(Qt::CTRL | Qt::Key_F, &Dokumentleser::SucheBeginnen);
+    Kurztaste(Qt::Key_Escape, &Dokumentleser::SucheVerlassen);
+    Kurztaste(Qt::Key_F3, &Dokumentleser::NaechsterFund);
+    Kurztaste(Qt::SHIFT | Qt::Key_F3, &Dokumentleser::VorigerFund);
+    Kurztaste(Qt::SHIFT | Qt::Key_Return, &Dokumentleser::VorigerFund);
+    Kurztaste(Qt::CTRL | Qt::Key_Plus, &Dokumentleser::Groesser);
+    Kurztaste(Qt::CTRL | Qt::Key_Minus, &Dokumentleser::Kleiner);
+    Kurztaste(Qt::CTRL | Qt::Key_0, &Dokumentleser::Breite);
+    Kurztaste(Qt::CTRL | Qt::Key_1, &Dokumentleser::GanzeSeite);
+    Kurztaste(Qt::CTRL | Qt::Key_PageUp, &Dokumentleser::Zurueck);
+    Kurztaste(Qt::CTRL | Qt::Key_PageDown, &Dokumentleser::Weiter);
+}
+
+bool Dokumentleser::Laden(const QString& datei) {
+    txtSuche_->clear();
+    Suchen();
+    geladen_ = ansicht_ != nullptr && ansicht_->Laden(datei);
+    Auffrischen();
+    return geladen_;
+}
+
+void Dokumentleser::Zurueck() {
+    ansicht_->SeiteZeigen(ansicht_->Seite() - 1);
+}
+
+void Dokumentleser::Weiter() {
+    ansicht_->SeiteZeigen(ansicht_->Seite() + 1);
+}
+
+void Dokumentleser::SeiteGewaehlt() {
+    ansicht_->SeiteZeigen(txtSeite_->text().toInt());
+    ansicht_->Steuerelement()->setFocus();
+    Auffrischen(); // a number beyond the pages reads as the page that is shown
+}
+
+void Dokumentleser::Kleiner() {
+    ansicht_->GroesseSetzen(ansicht_->Groesse() / stufe);
+}
+
+void Dokumentleser::Groesser() {
+    ansicht_->GroesseSetzen(ansicht_->Groesse() * stufe);
+}
+
+void Dokumentleser::Breite() {
+    ansicht_->Einpassen(Passung::Breite);
+}
+
+void Dokumentleser::GanzeSeite() {
+    ansicht_->Einpassen(Passung::Seite);
+}
+
+void Dokumentleser::Auffrischen() {
+    if (lblStand_ == nullptr) {
+        return; // the plug-in reports while the control is still being built
+    }
+    for (const char* name : {"leisteSeiten", "suchzeile"}) {
+        findChild<QWidget*>(QLatin1String(name))->setEnabled(geladen_);
+    }
+    if (!geladen_) {
+        txtSeite_->clear();
+        lblSeiten_->clear();
+        lblStand_->setText(
+            Anzeige(ansicht_ == nullptr ? periphertexte::kannNichtZeigen : periphertexte::nichtLesbar));
+        return;
+    }
+    const std::string seite = std::to_string(ansicht_->Seite());
+    const std::string seiten = std::to_string(ansicht_->Seiten());
+    std::string stand = Einsetzen(periphertexte::seiteVon,
+                                  {seite, seiten, std::to_string(std::lround(ansicht_->Groesse() * 100))});
+    if (fund_ >= 0) {
+        stand += Einsetzen(periphertexte::fundVon, {std::to_string(fund_ + 1), std::to_string(funde_)});
+    } else if (!gesucht_.isEmpty()) {
+        stand += Einsetzen(periphertexte::keinFund, {Modelltext(gesucht_)});
+    }
+    lblStand_->setText(Anzeige(stand));
+    txtSeite_->setText(Anzeige(seite));
+    lblSeiten_->setText(Anzeige(Einsetzen(periphertexte::von, {seiten})));
+    findChild<QToolButton*>(QStringLiteral("cmdSeiteZurueck"))->setEnabled(ansicht_->Seite() > 1);
+    findChild<QToolButton*>(QStringLiteral("cmdSeiteWeiter"))
+        ->setEnabled(ansicht_->Seite() < ansicht_->Seiten());
+    findChild<QToolButton*>(QStringLiteral("cmdBreite"))
+        ->setChecked(ansicht_->Einpassung() == Passung::Breite);
+    findChild<QToolButton*>(QStringLiteral("cmdGanzeSeite"))
+        ->setChecked(ansicht_->Einpassung() == Passung::Seite);
+}

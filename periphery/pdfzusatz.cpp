@@ -1,0 +1,7 @@
+#include "periphery/pdfzusatz.h"
+
+#include "periphery/seitenansicht.h"
+
+Dokumentansicht* Pdfzusatz::Bauen(QWidget* eltern) {
+    return new Seitenansicht(eltern);
+}
