@@ -6,6 +6,7 @@
 #include "core/testbefehle.h"
 #include "core/texte.h"
 #include "dialogs/meldung.h"
+#include "filetools/formularliste.h"
 #include "persistence/oeffnen.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
@@ -62,6 +63,8 @@ constexpr std::array zuordnungen{
     Zuordnung{"mDateiFK(3)", FormularOeffnen},
     Zuordnung{"cmdDateiHB(2)", FormularOeffnen},
     Zuordnung{"mDateiHB(3)", FormularOeffnen},
+    Zuordnung{"cmdDateiliste", FormularlisteZeigen},
+    Zuordnung{"mAuswahl(2)", FormularlisteZeigen},
     Zuordnung{"mAuswahl(1)", AuswahlZeigen},
     Zuordnung{"cmdAuswahl(0)", AuswahlZeigen},
     Zuordnung{"cmdAuswahl(1)", AuswahlZeigen},

@@ -11,6 +11,7 @@
 #include "core/texte.h"
 #include "core/werkzeugleisten.h"
 #include "core/zustand.h"
+#include "filetools/formularliste.h"
 #include "periphery/hinweise.h"
 #include "persistence/einstellungenladen.h"
 #include "settings/einstellungen.h"
@@ -144,5 +145,6 @@ void HauptfensterZeigen() {
     auto* fenster = new frmMDI;
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->showMaximized();
+    FormularlisteMitStartZeigen();
     NormalerZeiger();
 }

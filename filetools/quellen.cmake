@@ -1,4 +1,4 @@
-feldkranz_quellen(modell filetools/kopiername.cpp)
+feldkranz_quellen(modell filetools/formularlistetexte.cpp filetools/kopiername.cpp)
 feldkranz_quellen(fenster
   filetools/dateidialog.cpp
   filetools/dateiaktionen.cpp
@@ -6,4 +6,7 @@ feldkranz_quellen(fenster
   filetools/fehlerkasten.cpp
   filetools/dateivorschau.h filetools/dateivorschau.cpp
   filetools/laufwerksfeld.h filetools/laufwerksfeld.cpp
-  filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp)
+  filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp
+  filetools/formularliste.cpp
+  filetools/ordnerwaechter.cpp
+  filetools/frmFKformulare.h filetools/frmFKformulare.cpp filetools/frmFKformulareBau.cpp)

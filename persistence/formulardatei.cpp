@@ -44,9 +44,7 @@ void KopfLesen(WertLeser& leser, FormularErgebnis& ergebnis) {
     ergebnis.kennung = leser.Text();
     if (!FormTyp.empty() && ergebnis.kennung != FormTyp) {
         ergebnis.code = 2;
-        return;
     }
-    FormTyp = ergebnis.kennung;
 }
 
 } // namespace
@@ -54,6 +52,19 @@ void KopfLesen(WertLeser& leser, FormularErgebnis& ergebnis) {
 bool IstFormular(std::string_view bytes) {
     WertLeser leser(bytes);
     return !leser.AmEnde() && leser.Token() == kennungFormular;
+}
+
+bool FormularAnnehmbar(std::string_view bytes) {
+    FormularErgebnis ergebnis;
+    try {
+        WertLeser leser(bytes);
+        if (!leser.AmEnde()) {
+            KopfLesen(leser, ergebnis);
+        }
+    } catch (const Laufzeitfehler&) {
+        return false; // cut short inside its head
+    }
+    return !ergebnis.code;
 }
 
 std::string FormularBytes(std::string_view tag) {
@@ -84,6 +95,7 @@ FormularErgebnis FormularAusBytes(std::string_view bytes, const WertLeser::Fehle
         // An empty file counts as read to the end.
         if (!leser.AmEnde()) {
             KopfLesen(leser, ergebnis);
+            FormTyp = ergebnis.code ? FormTyp : ergebnis.kennung;
         }
         if (!ergebnis.code) {
             AbschnitteLesen(leser, abschnitte);

@@ -4,6 +4,7 @@
 
 #include "persistence/wertgrammatik.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -50,8 +51,15 @@ struct FormularErgebnis {
     [[nodiscard]] bool begonnen() const { return !kennung.empty() && code != 1 && code != 2; }
 };
 
+// More than all the texts of a form at their longest; a larger file is damaged.
+inline constexpr std::size_t groesstesFormular = std::size_t{8} << 20U;
+
 // True when the bytes begin with the type word of a form.
 [[nodiscard]] bool IstFormular(std::string_view bytes);
+
+// True when FormularAusBytes would take the file: a form of the open kind, any form while none is open, or an
+// empty file. Changes nothing.
+[[nodiscard]] bool FormularAnnehmbar(std::string_view bytes);
 
 // Reads a form file into the shared variables, FormTyp among them, and repairs what no form can do without.
 // An error that a damaged value causes goes to melder, and the statement is tried again on the next token; an

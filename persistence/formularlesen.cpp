@@ -3,6 +3,7 @@
 #include "core/hauptfenster.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "filetools/formularliste.h"
 #include "persistence/formulardatei.h"
 #include "persistence/oeffnen.h"
 #include "persistence/texte.h"
@@ -21,9 +22,6 @@ void Fehlerkasten(const Laufzeitfehler& fehler) {
     Systemkasten(Kastenart::Schlicht, fehlerTitel,
                  Einsetzen(fehlerStelle, {std::to_string(fehler.nummer()), std::to_string(fehler.zeile())}));
 }
-
-// More than all the texts of a form at their longest.
-constexpr std::size_t groesstesFormular = std::size_t{8} << 20U;
 
 // What the user wants after the file could not be opened.
 enum class Danach : std::uint8_t { NochEinmal, AndereDatei, Aufhoeren };
@@ -100,14 +98,18 @@ FormularErgebnis Auswerten(const std::string& bytes) {
 
 } // namespace
 
-Lesung FormularEinlesen() {
+Lesung FormularEinlesen(const std::function<bool()>& vorDemErsatz) {
     const std::optional<std::string> bytes = Bytes();
     if (!bytes) {
+        return Lesung::Nichts;
+    }
+    if (vorDemErsatz && FormularAnnehmbar(*bytes) && !vorDemErsatz()) {
         return Lesung::Nichts;
     }
     const FormularErgebnis ergebnis = Auswerten(*bytes);
     if (ergebnis.begonnen() && (ergebnis.kennung == "FK" || ergebnis.kennung == "Test")) {
         FlaggeZeigen(ergebnis.kennung == "Test");
+        FormularlisteTastenSetzen(ergebnis.kennung);
     }
     if (ergebnis.fehler) {
         Fehlerkasten(*ergebnis.fehler);

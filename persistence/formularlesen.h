@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 enum class Lesung : std::uint8_t {
     Ganz,         // read to the end
@@ -12,4 +13,5 @@ enum class Lesung : std::uint8_t {
     Nichts,       // not opened, or cut short inside its head; told, and another file may have been loaded
 };
 
-Lesung FormularEinlesen();
+// vorDemErsatz runs when the file is going to be taken and before it changes anything; false keeps it out.
+Lesung FormularEinlesen(const std::function<bool()>& vorDemErsatz = {});

@@ -24,6 +24,10 @@ void FormularpfadMerken(std::string_view tag) {
     gemerkt = {DateiName, NativerPfad(DateiName)};
 }
 
+void FormularpfadVergessen(std::string_view tag) {
+    PfadVon(tag).clear();
+}
+
 void FormularpfadEinsetzen(std::string_view tag) {
     DateiName = PfadVon(tag);
     if (!DateiName.empty() && DateiName == gemerkt.pfad) {

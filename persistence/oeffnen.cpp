@@ -10,12 +10,16 @@
 #include "persistence/formulardatei.h"
 #include "persistence/formularlesen.h"
 #include "persistence/formularpfad.h"
+#include "persistence/rettung.h"
+#include "persistence/rettungsname.h"
 #include "persistence/speichern.h"
 #include "persistence/texte.h"
 #include "persistence/wartezeiger.h"
 #include "quizform/fkformular.h"
 #include "settings/einstellungen.h"
 #include "testform/hbformular.h"
+
+#include <functional>
 
 namespace {
 
@@ -33,6 +37,15 @@ void QuizModus() {
     }
 }
 
+// What was rescued comes back as a form without a file: a save must not go over the rescued one.
+void PfadUebernehmen(std::string_view tag) {
+    if (IstRettungsname(NurDateiname(DateiName))) {
+        FormularpfadVergessen(tag);
+    } else {
+        FormularpfadMerken(tag);
+    }
+}
+
 void QuizZeigen() {
     DateilisteErgaenzen(DateiName);
     DateilisteAnzeigen();
@@ -40,7 +53,7 @@ void QuizZeigen() {
     HB_Entladen(); // only one form can be open
     QuizModus();
     FK_FormularZeigen(NurDateiname(DateiAlt) + " ");
-    FormularpfadMerken("FKFragen");
+    PfadUebernehmen("FKFragen");
     FormStatusSetzen(0);
 }
 
@@ -48,13 +61,18 @@ void TestZeigen() {
     // Only one form can be open. The one of the other kind was asked about before the file was read.
     FK_Entladen();
     HB_FormularZeigen(" Test : " + NurDateiname(DateiAlt));
-    FormularpfadMerken("HBFragen");
+    PfadUebernehmen("HBFragen");
     FormStatusSetzen(0);
+}
+
+// Mode tag of the form that is open, "" for none.
+std::string_view OffeneArt() {
+    return FKFragenOffen() != nullptr ? "FK" : HBFragenOffen() != nullptr ? "Test" : "";
 }
 
 // A tag of no kind opens no form, and a form that is open stays as it is.
 void NichtsZeigen() {
-    FormTyp = FKFragenOffen() != nullptr ? "FK" : HBFragenOffen() != nullptr ? "Test" : "";
+    FormTyp = OffeneArt();
     if (FormTyp.empty()) {
         FormStatusSetzen(0);
     }
@@ -68,6 +86,33 @@ std::string Schluss(const std::string& text, int zeichen) {
         zeichen -= (static_cast<unsigned char>(text[anfang]) & 0xC0U) == 0x80U ? 0 : 1;
     }
     return text.substr(anfang);
+}
+
+void Laden(const std::function<bool()>& vorDemErsatz) {
+    if (DateiName.empty()) {
+        Meldung(keineDatei);
+        return;
+    }
+    DateiAlt = DateiName;
+    const Lesung lesung = FormularEinlesen(vorDemErsatz);
+    if (lesung == Lesung::KeinFormular) {
+        Meldung(keinFormular);
+    }
+    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
+        return;
+    }
+    if (FormTyp == "FK") {
+        QuizZeigen();
+    } else if (FormTyp == "Test") {
+        TestZeigen();
+    } else {
+        NichtsZeigen();
+    }
+}
+
+// The bytes for a preview. A file that is too large for a form isn't searched for the numbers of one.
+std::string Vorschaubytes() {
+    return DateiLesen(DateiName, groesstesFormular);
 }
 
 } // namespace
@@ -89,24 +134,18 @@ void FormularOeffnen() {
 }
 
 void FormularLaden() {
-    if (DateiName.empty()) {
-        Meldung(keineDatei);
-        return;
+    FormTyp = OffeneArt(); // without a form the list of forms may have set one
+    Laden({});
+}
+
+void FormularErsetzen() {
+    if (const std::string_view art = OffeneArt(); !art.empty()) {
+        FormTyp = art; // the list's preview and buttons may have set another one
     }
-    DateiAlt = DateiName;
-    const Lesung lesung = FormularEinlesen();
-    if (lesung == Lesung::KeinFormular) {
-        Meldung(keinFormular);
-    }
-    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
-        return;
-    }
-    if (FormTyp == "FK") {
-        QuizZeigen();
-    } else if (FormTyp == "Test") {
-        TestZeigen();
-    } else {
-        NichtsZeigen();
+    std::string gerettet;
+    Laden([&gerettet] { return UngesichertesRetten(gerettet); });
+    if (!gerettet.empty()) {
+        HilfeText(Einsetzen(rettungsort, {gerettet}));
     }
 }
 
@@ -118,7 +157,7 @@ void FormularInfoLesen() {
     HilfeText(std::string(ichLade) + Schluss(DateiName, 12));
     try {
         const Wartezeiger warten;
-        if (const auto werte = FKIniAusBytes(DateiLesen(DateiName))) {
+        if (const auto werte = FKIniAusBytes(Vorschaubytes())) {
             FormTyp = werte->formTyp;
             FelderGesamt = werte->felderGesamt;
             FragenProWissen = werte->fragenProWissen;

@@ -52,6 +52,12 @@ inline constexpr MeldungsText quizOffen{
 inline constexpr std::string_view oeffnen = "Öffnen";
 inline constexpr std::string_view ichLade = " Ich lade ...  ";
 
+// Place that FehlerMelden names when that could not be kept.
+inline constexpr std::string_view ortRettung = "DATEI : Ungesichertes_Retten";
+// What became of an open form's unsaved changes, {} the file's name.
+inline constexpr std::string_view rettungsort =
+    " Ungesichertes liegt in [ {} ]; unter *.BAK hole ich es zurück.";
+
 // --- Run-time errors while a form is read, in stock boxes ---
 
 inline constexpr std::string_view fehlerTitel = "Fehler beim Laden !";

@@ -4,6 +4,7 @@
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "filetools/formularliste.h"
 #include "persistence/speichern.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/frmFKFragen.h"
@@ -95,6 +96,7 @@ void FK_Neu() {
     Fenster().show();
     KindNachVorn("FKFragen");
     FK_FenstertitelSetzen(fktexte::neuerTitel);
+    FormularlisteTastenSetzen("FK");
     FormStatusSetzen(0);
 }
 

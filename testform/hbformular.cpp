@@ -4,6 +4,7 @@
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "filetools/formularliste.h"
 #include "persistence/speichern.h"
 #include "quizform/fkformular.h"
 #include "testform/frmHBFragen.h"
@@ -111,6 +112,7 @@ bool HB_Neu() {
     HB_FragenLoeschen();
     KindNachVorn("HBFragen");
     HB_FenstertitelSetzen(hbtexte::neuerTitel);
+    FormularlisteTastenSetzen("Test");
     FormStatusSetzen(0);
     return true;
 }

@@ -202,10 +202,10 @@ void Druecken(const QWidget* ziel, Qt::KeyboardModifiers tasten, Stelle aufrufer
     SendenUndWarten(befehle, QEvent::MouseButtonPress, 1, aufrufer);
 }
 
-void Doppelklicken(const QWidget* ziel, Stelle aufrufer) {
+void Doppelklicken(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer) {
     KlickenMit(ziel,
                {QStringLiteral("click"), QStringLiteral("1"), QStringLiteral("click"), QStringLiteral("1")},
-               2, Qt::NoModifier, {}, aufrufer);
+               2, Qt::NoModifier, stelle, aufrufer);
 }
 
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer) {

@@ -23,7 +23,7 @@ void Klicken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
 // The same where the press itself may open a dialog, which then gets the release.
 void Druecken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
               Stelle aufrufer = Stelle::hier());
-void Doppelklicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
+void Doppelklicken(const QWidget* ziel, std::optional<QPoint> stelle = {}, Stelle aufrufer = Stelle::hier());
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 
 // Drags from one control to another with the modifiers held from press to release. While the pointer stands

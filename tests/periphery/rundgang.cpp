@@ -32,6 +32,7 @@ constexpr std::array ausnahmen{
     Ausnahme{"frmFKFragen", "picBildAufnehmen", Fehlt::Alles, "only carries a picture, never shown"},
     Ausnahme{"frmFKFragen", "picBildAblegen", Fehlt::Alles, "only carries a picture, never shown"},
     Ausnahme{"frmFKFragen", "picBildNein", Fehlt::Alles, "only carries a picture, never shown"},
+    Ausnahme{"frmFKformulare", "filDateiliste", Fehlt::Status, "leaves the last status text standing"},
     Ausnahme{"frmAuswahl", "cmbNr", Fehlt::Alles, "a list that only stores, never shown"},
     Ausnahme{"frmAuswahl", "cmbAntwort", Fehlt::Alles, "a list that only stores, never shown"},
     Ausnahme{"frmAuswahl", "cmbPunkte", Fehlt::Alles, "a list that only stores, never shown"},

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void theSelectionDialog();
     void theSettingsDialogOnAllItsTabs();
     void theFileDialog();
+    void theListOfForms();
     void theDialogsThatTellAndAsk();
     void everyMenuEntryHasAStatusText();
 };
@@ -94,6 +95,11 @@ void RundgangTest::theFileDialog() {
     fenster->show();
     QVERIFY(QTest::qWaitForWindowExposed(fenster.get()));
     Pruefen(*fenster, 30);
+}
+
+void RundgangTest::theListOfForms() {
+    Programm programm;
+    Pruefen(*FensterAbwarten(QStringLiteral("frmFKformulare")), 9);
 }
 
 void RundgangTest::theDialogsThatTellAndAsk() {

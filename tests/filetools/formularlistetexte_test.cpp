@@ -1,0 +1,63 @@
+// The texts of the list's preview, and the names under which unsaved work is kept.
+#include "core/zustand.h"
+#include "filetools/formularlistetexte.h"
+#include "persistence/formulardatei.h"
+#include "persistence/rettungsname.h"
+
+#include <gtest/gtest.h>
+
+TEST(Formularliste, ThePreviewHasThreeLinesWithItsBlanks) {
+    EXPECT_EQ(Vorschautext(30, 6, 5),
+              "Fragen gesamt    : 30\r\nWissensgebiete  :   6\r\nFragen je WG     :   5");
+    EXPECT_EQ(Vorschautext(-1, 0, 32767),
+              "Fragen gesamt    : -1\r\nWissensgebiete  :   0\r\nFragen je WG     :   32767");
+}
+
+TEST(Formularrettung, TheFirstNameHasNoNumber) {
+    EXPECT_EQ(Rettungsname(0), "UNGESICHERT.BAK");
+    EXPECT_EQ(Rettungsname(1), "UNGESICHERT1.BAK");
+    EXPECT_EQ(Rettungsname(12), "UNGESICHERT12.BAK");
+}
+
+struct Name {
+    const char* name;
+    bool rettung;
+};
+class Rettungsnamen : public ::testing::TestWithParam<Name> {};
+
+TEST_P(Rettungsnamen, AreToldFromOtherNames) {
+    EXPECT_EQ(IstRettungsname(GetParam().name), GetParam().rettung) << GetParam().name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Tabelle, Rettungsnamen,
+                         ::testing::Values(Name{"UNGESICHERT.BAK", true}, Name{"UNGESICHERT1.BAK", true},
+                                           Name{"ungesichert20.bak", true}, Name{"UNGESICHERT.FKR", false},
+                                           Name{"UNGESICHERTE.BAK", false},
+                                           Name{"MEIN UNGESICHERT.BAK", false},
+                                           Name{"UNGESICHERT 1.BAK", false}, Name{"HERBST.BAK", false},
+                                           Name{".BAK", false}, Name{"", false}));
+
+// Which files may take the place of an open form.
+struct Datei {
+    const char* bytes;
+    const char* formTyp;
+    bool annehmbar;
+};
+class Annahme : public ::testing::TestWithParam<Datei> {};
+
+TEST_P(Annahme, IsKnownBeforeAnythingChanges) {
+    FormTyp = GetParam().formTyp;
+    EXPECT_EQ(FormularAnnehmbar(GetParam().bytes), GetParam().annehmbar);
+    EXPECT_EQ(FormTyp, GetParam().formTyp);
+    FormTyp.clear();
+}
+
+INSTANTIATE_TEST_SUITE_P(Tabelle, Annahme,
+                         ::testing::Values(Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "", true},
+                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "FK", true},
+                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "Test", false},
+                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", "FK", false},
+                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", "Test", true},
+                                           Datei{"\"feldkranz\"\r\n\"FK\"\r\n", "", false},
+                                           Datei{"Liebe Eltern", "FK", false},
+                                           Datei{"\"Feldkranz\"\r\n", "FK", false}, Datei{"", "FK", true}));
