@@ -7,6 +7,7 @@
 #include "catalogue/katalogladen.h"
 #include "catalogue/muell.h"
 #include "catalogue/spaltenmodell.h"
+#include "core/bilder.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
@@ -42,6 +43,7 @@ void Fuellen(QComboBox* liste, std::span<const std::string> plaetze) {
 frmAuswahl::frmAuswahl(QWidget* eltern) : QWidget(eltern, Qt::Tool) {
     setObjectName(QStringLiteral("frmAuswahl"));
     setWindowTitle(Anzeige(auswahltexte::fenstertitel));
+    setWindowIcon(Bildzeichen("leiste/auswahl"));
     setAttribute(Qt::WA_DeleteOnClose);
     Aufbauen();
     KeinZiel(this);

@@ -4,6 +4,7 @@
 #include "catalogue/frmAuswahl.h"
 #include "catalogue/muell.h"
 #include "catalogue/spaltenmodell.h"
+#include "core/bilder.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
@@ -73,6 +74,7 @@ void frmAuswahl::Aufbauen() {
     QGroupBox* fraMuell = MuellAufbauen();
     auto* cmdAbbruch = new QPushButton(QStringLiteral("&Schließen"), this);
     cmdAbbruch->setObjectName(QStringLiteral("cmdAbbruch"));
+    TastenbildSetzen(cmdAbbruch, "datei/abbrechen");
     connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
     KeinZiel(cmdAbbruch);
     if (Niedrig(*this)) {
@@ -145,10 +147,13 @@ void frmAuswahl::VerborgeneAufbauen(QWidget* rahmen) {
         spalten_.push_back(new Spaltenmodell(spalte, this));
         AuswahlListe(rahmen, QLatin1String(name), 0, spalten_.back())->hide();
     }
+    auto* picAtom = new QLabel(rahmen); // out of sight; the drag itself shows picAtom1
+    picAtom->setObjectName(QStringLiteral("picAtom"));
+    picAtom->setPixmap(Bild("ziehen/knaeuel", devicePixelRatioF()));
+    picAtom->hide();
     for (const auto& [name, bild] :
-         {std::pair{"picAtom", ZiehBild::Atom}, std::pair{"picAtom1", ZiehBild::Atom},
-          std::pair{"picBildAufnehmen", ZiehBild::Aufnehmen}, std::pair{"picBildAblegen", ZiehBild::Ablegen},
-          std::pair{"picBildNein", ZiehBild::Nein}}) {
+         {std::pair{"picAtom1", ZiehBild::Atom}, std::pair{"picBildAufnehmen", ZiehBild::Aufnehmen},
+          std::pair{"picBildAblegen", ZiehBild::Ablegen}, std::pair{"picBildNein", ZiehBild::Nein}}) {
         auto* label = new QLabel(rahmen);
         label->setObjectName(QLatin1String(name));
         label->setPixmap(Ziehpixmap(bild, devicePixelRatioF()));

@@ -1,5 +1,6 @@
 #include "core/frmStart.h"
 
+#include "core/bilder.h"
 #include "core/frmMDI.h"
 #include "core/hinweistexte.h"
 #include "core/konfiguration.h"
@@ -74,6 +75,7 @@ void frmStart::BildLaden() {
     leser.setAutoDetectImageFormat(false);
     bild_ = QPixmap::fromImage(leser.read());
     if (!bild_.isNull()) {
+        bild_ = Feinbild(bild_, pfad, devicePixelRatioF());
         return;
     }
     if (QFileInfo::exists(datei)) {

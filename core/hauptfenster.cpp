@@ -1,5 +1,6 @@
 #include "core/hauptfenster.h"
 
+#include "core/bilder.h"
 #include "core/flaggen.h"
 #include "core/frmMDI.h"
 #include "core/laufzeitfehler.h"
@@ -15,8 +16,16 @@
 #include <QMdiSubWindow>
 
 #include <array>
+#include <utility>
 
 namespace {
+
+// What stands in the title bars of the child windows.
+constexpr std::array kindzeichen{std::pair<const char*, std::string_view>{"frmFKFragen", "leiste/feldkranz"},
+                                 std::pair<const char*, std::string_view>{"frmHBFragen", "leiste/test"},
+                                 std::pair<const char*, std::string_view>{"frmEditor", "leiste/editor"},
+                                 std::pair<const char*, std::string_view>{"frmBrowser", "leiste/regel"},
+                                 std::pair<const char*, std::string_view>{"frmHomepage", "leiste/netz"}};
 
 template <typename Steuerelement>
 Steuerelement* Teil(const char* name) {
@@ -142,6 +151,11 @@ QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster) {
     QMdiSubWindow* kind = haupt->Kindflaeche()->addSubWindow(
         fenster, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     kind->setAttribute(Qt::WA_DeleteOnClose);
+    for (const auto& [name, bild] : kindzeichen) {
+        if (fenster->objectName() == QLatin1String(name)) {
+            kind->setWindowIcon(Bildzeichen(bild));
+        }
+    }
     kind->adjustSize();
     return kind;
 }

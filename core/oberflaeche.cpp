@@ -1,16 +1,15 @@
 #include "core/oberflaeche.h"
 
+#include "core/bilder.h"
+
 #include <QApplication>
 #include <QGuiApplication>
-#include <QIcon>
-#include <QPainter>
 #include <QPalette>
 #include <QScreen>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <QWidget>
 
-#include <array>
 #include <cmath>
 
 namespace {
@@ -37,29 +36,6 @@ QPalette HellePalette() {
         palette.setColor(QPalette::Disabled, rolle, matt);
     }
     return palette;
-}
-
-// The board in small: three columns of coloured fields.
-QIcon Programmzeichen() {
-    constexpr int kante = 64;
-    QPixmap bild(kante, kante);
-    bild.fill(Qt::transparent);
-    QPainter maler(&bild);
-    maler.setRenderHint(QPainter::Antialiasing);
-    maler.setPen(QPen(QColor(92, 58, 30), 3));
-    maler.setBrush(QColor(255, 250, 235));
-    maler.drawRoundedRect(2, 2, kante - 4, kante - 4, 9, 9);
-    const std::array<QColor, 9> felder{QColor(247, 208, 82),  QColor(158, 200, 110), QColor(140, 184, 220),
-                                       QColor(224, 112, 88),  QColor(255, 255, 255), QColor(240, 164, 92),
-                                       QColor(140, 184, 220), QColor(247, 208, 82),  QColor(158, 200, 110)};
-    maler.setPen(QPen(QColor(92, 58, 30), 1.5));
-    for (int i = 0; i < 9; ++i) {
-        maler.setBrush(felder.at(static_cast<std::size_t>(i)));
-        const int spalte = i % 3;
-        const int reihe = i / 3;
-        maler.drawRoundedRect(QRect(9 + spalte * 16, 9 + reihe * 16, 14, 14), 3, 3);
-    }
-    return QIcon(bild);
 }
 
 } // namespace

@@ -16,6 +16,7 @@ feldkranz_quellen(fenster
   core/textfeld.cpp core/textfeld.h
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp
   core/ablage.cpp
+  core/bilder.cpp
   core/befehle.cpp
   core/flaggen.cpp
   core/formularbefehle.cpp

@@ -1,5 +1,5 @@
-// The buttons of the main window's toolbars as a table: on which bar each stands, its caption, and what it
-// tells about itself. What a button does is in core/befehle.cpp under the same name.
+// The buttons of the main window's toolbars as a table: on which bar each stands, its picture and caption,
+// and what it tells about itself. What a button does is in core/befehle.cpp under the same name.
 #pragma once
 
 #include <span>
@@ -10,6 +10,7 @@ enum class Leiste { Kranz, FK, HB, Immer };
 struct Schaltflaeche {
     Leiste leiste;
     std::string_view name;
+    std::string_view bild; // as core/bilder.h names it
     std::string_view aufschrift;
     std::string_view tipp;
     std::string_view titel;

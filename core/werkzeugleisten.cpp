@@ -1,6 +1,7 @@
 #include "core/werkzeugleisten.h"
 
 #include "core/befehle.h"
+#include "core/bilder.h"
 #include "core/flaggen.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
@@ -57,7 +58,7 @@ QWidget* Traeger(QWidget* pnlKranz, Leiste leiste) {
 void SchaltflaecheBauen(QWidget* pnlKranz, const Schaltflaeche& zeile) {
     auto* taste = new QToolButton(Traeger(pnlKranz, zeile.leiste));
     taste->setObjectName(Anzeige(zeile.name));
-    taste->setText(Anzeige(zeile.aufschrift));
+    TastenbildSetzen(taste, zeile.bild);
     taste->setAccessibleName(Anzeige(zeile.tipp).section(QLatin1Char('\n'), 0, 0));
     // A click takes the focus, so that typed text reaches the stored copy before the command runs.
     taste->setFocusPolicy(Qt::StrongFocus);
@@ -66,25 +67,54 @@ void SchaltflaecheBauen(QWidget* pnlKranz, const Schaltflaeche& zeile) {
     BefehlVerbinden(taste);
 }
 
-// Face of the captions, and what stands around each.
+// Where the room ends, captions give way from the front of this list: the pictures that everybody knows
+// first, then what is used seldom. The beginning of a picture's name stands for all that share it.
+constexpr std::array<std::string_view, 18> verzicht{
+    "leiste/mail",    "leiste/netz",    "leiste/drucken", "leiste/oeffnen",  "leiste/speichern",
+    "leiste/neu_",    "leiste/hilfe",   "leiste/drucker", "leiste/ende",     "leiste/brennek",
+    "leiste/tarvo",   "leiste/punkte_", "leiste/antwor",  "leiste/schliess", "leiste/fragen_",
+    "leiste/spezial", "leiste/editor",  "leiste/regel"};
+constexpr int polster = 8;    // around picture and caption
+constexpr int bildluecke = 4; // between the two
+
+// Face of the captions, the gap between groups, and how many of the list above go without a caption.
 struct Leistenmass {
     QFont schrift;
-    int polster;
     int luecke;
+    std::size_t ohneWort;
 };
 
+QString Aufschrift(const Schaltflaeche& zeile, const Leistenmass& mass) {
+    const auto ende = verzicht.begin() + static_cast<std::ptrdiff_t>(mass.ohneWort);
+    const bool weg = zeile.leiste != Leiste::Kranz &&
+                     std::any_of(verzicht.begin(), ende,
+                                 [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
+    return weg ? QString() : Anzeige(zeile.aufschrift);
+}
+
 int Tastenbreite(const Schaltflaeche& zeile, const Leistenmass& mass) {
-    return QFontMetrics(mass.schrift).horizontalAdvance(Anzeige(zeile.aufschrift)) + mass.polster;
+    const QString wort = Aufschrift(zeile, mass);
+    return tastenbildKante + polster +
+           (wort.isEmpty() ? 0 : bildluecke + QFontMetrics(mass.schrift).horizontalAdvance(wort));
+}
+
+// Whether the bar's row of buttons has that one; the end of the program is hidden while a form is open.
+bool Steht(const QWidget* pnlKranz, const Schaltflaeche& zeile, Leiste leiste) {
+    const auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
+    return zeile.leiste == leiste && taste != nullptr && !taste->isHidden();
 }
 
 // Places the buttons of one bar from the left and returns where the next would stand, in pixels.
 int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const Leistenmass& mass) {
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
-        auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
-        if (zeile.leiste != leiste || taste == nullptr) {
+        if (!Steht(pnlKranz, zeile, leiste)) {
             continue;
         }
+        auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
         taste->setFont(mass.schrift);
+        taste->setText(Aufschrift(zeile, mass));
+        taste->setToolButtonStyle(taste->text().isEmpty() ? Qt::ToolButtonIconOnly
+                                                          : Qt::ToolButtonTextBesideIcon);
         const int breite = Tastenbreite(zeile, mass);
         x += zeile.abstand ? mass.luecke : 0;
         taste->setGeometry(x, oben, breite, Pixel(leistenHoehe));
@@ -93,25 +123,27 @@ int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const Leistenma
     return x;
 }
 
-// Width that the quiz toolbar with miniature and flags and the constant buttons need together.
-int Bedarf(const Leistenmass& mass) {
+// Width that a toolbar, what stands behind it and the constant buttons need together.
+int Bedarf(const QWidget* pnlKranz, Leiste leiste, const Leistenmass& mass) {
     int bedarf = Pixel(2 * leistenRand + 525 + 120) + 4 + 24 + 4;
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
-        if (zeile.leiste == Leiste::FK || zeile.leiste == Leiste::Immer) {
+        if (Steht(pnlKranz, zeile, leiste) || Steht(pnlKranz, zeile, Leiste::Immer)) {
             bedarf += Tastenbreite(zeile, mass) + (zeile.abstand ? mass.luecke : 0);
         }
     }
     return bedarf;
 }
 
-// The largest face with which everything finds its place.
-Leistenmass LeistenmassFuer(int breite) {
-    for (const Leistenmass& mass : {Leistenmass{Schrift(8.25), 11, 7}, Leistenmass{Schrift(7.5), 9, 5}}) {
-        if (Bedarf(mass) <= breite) {
-            return mass;
+// As many captions as find their place beside the toolbar that stands.
+Leistenmass LeistenmassFuer(QWidget* pnlKranz) {
+    Leistenmass mass{Schrift(8.25), 7, 0};
+    for (const auto& [leiste, name] : leistennamen) {
+        while (!Traeger(pnlKranz, leiste)->isHidden() && Bedarf(pnlKranz, leiste, mass) > pnlKranz->width() &&
+               mass.ohneWort < verzicht.size()) {
+            ++mass.ohneWort;
         }
     }
-    return {Schrift(6.75), 6, 3};
+    return mass;
 }
 
 // picSpezial stands at the right end of the quiz toolbar, pnlHBPun at that of the test toolbar.
@@ -150,7 +182,7 @@ void WerkzeugleistenBauen(QWidget* pnlKranz) {
 }
 
 void WerkzeugleistenAnordnen(QWidget* pnlKranz) {
-    const Leistenmass mass = LeistenmassFuer(pnlKranz->width());
+    const Leistenmass mass = LeistenmassFuer(pnlKranz);
     QWidget* picKranz = Traeger(pnlKranz, Leiste::Kranz);
     picKranz->setGeometry(Pixel(leistenRand), Pixel(leistenRand), pnlKranz->width() - Pixel(2 * leistenRand),
                           Pixel(leistenHoehe));

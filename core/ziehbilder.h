@@ -9,6 +9,6 @@
 // Edge of a picture in logical pixels; its middle is the point that the pointer shows at.
 inline constexpr int ziehBildKante = 32;
 
-// picBildAufnehmen, picBildAblegen, picBildNein or picAtom1, drawn for a screen of that pixel ratio. A null
+// picBildAufnehmen, picBildAblegen, picBildNein or picAtom1, for a screen of that pixel ratio. A null
 // picture for Keins.
 [[nodiscard]] QPixmap Ziehpixmap(ZiehBild bild, double pixelverhaeltnis);

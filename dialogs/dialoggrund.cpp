@@ -1,5 +1,6 @@
 #include "dialogs/dialoggrund.h"
 
+#include "core/bilder.h"
 #include "core/datei.h"
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
@@ -42,7 +43,8 @@ Dialoggrund::Dialoggrund(const QString& name, double breite, double hoehe, Qt::W
 
 void Dialoggrund::HintergrundLaden(std::string_view name) {
     try {
-        grund_ = BildLaden(AppPfad + "\\BITMAP\\FK_" + std::string(name));
+        const std::string pfad = AppPfad + "\\BITMAP\\FK_" + std::string(name);
+        grund_ = Feinbild(BildLaden(pfad), pfad, devicePixelRatioF());
     } catch (const Laufzeitfehler& fehler) {
         bildfehler_ = fehler;
     }

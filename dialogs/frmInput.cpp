@@ -35,7 +35,7 @@ frmInput::frmInput()
     TwipsGeometrie(lblInput_, 75, 750, innenBreite - 180, 855);
     HintergrundLaden("INPUT.bmp");
     for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
-        auto* bild = SinnbildLabel(this, "picSymbol", i, EingabeSinnbild(i));
+        auto* bild = SinnbildLabel(this, "picSymbol", i, sinnbilder::eingabe.at(static_cast<std::size_t>(i)));
         bild->move(Pixel(1560), Pixel(180));
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }

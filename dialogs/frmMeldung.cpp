@@ -59,7 +59,8 @@ void frmMeldung::BilderBauen() {
     pnlPic_->setAttribute(Qt::WA_NoSystemBackground);
     pnlPic_->setFarben(Qt::transparent, Qt::black);
     for (int i = 0; i < static_cast<int>(picMeldung_.size()); ++i) {
-        auto* bild = SinnbildLabel(pnlPic_, "picMeldung", i, MeldungSinnbild(i));
+        auto* bild =
+            SinnbildLabel(pnlPic_, "picMeldung", i, sinnbilder::meldung.at(static_cast<std::size_t>(i)));
         bild->move(Pixel(900), 0);
         picMeldung_[static_cast<std::size_t>(i)] = bild;
     }

@@ -1,5 +1,6 @@
 #include "dialogs/frmNachricht.h"
 
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
@@ -9,6 +10,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace {
 
@@ -21,7 +24,36 @@ constexpr double ungenutzt = -1;
 
 enum Taste { Ja, Nein, Abbrechen, Hilfe, OK };
 
-constexpr std::array<const char*, 5> worte{"Ja", "Nein", "Abbrechen", "Hilfe", "OK"};
+struct Antwort {
+    const char* wort;
+    std::string_view bild;
+};
+constexpr std::array antworten{Antwort{"Ja", "wort/ja"}, Antwort{"Nein", "wort/nein"},
+                               Antwort{"Abbrechen", "wort/abbrechen"}, Antwort{"Hilfe", "wort/hilfe"},
+                               Antwort{"OK", "wort/ok"}};
+constexpr QSize wortbild(93, 22);
+constexpr int beiseite = 40; // blanks
+
+// A button whose word is part of its picture. The caption holds only the access key, and is pushed out of
+// sight.
+class Worttaste : public QPushButton {
+public:
+    Worttaste(QWidget* eltern, const Antwort& antwort) : QPushButton(eltern) {
+        setText(QLatin1Char('&') + QString(QLatin1Char(*antwort.wort)) + QString(beiseite, QLatin1Char(' ')));
+        setAccessibleName(QLatin1String(antwort.wort));
+        setIcon(Bildzeichen(antwort.bild));
+        setIconSize(wortbild);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter maler(this);
+        QStyleOptionButton art;
+        initStyleOption(&art);
+        art.text.clear();
+        maler.drawControl(QStyle::CE_PushButton, art);
+    }
+};
 
 // Left edges of the buttons by button set, in twips.
 constexpr std::array<std::array<double, 5>, 5> tastenLinks{{
@@ -42,7 +74,8 @@ frmNachricht::frmNachricht()
     HintergrundLaden("NACHRICHT.bmp");
     TwipsGeometrie(lblNachrichtentext_, 750, 255, 5295, 1155);
     for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
-        auto* bild = SinnbildLabel(this, "picSymbol", i, NachrichtSinnbild(i));
+        auto* bild =
+            SinnbildLabel(this, "picSymbol", i, sinnbilder::nachricht.at(static_cast<std::size_t>(i)));
         bild->move(Pixel(195), Pixel(240));
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }
@@ -53,10 +86,8 @@ frmNachricht::frmNachricht()
 void frmNachricht::TastenBauen() {
     constexpr std::array<double, 5> entwurfLinks{120, 1740, 3360, 4980, 2565};
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
-        auto* taste = new QPushButton(QStringLiteral("&") + QLatin1String(worte[i]), this);
+        auto* taste = new Worttaste(this, antworten.at(i));
         taste->setObjectName(QStringLiteral("cmdAntwort(%1)").arg(i));
-        taste->setAccessibleName(QLatin1String(worte[i]));
-        taste->setFont(Schrift(10));
         TwipsGeometrie(taste, entwurfLinks[i], fensterHoehe - 1140, tastenBreite, tastenHoehe);
         connect(taste, &QPushButton::clicked, this, [this, i] { Antwort_Click(static_cast<int>(i)); });
         cmdAntwort_[i] = taste;
@@ -129,14 +160,14 @@ void frmNachricht::reject() {
 }
 
 void frmNachricht::Antwort_Click(int taste) {
-    constexpr std::array<int, 5> antworten{antwortJa, antwortNein, antwortAbbrechen, 0, antwortOK};
+    constexpr std::array<int, 5> werte{antwortJa, antwortNein, antwortAbbrechen, 0, antwortOK};
     if (taste == Abbrechen) {
         SoundSpielen("clack");
     }
     // Hilfe gives no help: the question stays, without its picture.
     if (taste != Hilfe) {
         done(QDialog::Accepted);
-        NachrichtAntwort = static_cast<std::int16_t>(antworten[static_cast<std::size_t>(taste)]);
+        NachrichtAntwort = static_cast<std::int16_t>(werte[static_cast<std::size_t>(taste)]);
     }
     BildZeigen(false);
 }

@@ -1,3 +1,4 @@
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "dialogs/dialoggrund.h"
 #include "filetools/dateitexte.h"
@@ -19,6 +20,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace {
 
 QLabel* Schild(QWidget* eltern, const char* name, const QString& text = QString()) {
@@ -37,6 +40,20 @@ QListWidget* Liste(QWidget* eltern, const char* name, const QString& wort) {
     return liste;
 }
 
+constexpr std::array tastenbilder{Tastenbild{"cmdDatei(0)", "editor/kopieren"},
+                                  Tastenbild{"cmdDatei(1)", "datei/loeschen"},
+                                  Tastenbild{"cmdDatei(2)", "datei/suchen"},
+                                  Tastenbild{"cmdDatei(3)", "leiste/editor"},
+                                  Tastenbild{"cmdOrdner(0)", "datei/ordner_neu"},
+                                  Tastenbild{"cmdOrdner(1)", "datei/ordner_loeschen"},
+                                  Tastenbild{"cmdOrdner(2)", "datei/ordner_serie"},
+                                  Tastenbild{"cmdVorschau", "datei/vorschau"},
+                                  Tastenbild{"cmdPfadZerlegen", "datei/pfad"},
+                                  Tastenbild{"cmdLaden", "leiste/oeffnen"},
+                                  Tastenbild{"cmdSpeichern", "leiste/speichern"},
+                                  Tastenbild{"cmdAbbrechen", "datei/abbrechen"},
+                                  Tastenbild{"cmdHilfe", "leiste/hilfe"}};
+
 template <class Anordnung>
 Anordnung* Rahmenlos(QWidget* feld) {
     auto* anordnung = new Anordnung(feld);
@@ -49,6 +66,7 @@ Anordnung* Rahmenlos(QWidget* feld) {
 frmDatei::frmDatei(const Dateiauswahl& auswahl) {
     setObjectName(QStringLiteral("frmDatei"));
     setWindowTitle(Anzeige(auswahl.titel));
+    setWindowIcon(Bildzeichen("datei/ordner"));
     setModal(true);
     setSizeGripEnabled(true);
     auto* oben = new QWidget(this);
@@ -64,6 +82,7 @@ frmDatei::frmDatei(const Dateiauswahl& auswahl) {
     spalte->addWidget(oben, 1);
     spalte->addLayout(unten);
     HinweiseSetzen(*this, dateitexte::hinweise);
+    TastenbilderSetzen(this, tastenbilder);
     ListenVerbinden();
     TastenVerbinden();
     resize(800, 520);

@@ -1,3 +1,4 @@
+#include "core/bilder.h"
 #include "core/datei.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
@@ -70,7 +71,7 @@ bool frmDatei::OrdnerSetzen(const std::string& ordner) {
         unterordner.insert(unterordner.begin(), hoeher.toStdString());
     }
     Fuellen(dirVerzeichnisliste_, unterordner);
-    const QIcon ordnerbild = style()->standardIcon(QStyle::SP_DirIcon);
+    const QIcon ordnerbild = Bildzeichen("datei/ordner");
     for (int i = 0; i < dirVerzeichnisliste_->count(); ++i) {
         dirVerzeichnisliste_->item(i)->setIcon(ordnerbild);
     }

@@ -2,20 +2,12 @@
 // an upright one. A picture only.
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
-class Blattskizze : public QWidget {
+class Blattskizze : public QLabel {
     Q_OBJECT
 
 public:
     // halb: the form takes the upper half of an upright sheet.
     Blattskizze(QWidget* eltern, const QString& name, bool halb);
-
-    [[nodiscard]] QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* ereignis) override;
-
-private:
-    bool halb_;
 };

@@ -1,5 +1,6 @@
 #include "settings/frmIni.h"
 
+#include "core/bilder.h"
 #include "core/drehfeld.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
@@ -41,6 +42,7 @@ void VorgabenZeigen() {
 frmIni::frmIni() {
     setObjectName(QStringLiteral("frmIni"));
     setWindowTitle(Anzeige(initexte::fenster));
+    setWindowIcon(Bildzeichen("leiste/vorgaben"));
     setModal(true);
     HilfeText(initexte::laden);
     auto* spalte = new QVBoxLayout(this);

@@ -1,4 +1,5 @@
 // The six tabs of the settings dialog, the toolbar below them, and which of its controls a tab brings along.
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "settings/frmIni.h"
@@ -58,6 +59,11 @@ constexpr std::array dialogtasten{Tastenplatz{"cmdEinOK", "&OK", 0, 0},
                                   Tastenplatz{"cmdAbbrechen", "&Abbrechen", 0, 1},
                                   Tastenplatz{"cmdHilfe", "&Hilfe", 1, 1}};
 
+constexpr std::array tastenbilder{
+    Tastenbild{"cmdEinOK", "datei/ok"}, Tastenbild{"cmdAbbrechen", "datei/abbrechen"},
+    Tastenbild{"cmdHilfe", "leiste/hilfe"}, Tastenbild{"cmdIniLaden", "leiste/oeffnen"},
+    Tastenbild{"cmdIniSpeichern", "leiste/speichern"}};
+
 } // namespace
 
 void frmIni::RegisterBauen() {
@@ -102,6 +108,7 @@ void frmIni::ToolbarBauen() {
     };
     fuellen(register_, registertasten, 108);
     fuellen(dialog, dialogtasten, 90);
+    TastenbilderSetzen(pnlToolbar_, tastenbilder);
     reihe->addLayout(zaehler);
     reihe->addSpacing(gruppenabstand);
     reihe->addStretch();

@@ -1,0 +1,82 @@
+#include "core/bilder.h"
+
+#include "core/pfad.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QImageReader>
+#include <QPixmapCache>
+
+#include <array>
+
+namespace {
+
+QString Pfad(std::string_view name, bool doppelt) {
+    return QStringLiteral(":/bilder/%1%2.png")
+        .arg(QLatin1String(name.data(), static_cast<qsizetype>(name.size())),
+             QLatin1String(doppelt ? "@2x" : ""));
+}
+
+// The format is known: asking every picture plug-in for it would cost more than reading the picture.
+QPixmap Lesen(const QString& pfad, const char* format) {
+    if (!QFile::exists(pfad)) {
+        return {}; // the reader would grumble
+    }
+    QImageReader leser(pfad, format);
+    leser.setAutoDetectImageFormat(false);
+    return QPixmap::fromImage(leser.read());
+}
+
+} // namespace
+
+QPixmap Bild(std::string_view name, double aufloesung) {
+    const bool doppelt = aufloesung > 1.0;
+    const QString pfad = Pfad(name, doppelt);
+    QPixmap bild;
+    if (!QPixmapCache::find(pfad, &bild)) {
+        bild = Lesen(pfad, "png");
+        bild.setDevicePixelRatio(doppelt ? 2.0 : 1.0);
+        QPixmapCache::insert(pfad, bild);
+    }
+    return bild;
+}
+
+QIcon Bildzeichen(std::string_view name) {
+    QIcon zeichen;
+    for (const bool doppelt : {false, true}) {
+        if (const QString pfad = Pfad(name, doppelt); QFile::exists(pfad)) {
+            zeichen.addFile(pfad);
+        }
+    }
+    return zeichen;
+}
+
+void TastenbildSetzen(QAbstractButton* taste, std::string_view name) {
+    taste->setIcon(Bildzeichen(name));
+    taste->setIconSize(QSize(tastenbildKante, tastenbildKante));
+}
+
+void TastenbilderSetzen(const QObject* unter, std::span<const Tastenbild> bilder) {
+    for (const auto& [taste, bild] : bilder) {
+        if (auto* gefunden = unter->findChild<QAbstractButton*>(QLatin1String(taste)); gefunden != nullptr) {
+            TastenbildSetzen(gefunden, bild);
+        }
+    }
+}
+
+QPixmap Feinbild(const QPixmap& einfach, const std::string& pfad, double aufloesung) {
+    if (aufloesung <= 1.0) {
+        return einfach;
+    }
+    const std::string fein = pfad.substr(0, pfad.rfind('.')) + "@2x.bmp";
+    const QPixmap doppelt = Lesen(NativerPfad(fein), "bmp");
+    return doppelt.size() == 2 * einfach.size() ? doppelt : einfach;
+}
+
+QIcon Programmzeichen() {
+    QIcon zeichen;
+    for (const int kante : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        zeichen.addFile(QStringLiteral(":/bilder/programm/%1.png").arg(kante), QSize(kante, kante));
+    }
+    return zeichen;
+}

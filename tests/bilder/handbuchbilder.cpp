@@ -1,0 +1,150 @@
+// Prints a filled form of each kind, for the handbook's pictures of the paper. No test: it proves nothing, it
+// shows. SEITEN_ORDNER names the folder where the two PDF files go.
+#include "catalogue/katalogladen.h"
+#include "core/frmMDI.h"
+#include "quizform/fkformular.h"
+#include "quizform/formdaten.h"
+#include "testform/formdaten.h"
+#include "testform/hbformular.h"
+#include "tests/hilfe/dialogfolge.h"
+#include "tests/hilfe/finden.h"
+#include "tests/hilfe/programm.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QTest>
+
+namespace {
+
+std::size_t Nr(int n) {
+    return static_cast<std::size_t>(n);
+}
+
+struct Gebiet {
+    const char* thema;
+    const char* unterthema;
+};
+constexpr std::array<Gebiet, 6> gebiete{{{"Tiere", "Vögel"},
+                                         {"Land", "Städte"},
+                                         {"Neues Testament", "Jesus"},
+                                         {"Natur", "Himmel"},
+                                         {"Sport", "Olympiade"},
+                                         {"Häuptlingsbuch", "Feuerstellen"}}};
+
+Fragenliste Fragen(const Gebiet& gebiet) {
+    UnterthemenLaden(gebiet.thema);
+    Fragenliste liste;
+    FragenLaden(gebiet.thema, gebiet.unterthema, liste);
+    return liste;
+}
+
+// The first question of a list that is worth so many points.
+std::size_t Stelle(const Fragenliste& liste, int punkte) {
+    for (std::size_t i = 0; i < liste.anzahl(); ++i) {
+        if (liste.wert(i, Spalte::Punkte) == std::to_string(punkte)) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+void QuizFuellen() {
+    for (int a = 1; a <= anzahlGebiete; ++a) {
+        const Gebiet& gebiet = gebiete.at(Nr(a - 1));
+        WissenTitel.at(Nr(a)) = gebiet.thema;
+        const Fragenliste liste = Fragen(gebiet);
+        for (int r = 1; r <= fragenJeGebiet; ++r) {
+            const std::size_t n = Nr(fragenJeGebiet * (a - 1) + r);
+            const std::size_t i = Stelle(liste, r);
+            FrageText.at(n) = liste.wert(i, Spalte::Frage);
+            AntwortText.at(n) = liste.wert(i, Spalte::Antwort);
+        }
+    }
+    for (const auto& [n, buchstabe] : {std::pair{4, "J"},
+                                       {7, "G"},
+                                       {10, "J"},
+                                       {12, "E"},
+                                       {15, "R"},
+                                       {16, "J"},
+                                       {19, "G"},
+                                       {22, "R"},
+                                       {24, "E"},
+                                       {28, "J"}}) {
+        FeldSpezial.at(Nr(n)) = buchstabe;
+    }
+    const Fragenliste aufgaben = Fragen({"- Aufgaben -", "Standardaufgaben"});
+    for (const auto& [n, i] : {std::pair{3, 8}, {26, 7}}) {
+        FeldSpezial.at(Nr(n)) = "A";
+        FrageText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Frage);
+        AntwortText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Antwort);
+    }
+    FormNr = "1";
+    FormDatum = "20.11.2026";
+    FormZeit = "60 min";
+}
+
+void TestFuellen() {
+    const Fragenliste liste = Fragen({"Häuptlingsbuch", "Waldläuferzeichen"});
+    for (int n = 1; n <= anzahlTestfragen; ++n) {
+        const std::size_t i = Nr(2 * n - 1) % liste.anzahl();
+        HBFrageText.at(Nr(n)) = liste.wert(i, Spalte::Frage);
+        HBAntwortText.at(Nr(n)) = liste.wert(i, Spalte::Antwort);
+        HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(std::stoi(std::string(liste.wert(i, Spalte::Punkte))));
+        HBGesamtpunkte = static_cast<std::int16_t>(HBGesamtpunkte + HBPunkte.at(Nr(n)));
+    }
+    HBKopf1 = " TEST Häuptlingsfreizeit";
+    HBKopf2 = HBFach = " Waldläuferzeichen";
+    HBKopf3 = " II";
+}
+
+void Drucken(const QString& taste, const Programm& programm, const QString& pdf, const QString& ziel) {
+    Finden<QAbstractButton>(programm.haupt(), taste)->click();
+    const QString datei = programm.ordner().nativ(pdf);
+    QTRY_VERIFY(QFile::exists(datei));
+    const QDir ordner(qEnvironmentVariable("SEITEN_ORDNER", QStringLiteral(".")));
+    QFile::remove(ordner.filePath(ziel));
+    QVERIFY(QFile::copy(datei, ordner.filePath(ziel)));
+}
+
+} // namespace
+
+class Seitenbilder : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void feldkranz();
+    void test();
+};
+
+void Seitenbilder::feldkranz() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    QuizFuellen();
+    FK_FormularZeigen(" Feldkranz-Formular");
+    Dialogfolge dialoge;
+    dialoge.frage(
+        QStringLiteral("Formular drucken"),
+        QStringLiteral("Ich drucke das Formular für Feldkranz\nauf DIN A4 quer (blattfüllend) aus !"), 1);
+    Drucken(QStringLiteral("cmdDruckenFK(2)"), programm, QStringLiteral("KRANZ/Feldkranz.pdf"),
+            QStringLiteral("seite-feldkranz.pdf"));
+}
+
+void Seitenbilder::test() {
+    Programm programm;
+    programm.NeuesTestformular();
+    TestFuellen();
+    HB_FormularZeigen(" Test-Formular");
+    Dialogfolge dialoge;
+    const QString titel = QStringLiteral("Testformular ausdrucken");
+    dialoge.frage(titel, QStringLiteral("Ich drucke ein Testformular mit 10 Fragen aus !"), 1);
+    dialoge.erwarte({QStringLiteral("QMessageBox"), std::nullopt, std::nullopt, {QStringLiteral("OK")}});
+    dialoge.frage(titel,
+                  QStringLiteral("Das Testformular enthält auch Antworten.\n"
+                                 "Soll ich die Antworten mit ausdrucken ?"),
+                  6);
+    Drucken(QStringLiteral("cmdDruckenHB(2)"), programm, QStringLiteral("TEST/Test.pdf"),
+            QStringLiteral("seite-test.pdf"));
+}
+
+QTEST_MAIN(Seitenbilder)
+#include "seitenbilder.moc"
