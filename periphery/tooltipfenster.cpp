@@ -77,14 +77,17 @@ void Tippfenster::Stellen(const Tippaussehen& aussehen, const QString& text) {
     setAccessibleName(aussehen.titel);
     setAccessibleDescription(text);
     Umbrechen();
-    const QSizeF textgroesse = zeilen_.boundingRect().size();
+    double textbreite = 0.0;
+    for (int i = 0; i < zeilen_.lineCount(); ++i) {
+        textbreite = std::max(textbreite, zeilen_.lineAt(i).naturalTextWidth());
+    }
     const int titel =
         aussehen.titel.isEmpty()
             ? 0
             : Symbolbreite(aussehen) + QFontMetrics(Titelschrift()).horizontalAdvance(aussehen.titel);
-    const int breite = std::max(titel, static_cast<int>(std::ceil(textgroesse.width())));
+    const int breite = std::max(titel, std::min(aussehen.breite, static_cast<int>(std::ceil(textbreite))));
     resize(breite + 2 * innenrand,
-           Titelhoehe() + static_cast<int>(std::ceil(textgroesse.height())) + 2 * innenrand);
+           Titelhoehe() + static_cast<int>(std::ceil(zeilen_.boundingRect().height())) + 2 * innenrand);
     update();
 }
 
