@@ -10,13 +10,45 @@
 
 #include <QWidget>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
-bool HauptleisteSteht() {
-    const QWidget* haupt = Hauptfenster();
-    const auto* leiste = haupt == nullptr ? nullptr : haupt->findChild<QWidget*>(QStringLiteral("picKranz"));
-    return leiste != nullptr && !leiste->isHidden();
-}
+// What the main window shows of the mode it is in, to be put back after a refusal.
+class Modusanzeige {
+public:
+    Modusanzeige() {
+        for (const char* name :
+             {"picKranz", "picFK", "pnlFKFelder", "picEingabeFlagGruen", "picEingabeFlagRot"}) {
+            auto* teil = Finden(name);
+            gezeigt_.emplace_back(teil, teil != nullptr && !teil->isHidden());
+        }
+    }
+    void Zurueck() const {
+        if (Gezeigt(0)) {
+            ModusHaupt();
+        } else if (Gezeigt(1)) {
+            ModusFK();
+        }
+        for (std::size_t i = 2; i < gezeigt_.size(); ++i) {
+            if (gezeigt_[i].first != nullptr) {
+                gezeigt_[i].first->setVisible(Gezeigt(i));
+            }
+        }
+        FormTyp = formTyp_;
+    }
+
+private:
+    static QWidget* Finden(const char* name) {
+        const QWidget* haupt = Hauptfenster();
+        return haupt == nullptr ? nullptr : haupt->findChild<QWidget*>(QLatin1String(name));
+    }
+    [[nodiscard]] bool Gezeigt(std::size_t i) const { return gezeigt_[i].second; }
+
+    std::string formTyp_ = FormTyp;
+    std::vector<std::pair<QWidget*, bool>> gezeigt_;
+};
 
 } // namespace
 
@@ -27,19 +59,11 @@ void HBNeu() {
 }
 
 void HBNeuMitModus() {
-    const std::string formTyp = FormTyp;
-    const bool hauptleiste = HauptleisteSteht();
+    const Modusanzeige vorher;
     HB_ModusSetzen();
-    if (HB_Neu()) {
-        return;
+    if (!HB_Neu()) {
+        vorher.Zurueck();
     }
-    if (formTyp == "FK") {
-        ModusFK();
-    }
-    if (hauptleiste) {
-        ModusHaupt();
-    }
-    FormTyp = formTyp;
 }
 
 void HBSpeichern() {

@@ -1,5 +1,6 @@
 // What stands in the rows and the head of the open test form: into the stored copy, back from it, blanked on
-// the screen. The stored copy stays untouched by a blanking.
+// the screen. The stored copy stays untouched by a blanking. Meant: what was typed since the last merge isn't
+// in it and doesn't come back.
 #include "core/oberflaeche.h"
 #include "quizform/formdaten.h"
 #include "testform/frmHBFragen.h"

@@ -246,8 +246,11 @@ void SpeichernTest::anOverwriteAnsweredJaReplacesTheFile() {
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
     UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 6);
     GespeichertErwarten(dialoge, QStringLiteral("ALT.FKR"));
+    FormStatusSetzen(1);
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
     QVERIFY(lauf.Lesen(QStringLiteral("ALT.FKR")).startsWith("\"Feldkranz\"\r\n\"FK\"\r\n"));
 }
 

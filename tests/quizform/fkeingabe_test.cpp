@@ -76,6 +76,7 @@ private Q_SLOTS:
     void blankingAndRestoringFromTheMenuWhileACellHasTheFocus();
     void openingAListedFileLeavesTheFormUnchangedWhenItsCellIsLeft();
     void openingAFileClosesAnOpenList();
+    void blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLettersBack();
     void blankTypeOneLetterAndRestoreLeavesTheOthersBlank();
     void blankedSpecialFieldsComeBackWithLettersAndColours();
     void aDoubleClickOnTheMiniatureBringsTheFormToTheFront();
@@ -236,6 +237,48 @@ void FkEingabeTest::openingAFileClosesAnOpenList() {
     FK_FormularZeigen("A.FKR ");
     QVERIFY(!form->cmbWissen->isVisible());
     QVERIFY(form->pnlWissen.at(2)->isVisible());
+}
+
+void FkEingabeTest::blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLettersBack() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form);
+    for (std::size_t a = 1; a < WissenTitel.size(); ++a) {
+        form->pnlWissen.at(a)->setCaption(QStringLiteral("Titel %1").arg(a));
+    }
+    SpezialWaehlen(form, 1, 1);
+    SpezialWaehlen(form, 7, 2);
+    SpezialWaehlen(form, 30, 5);
+    FK_Merken();
+    FormStatusSetzen(0);
+    const auto gezeigt = [form] {
+        QStringList texte;
+        for (int n = 1; n <= anzahlFelder; ++n) {
+            texte << Anzeige(FK_Frage(n)) << Anzeige(FK_Antwort(n)) << form->pnlSpezial.at(Nr(n))->caption()
+                  << form->pnlPunkte.at(Nr(n))->caption() << Grund(form->txtFrage.at(Nr(n))).name();
+        }
+        for (std::size_t a = 1; a < WissenTitel.size(); ++a) {
+            texte << form->pnlWissen.at(a)->caption();
+        }
+        return texte;
+    };
+    const QStringList vorher = gezeigt();
+    Dialogfolge dialoge;
+    dialoge.frage(QStringLiteral("Fragen löschen"), loeschFrage, 6);
+    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLoeschen")), Qt::LeftButton);
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        const bool marke = n == 1 || n == 30; // Joker and Ereignis keep showing their text
+        QCOMPARE(FK_Frage(n).empty(), !marke);
+    }
+    QCOMPARE(FK_Frage(1), std::string("----- Joker ! -----\r\n"));
+    QCOMPARE(form->pnlWissen.at(6)->caption(), QStringLiteral("Titel 6"));
+    QCOMPARE(form->pnlSpezial.at(7)->caption(), QStringLiteral("G"));
+    QCOMPARE(FormGeaendert, std::int16_t(1));                    // the texts have changed
+    form->pnlWissen.at(6)->setCaption(QStringLiteral("anders")); // titles come back as well
+    for (int i = 0; i < 2; ++i) {
+        QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLaden")), Qt::LeftButton);
+        QCOMPARE(gezeigt(), vorher);
+    }
 }
 
 void FkEingabeTest::blankTypeOneLetterAndRestoreLeavesTheOthersBlank() {

@@ -16,6 +16,7 @@ class HbBefehleTest : public QObject {
 private Q_SLOTS:
     void refusingTheNewFormChangesNothing();
     void theMainMenusEntryPutsTheFormerModeBackWhenRefused();
+    void theMainMenusEntryRefusedPutsTheCountsBackAfterAFormHasGone();
     void theMainMenusEntryMakesANewForm();
     void aNewFormAsksAboutUnsavedChanges();
     void aNewTestFormTakesThePlaceOfAQuizForm();
@@ -65,6 +66,36 @@ void HbBefehleTest::theMainMenusEntryPutsTheFormerModeBackWhenRefused() {
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picFK"))->isVisible());
     QVERIFY(Finden(programm.haupt(), QStringLiteral("pnlFKFelder"))->isVisible());
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
+}
+
+void HbBefehleTest::theMainMenusEntryRefusedPutsTheCountsBackAfterAFormHasGone() {
+    Programm programm;
+    for (const QString& schliessen : {QStringLiteral("cmdDateiFK(5)"), QStringLiteral("cmdFKZurueck")}) {
+        programm.NeuesQuizformular();
+        Dialogfolge dialoge;
+        if (schliessen == QStringLiteral("cmdFKZurueck")) {
+            dialoge.frage(schliessenTitel, QStringLiteral("Ich schließe das Feldkranz-Formular !"), 1);
+        }
+        Druecken(programm, schliessen);
+        QVERIFY(FKFragenOffen() == nullptr);
+        const auto gezeigt = [&programm] {
+            QStringList namen;
+            for (const char* name : {"picKranz", "picFK", "picHB", "cmdEnde", "pnlFKFelder",
+                                     "picEingabeFlagGruen", "picEingabeFlagRot"}) {
+                if (Finden(programm.haupt(), QLatin1String(name))->isVisible()) {
+                    namen << QLatin1String(name);
+                }
+            }
+            return namen;
+        };
+        const QStringList vorher = gezeigt();
+        QVERIFY(vorher.contains(QStringLiteral("pnlFKFelder")));
+        dialoge.frage(neuTitel, neuFrage, 2);
+        Finden<QAction>(programm.haupt(), QStringLiteral("mDatei(2)"))->trigger();
+        QVERIFY(dialoge.fertig());
+        QCOMPARE(gezeigt(), vorher);
+        QCOMPARE(FormTyp, std::string());
+    }
 }
 
 void HbBefehleTest::theMainMenusEntryMakesANewForm() {

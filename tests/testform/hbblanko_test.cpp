@@ -57,6 +57,7 @@ private Q_SLOTS:
     void eachContentIsBlankedAndPutBackByItsMenuEntries();
     void abbrechenAndTheFrameBlankNothing();
     void aMergeAfterTheBlankingLosesTheStoredTexts();
+    void typedTextThatWasNeverMergedDoesntComeBack();
     void restoringPointsOfAFormWithoutAnyShows0InAllTenRows();
     void theTotalsStayAsTheyStand();
     void blankedQuestionsTurnTheRowGrey();
@@ -128,6 +129,27 @@ void HbBlankoTest::aMergeAfterTheBlankingLosesTheStoredTexts() {
     HB_FragenEinfuegen();
     QCOMPARE(HB_Frage(1), std::string());
     QCOMPARE(HB_Antwort(1), std::string("Antwort eins"));
+}
+
+void HbBlankoTest::typedTextThatWasNeverMergedDoesntComeBack() {
+    Programm programm;
+    frmHBFragen* form = Gefuellt(programm);
+    for (Textfeld* feld : {form->txtFrage.at(4), form->txtAntwort.at(10)}) {
+        feld->setFocus();
+        QTRY_VERIFY(feld->hasFocus());
+        QTest::keyClicks(feld, QStringLiteral("getippt"));
+    }
+    form->txtFrage.at(1)->setFocus(); // leaving a box merges nothing
+    QCOMPARE(HB_Frage(4), std::string("getippt"));
+    for (const std::size_t spalte : {std::size_t(0), std::size_t(1)}) {
+        Dialogfolge dialoge;
+        dialoge.frage(inhalte.at(spalte).titel, inhalte.at(spalte).frage + wiederEinfuegen, 6);
+        Druecken(programm, QLatin1String(inhalte.at(spalte).loeschen));
+        Druecken(programm, QLatin1String(inhalte.at(spalte).laden));
+    }
+    QCOMPARE(HB_Frage(4), std::string());
+    QCOMPARE(HB_Antwort(10), std::string("Antwort zehn"));
+    QCOMPARE(HB_Frage(1), std::string("Frage eins"));
 }
 
 void HbBlankoTest::restoringPointsOfAFormWithoutAnyShows0InAllTenRows() {

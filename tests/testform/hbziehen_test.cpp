@@ -71,6 +71,8 @@ private Q_SLOTS:
     void ontoAnOccupiedRowAnsweredAbbrechenNothingChanges();
     void ontoAnOccupiedRowAnsweredJaReplaces();
     void aMovedQuestionTakesItsAnswerAlongAndLeavesItsPoints();
+    void aRowDroppedOnItselfLosesItsQuestion();
+    void aCopyDroppedOnItsOwnRowKeepsTheQuestion();
     void aCopyWithAnEmptySelectionDialogLeavesTheAnswerEmpty();
     void aCopyTakesTheAnswerFromTheSelectionDialog();
     void anEmptyRowRefusesThePress();
@@ -155,6 +157,36 @@ void HbZiehenTest::aMovedQuestionTakesItsAnswerAlongAndLeavesItsPoints() {
     QCOMPARE(Grund(form->txtFrage.at(2)), Systemflaeche());
     QCOMPARE(DragArt, std::int16_t(0));
     QCOMPARE(DragHerkunft, std::string("HBFragen"));
+}
+
+void HbZiehenTest::aRowDroppedOnItselfLosesItsQuestion() {
+    Programm programm;
+    frmHBFragen* form = FormLinks(programm);
+    Fuellen(form, 2, "Wie viele?", "Zwölf");
+    Dialogfolge dialoge;
+    dialoge.frage(auswahlTitel, besetzt, 2);
+    maus::Ziehen(form->txtFrage.at(2), form->txtFrage.at(2), Qt::ShiftModifier, Zeigt(ZiehBild::Ablegen));
+    QTRY_VERIFY(dialoge.fertig());
+    QCOMPARE(HB_Frage(2), std::string("Wie viele?"));
+    dialoge.frage(auswahlTitel, besetzt, 6);
+    maus::Ziehen(form->txtFrage.at(2), form->txtFrage.at(2), Qt::ShiftModifier, Zeigt(ZiehBild::Ablegen));
+    QTRY_VERIFY(dialoge.fertig());
+    QTRY_COMPARE(HB_Frage(2), std::string());
+    QCOMPARE(HB_Antwort(2), std::string());
+    QCOMPARE(HBFrageText.at(2), std::string()); // merged at once, as every target
+    QCOMPARE(Grund(form->txtFrage.at(2)), Systemflaeche());
+}
+
+void HbZiehenTest::aCopyDroppedOnItsOwnRowKeepsTheQuestion() {
+    Programm programm;
+    frmHBFragen* form = FormLinks(programm);
+    Fuellen(form, 2, "Wie viele?", "Zwölf");
+    Dialogfolge dialoge;
+    dialoge.frage(auswahlTitel, besetzt, 6);
+    maus::Ziehen(form->txtFrage.at(2), form->txtFrage.at(2), Qt::ControlModifier, Zeigt(ZiehBild::Ablegen));
+    QTRY_VERIFY(dialoge.fertig());
+    QTRY_COMPARE(HB_Antwort(2), std::string()); // there is no selection dialog
+    QCOMPARE(HB_Frage(2), std::string("Wie viele?"));
 }
 
 void HbZiehenTest::aCopyWithAnEmptySelectionDialogLeavesTheAnswerEmpty() {
