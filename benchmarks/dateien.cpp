@@ -6,6 +6,7 @@
 #include "core/zustand.h"
 #include "persistence/formulardatei.h"
 #include "quizform/formdaten.h"
+#include "testform/formdaten.h"
 
 #include <benchmark/benchmark.h>
 
@@ -54,6 +55,27 @@ std::string VollesFormular(int mal) {
     return FormularBytes("FKFragen");
 }
 
+// A test with its ten rows full.
+std::string VollerTest() {
+    FormTyp = "Test";
+    HBFach = HBKopf2 = " Knoten und Bünde";
+    HBKopf1 = " Lernzielkontrolle Häuptlingsfreizeit";
+    HBKopf3 = " III";
+    HBFrageText.fill("Wie heißt der größte Knoten, mit dem man zwei gleich dicke Taue verbindet ? ");
+    HBAntwortText.fill("Kreuzknoten (Weberknoten, wenn die Taue ungleich sind)");
+    HBPunkte.fill(10);
+    HBGesamtpunkte = 100;
+    return FormularBytes("HBFragen");
+}
+
+// A kind of form: how its bytes are asked for, and a full one of it in the model and as bytes.
+struct Formart {
+    const char* tag;
+    std::string (*fuellen)();
+};
+constexpr Formart quiz{"FKFragen", [] { return VollesFormular(1); }};
+constexpr Formart test{"HBFragen", VollerTest};
+
 std::string Fragendatei(std::int64_t anzahl) {
     std::string bytes = "Fragen\r\n";
     for (std::int64_t i = 1; i <= anzahl; ++i) {
@@ -65,20 +87,20 @@ std::string Fragendatei(std::int64_t anzahl) {
 
 // --- Form files
 
-void FormularLesenUndSpeichern(benchmark::State& lauf) {
-    DateiSchreiben(Eigen("form.FKR"), VollesFormular(1));
+void FormularLesenUndSpeichern(benchmark::State& lauf, const Formart& art) {
+    DateiSchreiben(Eigen("form.FKR"), art.fuellen());
     for ([[maybe_unused]] auto _ : lauf) {
         const FormularErgebnis ergebnis = FormularAusBytes(DateiLesen(Eigen("form.FKR")), {});
         if (ergebnis.code != 0) {
             lauf.SkipWithError("no form file");
         }
-        DateiSchreiben(Eigen("form.FKR"), FormularBytes("FKFragen"));
+        DateiSchreiben(Eigen("form.FKR"), FormularBytes(art.tag));
     }
 }
 
 // Copies the bytes to a new file, forces file and folder to the disk and renames it, as a save must.
-void BytesKopieren(benchmark::State& lauf) {
-    DateiSchreiben(Eigen("roh.FKR"), VollesFormular(1));
+void BytesKopieren(benchmark::State& lauf, const Formart& art) {
+    DateiSchreiben(Eigen("roh.FKR"), art.fuellen());
     const std::string ziel = Nativ("roh.FKR");
     const std::string neben = Nativ("roh.neu");
     const int ordner = ::open(Ordner().path().toStdString().c_str(), O_RDONLY);
@@ -100,8 +122,8 @@ void BytesKopieren(benchmark::State& lauf) {
 }
 
 // One way each, from or to a file on the disk.
-void FormulareLesen(benchmark::State& lauf) {
-    DateiSchreiben(Eigen("lesen.FKR"), VollesFormular(1));
+void FormulareLesen(benchmark::State& lauf, const Formart& art) {
+    DateiSchreiben(Eigen("lesen.FKR"), art.fuellen());
     for ([[maybe_unused]] auto _ : lauf) {
         if (FormularAusBytes(DateiLesen(Eigen("lesen.FKR")), {}).code != 0) {
             lauf.SkipWithError("no form file");
@@ -112,12 +134,12 @@ void FormulareLesen(benchmark::State& lauf) {
 // As a save writes them, but for the forcing to the disk, which is the disk's affair and not the program's:
 // the bytes go over those of the same length, since cutting a file first makes some file systems force it as
 // well.
-void FormulareSchreiben(benchmark::State& lauf) {
-    DateiSchreiben(Eigen("schreiben.FKR"), VollesFormular(1));
+void FormulareSchreiben(benchmark::State& lauf, const Formart& art) {
+    DateiSchreiben(Eigen("schreiben.FKR"), art.fuellen());
     const std::string ziel = Nativ("schreiben.FKR");
     for ([[maybe_unused]] auto _ : lauf) {
         std::ofstream datei(ziel, std::ios::binary | std::ios::in | std::ios::out);
-        datei << FormularBytes("FKFragen") << std::flush;
+        datei << FormularBytes(art.tag) << std::flush;
         if (!datei) {
             lauf.SkipWithError("not written");
         }
@@ -175,10 +197,14 @@ void ZeilenInVektor(benchmark::State& lauf) {
     }
 }
 
-BENCHMARK(FormularLesenUndSpeichern)->UseRealTime();
-BENCHMARK(BytesKopieren)->UseRealTime();
-BENCHMARK(FormulareLesen)->UseRealTime();
-BENCHMARK(FormulareSchreiben)->UseRealTime();
+BENCHMARK_CAPTURE(FormularLesenUndSpeichern, quiz, quiz)->UseRealTime();
+BENCHMARK_CAPTURE(FormularLesenUndSpeichern, test, test)->UseRealTime();
+BENCHMARK_CAPTURE(BytesKopieren, quiz, quiz)->UseRealTime();
+BENCHMARK_CAPTURE(BytesKopieren, test, test)->UseRealTime();
+BENCHMARK_CAPTURE(FormulareLesen, quiz, quiz)->UseRealTime();
+BENCHMARK_CAPTURE(FormulareLesen, test, test)->UseRealTime();
+BENCHMARK_CAPTURE(FormulareSchreiben, quiz, quiz)->UseRealTime();
+BENCHMARK_CAPTURE(FormulareSchreiben, test, test)->UseRealTime();
 BENCHMARK(FormularImSpeicher)->Arg(1)->Arg(10)->UseRealTime();
 BENCHMARK(FragenInsModell)->Arg(fragen)->Arg(10 * fragen)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(ZeilenInVektor)->UseRealTime()->Unit(benchmark::kMillisecond);
@@ -198,9 +224,12 @@ int main(int argc, char** argv) {
         benchmark::RunSpecifiedBenchmarks(&zeiten);
     }
     zeiten.Ausgeben();
-    zeiten.Gegen("formular_datei", "FormularLesenUndSpeichern", "BytesKopieren");
-    zeiten.JeSekunde("formulare_lesen", "FormulareLesen");
-    zeiten.JeSekunde("formulare_schreiben", "FormulareSchreiben");
+    zeiten.Gegen("formular_datei", "FormularLesenUndSpeichern/quiz", "BytesKopieren/quiz");
+    zeiten.Gegen("test_datei", "FormularLesenUndSpeichern/test", "BytesKopieren/test");
+    zeiten.JeSekunde("formulare_lesen", "FormulareLesen/quiz");
+    zeiten.JeSekunde("tests_lesen", "FormulareLesen/test");
+    zeiten.JeSekunde("formulare_schreiben", "FormulareSchreiben/quiz");
+    zeiten.JeSekunde("tests_schreiben", "FormulareSchreiben/test");
     zeiten.Wachstum("formular_zehnfach", "FormularImSpeicher10", "FormularImSpeicher1");
     zeiten.Gegen("fragen_lesen", "FragenInsModell" + std::to_string(fragen), "ZeilenInVektor");
     zeiten.Wachstum("fragen_zehnfach", "FragenInsModell" + std::to_string(10 * fragen),

@@ -1,9 +1,10 @@
-// The filled quiz form as a PDF page, from the values of the form to the file on the disk, against a bare
-// page with 100 short texts and 100 rectangles through the same classes of the toolkit.
-#include "benchmarks/kennzahl.h"
+// The filled quiz form and the filled test as PDF pages, from the values of the form to the file on the disk,
+// against a bare page with 100 short texts and 100 rectangles through the same classes of the toolkit.
+#include "benchmarks/zeiten.h"
 #include "core/pfad.h"
 #include "printing/druckseite.h"
 #include "printing/seitenlayout.h"
+#include "printing/testseite.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,7 +15,6 @@
 #include <QTemporaryDir>
 
 #include <array>
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -61,6 +61,39 @@ void FormularDrucken(benchmark::State& lauf) {
     }
 }
 
+// A test as a leader fills it: ten questions of two lines with their answers and points.
+Testdruckdaten VollerTest() {
+    Testdruckdaten daten;
+    daten.titel = " Lernzielkontrolle Häuptlingsfreizeit";
+    daten.fach = " Knoten und Bünde";
+    daten.gruppenwort = " Gruppe :";
+    daten.gruppe = " III";
+    daten.name = " Name :";
+    daten.dateiname = "Knoten.FKR";
+    daten.gesamtpunkte = 100;
+    daten.mitAntworten = true;
+    for (std::size_t n = 1; n < daten.zeilen.size(); ++n) {
+        daten.zeilen[n] = {
+            "Welchen Knoten nimmst du, um zwei gleich dicke Taue so miteinander zu verbinden, daß "
+            "sie auch unter Last nicht rutschen, sich danach aber wieder lösen lassen ?",
+            "den Kreuzknoten; bei ungleich dicken Tauen den Weberknoten", "10"};
+    }
+    return daten;
+}
+
+void TestDrucken(benchmark::State& lauf) {
+    const std::string ziel = EigenerPfad(Ordner().filePath(QStringLiteral("test.pdf")));
+    const Testdruckdaten daten = VollerTest();
+    for ([[maybe_unused]] auto _ : lauf) {
+        Druckseite seite(QPageLayout::Portrait, ziel, "Messung");
+        const Testgeometrie g =
+            TestGeometrieRechnen(AnzahlTestfragen(daten), seite.masse().links, seite.masse().oben);
+        if (seite.Drucken(TestZeichnen(daten, g, seite.schriftmass()), [] {}) != ziel) {
+            lauf.SkipWithError("no page");
+        }
+    }
+}
+
 void SchlichteSeite(benchmark::State& lauf) {
     const QString ziel = Ordner().filePath(QStringLiteral("schlicht.pdf"));
     QPrinter drucker(QPrinter::HighResolution);
@@ -87,22 +120,8 @@ void SchlichteSeite(benchmark::State& lauf) {
 }
 
 BENCHMARK(FormularDrucken)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(TestDrucken)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(SchlichteSeite)->UseRealTime()->Unit(benchmark::kMillisecond);
-
-class Zeiten : public benchmark::BenchmarkReporter {
-public:
-    bool ReportContext(const Context&) override { return true; }
-    void ReportRuns(const std::vector<Run>& laeufe) override {
-        for (const Run& lauf : laeufe) {
-            versagt = versagt || lauf.error_occurred;
-            auto& ziel = lauf.run_name.function_name == "FormularDrucken" ? unser : schlicht;
-            ziel.push_back(lauf.GetAdjustedRealTime()); // ms, the unit of both
-        }
-    }
-
-    std::vector<double> unser, schlicht;
-    bool versagt = false;
-};
 
 } // namespace
 
@@ -119,8 +138,8 @@ int main(int argc, char** argv) {
     for (int runde = 0; runde < runden; ++runde) {
         benchmark::RunSpecifiedBenchmarks(&zeiten);
     }
-    std::cout << "quiz form: " << Median(zeiten.unser) << " ms, bare page: " << Median(zeiten.schlicht)
-              << " ms\n";
-    Verhaeltnis("druckseite", Median(zeiten.unser), Median(zeiten.schlicht), "ms");
-    return zeiten.versagt || zeiten.unser.empty() || zeiten.schlicht.empty() ? 1 : 0;
+    zeiten.Ausgeben();
+    zeiten.Gegen("druckseite", "FormularDrucken", "SchlichteSeite");
+    zeiten.Gegen("druckseite_test", "TestDrucken", "SchlichteSeite");
+    return zeiten.versagt() ? 1 : 0;
 }
