@@ -51,6 +51,7 @@ private Q_SLOTS:
     void aSaveAfterAFormWasLoadedCarriesTheFormsNumbers();
     void aSaveThatFailsIsReportedAndLeavesTheOldFile();
     void loadingShowsTheFile();
+    void aFileWithColour0LoadsAs7();
     void loadingAnsweredAbbrechenChangesNothing();
     void loadingWithoutAFileSaysSoInTheStatusLine();
     void openingAgainShowsTheValuesOfTheSettings();
@@ -325,6 +326,23 @@ void IniVorgabenTest::loadingShowsTheFile() {
     QCOMPARE(PunkteVA, std::int16_t(9));
     QCOMPARE(FarbeHintergrund, std::int16_t(4));
     QCOMPARE(FKFragenOffen()->palette().color(QPalette::Window), QColor(128, 0, 0));
+}
+
+void IniVorgabenTest::aFileWithColour0LoadsAs7() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    FarbeHintergrund = 1;
+    FKFragenOffen()->HintergrundMalen(1);
+    programm.ordner().schreiben(ini, IniMit(programm, {{27, "0"}}));
+    MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        QVERIFY(Finden<QAbstractButton>(&dialog, QStringLiteral("optFarbe(1)"))->isChecked());
+        dialoge.frage(ladenTitel, ladenFrage, 1);
+        Druecke(dialog, "cmdIniLaden");
+        QCOMPARE(FarbeHintergrund, std::int16_t(7));
+        QVERIFY(Finden<QAbstractButton>(&dialog, QStringLiteral("optFarbe(7)"))->isChecked());
+    });
+    QCOMPARE(FarbeHintergrund, std::int16_t(7));
+    QCOMPARE(FKFragenOffen()->palette().color(QPalette::Window), QColor(188, 184, 176));
 }
 
 void IniVorgabenTest::loadingAnsweredAbbrechenChangesNothing() {
