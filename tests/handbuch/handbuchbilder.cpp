@@ -1,10 +1,14 @@
-// Prints a filled form of each kind, for the handbook's pictures of the paper. No test: it proves nothing, it
-// shows. SEITEN_ORDNER names the folder where the two PDF files go.
+// Takes the handbook's pictures of windows at work, and prints a form of each kind for those of the paper. No
+// test: it proves nothing, it shows. BILDER_ORDNER names the folder where pictures and PDF files go.
 #include "catalogue/katalogladen.h"
 #include "core/frmMDI.h"
+#include "periphery/zusatz.h"
+#include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
 #include "quizform/formdaten.h"
+#include "settings/einstellungen.h"
 #include "testform/formdaten.h"
+#include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
@@ -12,12 +16,43 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QScreen>
 #include <QTest>
 
 namespace {
 
 std::size_t Nr(int n) {
     return static_cast<std::size_t>(n);
+}
+
+QString Ziel(const QString& name) {
+    return QDir(qEnvironmentVariable("BILDER_ORDNER", QStringLiteral("."))).filePath(name);
+}
+
+// The window with its frame, as it stands on the screen.
+void Bild(const QWidget* fenster, const QString& name) {
+    QTest::qWait(300); // the window manager draws its frame when it likes
+    const QRect ort = fenster->frameGeometry();
+    const QPixmap bild = fenster->screen()->grabWindow(0, ort.x(), ort.y(), ort.width(), ort.height());
+    QVERIFY(bild.save(Ziel(name + QStringLiteral(".png"))));
+}
+
+// A child window with its frame.
+void Kindbild(QWidget* fenster, const QString& name) {
+    QWidget* rahmen = fenster;
+    while (rahmen != nullptr && qobject_cast<QMdiSubWindow*>(rahmen) == nullptr) {
+        rahmen = rahmen->parentWidget();
+    }
+    QVERIFY(rahmen != nullptr);
+    QTest::qWait(300);
+    QVERIFY(rahmen->grab().save(Ziel(name + QStringLiteral(".png"))));
+}
+
+void Druecken(const QString& name) {
+    Finden<QAbstractButton>(MDIFenster(), name)->click();
 }
 
 struct Gebiet {
@@ -98,25 +133,27 @@ void TestFuellen() {
 }
 
 void Drucken(const QString& taste, const Programm& programm, const QString& pdf, const QString& ziel) {
-    Finden<QAbstractButton>(programm.haupt(), taste)->click();
+    Druecken(taste);
     const QString datei = programm.ordner().nativ(pdf);
     QTRY_VERIFY(QFile::exists(datei));
-    const QDir ordner(qEnvironmentVariable("SEITEN_ORDNER", QStringLiteral(".")));
-    QFile::remove(ordner.filePath(ziel));
-    QVERIFY(QFile::copy(datei, ordner.filePath(ziel)));
+    QFile::remove(Ziel(ziel));
+    QVERIFY(QFile::copy(datei, Ziel(ziel)));
 }
 
 } // namespace
 
-class Seitenbilder : public QObject {
+class Handbuchbilder : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void feldkranz();
     void test();
+    void editor();
+    void formularliste();
+    void spielregel();
 };
 
-void Seitenbilder::feldkranz() {
+void Handbuchbilder::feldkranz() {
     Programm programm;
     programm.NeuesQuizformular();
     QuizFuellen();
@@ -129,11 +166,12 @@ void Seitenbilder::feldkranz() {
             QStringLiteral("seite-feldkranz.pdf"));
 }
 
-void Seitenbilder::test() {
+void Handbuchbilder::test() {
     Programm programm;
     programm.NeuesTestformular();
     TestFuellen();
     HB_FormularZeigen(" Test-Formular");
+    Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));
     Dialogfolge dialoge;
     const QString titel = QStringLiteral("Testformular ausdrucken");
     dialoge.frage(titel, QStringLiteral("Ich drucke ein Testformular mit 10 Fragen aus !"), 1);
@@ -146,5 +184,54 @@ void Seitenbilder::test() {
             QStringLiteral("seite-test.pdf"));
 }
 
-QTEST_MAIN(Seitenbilder)
-#include "seitenbilder.moc"
+void Handbuchbilder::editor() {
+    const Programm programm;
+    Druecken(QStringLiteral("cmdEdit"));
+    QWidget* editor = FensterAbwarten(QStringLiteral("frmEditor"));
+    Dialogfolge dialoge;
+    dialoge.erwarte({QStringLiteral("frmDatei"),
+                     std::nullopt,
+                     std::nullopt,
+                     {QStringLiteral("cmdLaden")},
+                     [](QDialog& dialog) {
+                         auto* name = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
+                         name->selectAll();
+                         QTest::keyClicks(name, QStringLiteral("TIERE/TI_HAUS.TXT"));
+                     }});
+    Finden<QAbstractButton>(editor, QStringLiteral("cmdDatei(1)"))->click();
+    Kindbild(editor, QStringLiteral("frmEditor"));
+    delete editor;
+}
+
+void Handbuchbilder::formularliste() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    QuizFuellen();
+    FK_FormularZeigen(" Feldkranz-Formular");
+    FelderGesamt = 30;
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("FKFragen"));
+    for (const char* name : {"ABEND", "HERBST", "LAGER", "Nachtwanderung", "Sommerfest"}) {
+        programm.ordner().schreiben(QStringLiteral("KRANZ/%1.FKR").arg(QLatin1String(name)), bytes);
+    }
+    FK_Entladen();
+    Druecken(QStringLiteral("cmdDateiliste"));
+    QWidget* liste = FensterAbwarten(QStringLiteral("frmFKformulare"));
+    auto* dateien = Finden<QListWidget>(liste, QStringLiteral("filDateiliste"));
+    QTRY_COMPARE(dateien->count(), 5);
+    dateien->setFocus();
+    dateien->setCurrentRow(2);
+    Bild(liste, QStringLiteral("frmFKformulare"));
+}
+
+void Handbuchbilder::spielregel() {
+    const Programm programm;
+    ZusatzordnerVorgeben(QStringLiteral(FELDKRANZ_PROGRAMM));
+    Druecken(QStringLiteral("cmdSpielregel"));
+    QWidget* leser = FensterAbwarten(QStringLiteral("frmBrowser"));
+    QTest::qWait(1500); // the pages are drawn one by one
+    Kindbild(leser, QStringLiteral("frmBrowser"));
+    delete leser;
+}
+
+QTEST_MAIN(Handbuchbilder)
+#include "handbuchbilder.moc"
