@@ -7,6 +7,9 @@
 #include "core/texte.h"
 #include "dialogs/meldung.h"
 #include "filetools/formularliste.h"
+#include "periphery/frmHomepage.h"
+#include "periphery/mail.h"
+#include "periphery/spielregel.h"
 #include "persistence/oeffnen.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
@@ -123,6 +126,11 @@ constexpr std::array zuordnungen{
     Zuordnung{"mHilfen(1)", HilfeMenue},
     Zuordnung{"mHilfeFK", HilfeFormular},
     Zuordnung{"mHilfeHB", HilfeTestformular},
+    Zuordnung{"cmdSpielregel", SpielregelZeigen},
+    Zuordnung{"cmdHomepage", HomepageZeigen},
+    Zuordnung{"mHilfen(2)", HomepageZeigen},
+    Zuordnung{"cmdeMail", MailAnHersteller},
+    Zuordnung{"mHilfen(3)", MailAnHersteller},
     Zuordnung{"cmdTarvo", HinweisTarvo},
     Zuordnung{"mInfos(1)", HinweisTarvo},
     Zuordnung{"cmdBrennek", HinweisBrennek},

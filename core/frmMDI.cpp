@@ -13,6 +13,7 @@
 #include "core/zustand.h"
 #include "filetools/formularliste.h"
 #include "periphery/hinweise.h"
+#include "periphery/tray.h"
 #include "persistence/einstellungenladen.h"
 #include "settings/einstellungen.h"
 
@@ -81,6 +82,7 @@ void frmMDI::FlaechenBauen() {
     kindflaeche_->setBackground(QColor(166, 160, 148));
     kindflaeche_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     kindflaeche_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    TrayVerbinden(kindflaeche_);
     pnlHilfe_ = new Hilfepanel(mitte);
     pnlHilfe_->setFixedHeight(Pixel(hilfeHoehe));
     pnlFKFelder_ = FelderPanelBauen(pnlHilfe_);

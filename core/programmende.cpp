@@ -5,6 +5,7 @@
 #include "core/texte.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "periphery/tray.h"
 #include "persistence/einstellungenladen.h"
 #include "persistence/speichern.h"
 #include "quizform/fkformular.h"
@@ -61,6 +62,7 @@ void ProgrammEnde() {
         return;
     }
     SoundSpielen("trompete");
+    TrayEntfernen();
     if (beenden) {
         beenden();
         return;

@@ -15,8 +15,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
@@ -25,26 +23,6 @@ constexpr double stufe = 1.25;       // of the two buttons for the size
 constexpr int tipppause = 250;       // milliseconds
 constexpr int suchfeldBreite = 260;  // at most
 constexpr int seitenfeldBreite = 40; // pixels
-
-struct Taste {
-    std::string_view name;
-    std::string_view aufschrift;
-    std::string_view tipp;
-};
-constexpr std::array tasten{
-    Taste{"cmdSeiteZurueck", "Zurück", "Eine Seite zurückblättern.  [Strg]+[Bild auf]"},
-    Taste{"cmdSeiteWeiter", "Weiter", "Eine Seite weiterblättern.  [Strg]+[Bild ab]"},
-    Taste{"cmdKleiner", "−", "Seite kleiner zeigen.  [Strg]+[-]"},
-    Taste{"cmdGroesser", "+", "Seite größer zeigen.  [Strg]+[+]"},
-    Taste{"cmdBreite", "Breite", "Seite so breit wie das Fenster zeigen.  [Strg]+[0]"},
-    Taste{"cmdGanzeSeite", "Ganze Seite", "Seite ganz zeigen.  [Strg]+[1]"},
-    Taste{"cmdFundZurueck", "Vorige", "Zur vorigen Fundstelle.  [Umschalt]+[F3]"},
-    Taste{"cmdFundWeiter", "Nächste", "Zur nächsten Fundstelle.  [F3]"},
-};
-
-const Taste& TasteFuer(std::string_view name) {
-    return *std::ranges::find_if(tasten, [name](const Taste& taste) { return taste.name == name; });
-}
 
 } // namespace
 
@@ -74,15 +52,13 @@ Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
     Auffrischen();
 }
 
-QToolButton* Dokumentleser::TasteBauen(const char* name, void (Dokumentleser::*routine)()) {
-    const Taste& taste = TasteFuer(name);
+QToolButton* Dokumentleser::TasteBauen(const char* name, std::string_view aufschrift,
+                                       void (Dokumentleser::*routine)()) {
     auto* knopf = new QToolButton(this);
     knopf->setObjectName(QLatin1String(name));
-    knopf->setText(Anzeige(taste.aufschrift));
+    knopf->setText(Anzeige(aufschrift));
     knopf->setAutoRaise(true);
     knopf->setFocusPolicy(Qt::TabFocus);
-    knopf->setAccessibleName(Anzeige(taste.tipp.substr(0, taste.tipp.find('.'))));
-    HinweisSetzen(knopf, taste.tipp, "Spielregel", {});
     connect(knopf, &QToolButton::clicked, this, routine);
     return knopf;
 }
@@ -90,8 +66,8 @@ QToolButton* Dokumentleser::TasteBauen(const char* name, void (Dokumentleser::*r
 void Dokumentleser::LeisteBauen() {
     leiste_ = new QToolBar(this); // what a narrow window has no room for goes into its menu
     leiste_->setObjectName(QStringLiteral("leisteSeiten"));
-    leiste_->addWidget(TasteBauen("cmdSeiteZurueck", &Dokumentleser::Zurueck));
-    leiste_->addWidget(TasteBauen("cmdSeiteWeiter", &Dokumentleser::Weiter));
+    leiste_->addWidget(TasteBauen("cmdSeiteZurueck", "Zurück", &Dokumentleser::Zurueck));
+    leiste_->addWidget(TasteBauen("cmdSeiteWeiter", "Weiter", &Dokumentleser::Weiter));
     leiste_->addWidget(new QLabel(Anzeige(periphertexte::seite), this));
     txtSeite_ = new QLineEdit(this);
     txtSeite_->setObjectName(QStringLiteral("txtSeite"));
@@ -104,13 +80,16 @@ void Dokumentleser::LeisteBauen() {
     lblSeiten_->setMinimumWidth(seitenfeldBreite); // the bar doesn't make room for a longer text later
     leiste_->addWidget(lblSeiten_);
     leiste_->addSeparator();
-    leiste_->addWidget(TasteBauen("cmdKleiner", &Dokumentleser::Kleiner));
-    leiste_->addWidget(TasteBauen("cmdGroesser", &Dokumentleser::Groesser));
-    for (const auto& [name, routine] : {std::pair{"cmdBreite", &Dokumentleser::Breite},
-                                        std::pair{"cmdGanzeSeite", &Dokumentleser::GanzeSeite}}) {
-        QToolButton* knopf = TasteBauen(name, routine);
-        knopf->setCheckable(true);
-        leiste_->addWidget(knopf);
+    QToolButton* kleiner = TasteBauen("cmdKleiner", "−", &Dokumentleser::Kleiner);
+    QToolButton* groesser = TasteBauen("cmdGroesser", "+", &Dokumentleser::Groesser);
+    kleiner->setAccessibleName(Anzeige(periphertexte::kleiner)); // a sign alone can't be read out
+    groesser->setAccessibleName(Anzeige(periphertexte::groesser));
+    leiste_->addWidget(kleiner);
+    leiste_->addWidget(groesser);
+    for (QToolButton* passung : {TasteBauen("cmdBreite", "Breite", &Dokumentleser::Breite),
+                                 TasteBauen("cmdGanzeSeite", "Ganze Seite", &Dokumentleser::GanzeSeite)}) {
+        passung->setCheckable(true);
+        leiste_->addWidget(passung);
     }
     connect(txtSeite_, &QLineEdit::returnPressed, this, &Dokumentleser::SeiteGewaehlt);
 }
@@ -129,8 +108,8 @@ QWidget* Dokumentleser::SuchzeileBauen() {
     lblSuche->setBuddy(txtSuche_);
     reihe->addWidget(lblSuche);
     reihe->addWidget(txtSuche_, 1);
-    reihe->addWidget(TasteBauen("cmdFundZurueck", &Dokumentleser::VorigerFund));
-    reihe->addWidget(TasteBauen("cmdFundWeiter", &Dokumentleser::NaechsterFund));
+    reihe->addWidget(TasteBauen("cmdFundZurueck", "Vorige", &Dokumentleser::VorigerFund));
+    reihe->addWidget(TasteBauen("cmdFundWeiter", "Nächste", &Dokumentleser::NaechsterFund));
     reihe->addStretch();
     verzoegerung_.setSingleShot(true);
     verzoegerung_.setInterval(tipppause);

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <string_view>
+
 class Dokumentansicht;
 class QLabel;
 class QLineEdit;
@@ -24,7 +26,7 @@ public:
 private:
     void LeisteBauen();
     QWidget* SuchzeileBauen();
-    QToolButton* TasteBauen(const char* name, void (Dokumentleser::*routine)());
+    QToolButton* TasteBauen(const char* name, std::string_view aufschrift, void (Dokumentleser::*routine)());
     void TastenVerbinden();
     void Kurztaste(const QKeySequence& taste, void (Dokumentleser::*routine)());
 

@@ -4,6 +4,7 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "periphery/dokumentleser.h"
+#include "periphery/hinweise.h"
 #include "periphery/texte.h"
 
 #include <QApplication>
@@ -58,6 +59,7 @@ frmBrowser::frmBrowser(QWidget* eltern) : QWidget(eltern) {
     brwWebBrowser_ = new Dokumentleser(this);
     brwWebBrowser_->setObjectName(QStringLiteral("brwWebBrowser"));
     setFocusProxy(brwWebBrowser_);
+    HinweiseSetzen(*this, periphertexte::leserHinweise);
     for (const char* name : {"picAddress", "imlIcons"}) { // part of the window, and used by nobody
         auto* unbenutzt = new QLabel(this);
         unbenutzt->setObjectName(QLatin1String(name));

@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "core/plattform.h"
 #include "dialogs/texte.h"
+#include "periphery/hinweise.h"
 #include "periphery/netzansicht.h"
 #include "periphery/texte.h"
 #include "periphery/uebergabe.h"
@@ -47,6 +48,7 @@ frmHomepage::frmHomepage(const QUrl& seite, QWidget* eltern) : QWidget(eltern), 
     pnlErsatz_ = ErsatzBauen();
     SeiteDaZeigen(qobject_cast<QLabel*>(WebBrowser1_) == nullptr);
     setFocusProxy(WebBrowser1_);
+    HinweiseSetzen(*this, periphertexte::homepageHinweise);
 }
 
 void frmHomepage::NetzBauen() {

@@ -44,6 +44,7 @@ Webseite::Webseite(QWebEngineProfile* profil, Netzregeln regeln)
     Einschraenken();
     WuenscheAblehnen();
     connect(this, &QWebEnginePage::loadFinished, this, [this](bool gelungen) { regeln_.geladen(gelungen); });
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { regeln_.geladen(false); });
 }
 
 void Webseite::Einschraenken() {

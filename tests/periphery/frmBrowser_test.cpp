@@ -11,6 +11,7 @@
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
 #include "tests/hilfe/programm.h"
+#include "tests/periphery/rundgang.h"
 #include "tests/periphery/zusatzordner.h"
 
 #include <QBuffer>
@@ -469,8 +470,8 @@ void FrmBrowserTest::theWindowLooksFinished() {
         auto* taste = Finden<QToolButton>(BrowserOffen(), QLatin1String(name));
         QVERIFY2(taste->isVisible(), name);
         QVERIFY2(taste->width() >= taste->sizeHint().width(), name); // nothing is cut off
-        QVERIFY2(!taste->accessibleName().isEmpty() && !taste->toolTip().isEmpty(), name);
     }
+    QCOMPARE(rundgang::Maengel(*BrowserOffen()), QStringList()); // everything tells about itself
     BildVon(programm.haupt(), QStringLiteral("frmBrowser"));
 }
 

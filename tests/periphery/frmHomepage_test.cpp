@@ -1,12 +1,14 @@
 // The homepage's window: where it leads, what a page may do there, and that nothing is said when there is
 // none.
 #include "core/frmMDI.h"
+#include "core/plattform.h"
 #include "periphery/frmHomepage.h"
 #include "periphery/uebergabe.h"
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
+#include "tests/periphery/rundgang.h"
 #include "tests/periphery/zusatzordner.h"
 
 #include <QDir>
@@ -147,6 +149,7 @@ private Q_SLOTS:
     void aServerThatIsNotThereReportsNothing();
     void aPageWithAnErrorReportsNothing();
     void withoutThePlugInNothingIsReported();
+    void asTheAdministratorNoPageIsShownWithoutItsWalls();
     void theWindowClosesWhileItsPageIsLoading();
     void theWindowLooksFinished();
 };
@@ -280,11 +283,15 @@ void FrmHomepageTest::noFileOfTheMachineCanBeReadFromAPage() {
                                  ".catch(e=>fetch('/gesperrt'));"
                                  "let b=new Image();b.onload=()=>fetch('/gelesen?bild');"
                                  "b.onerror=()=>fetch('/bildgesperrt');b.src='file://%1';"
+                                 "let d=new Image();d.onload=()=>fetch('/gelesen?daten');"
+                                 "d.onerror=()=>fetch('/datengesperrt');"
+                                 "d.src='data:image/gif;base64,R0lGODlhAQABAAAAACw=';"
                                  "</script><iframe src='file://%1' onload=\"fetch('/rahmen')\"></iframe>")
                       .arg(geheim)));
     const Besuch besuch(server);
     QTRY_COMPARE_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/gesperrt")), 1, 20000);
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/bildgesperrt")), 1);
+    QTRY_COMPARE(server.Anfragen(QStringLiteral("/datengesperrt")), 1);
     QCOMPARE(server.Anfragen(QStringLiteral("/gelesen")), 0);
 }
 
@@ -400,6 +407,21 @@ void FrmHomepageTest::withoutThePlugInNothingIsReported() {
     UebergabeErsetzen({});
 }
 
+void FrmHomepageTest::asTheAdministratorNoPageIsShownWithoutItsWalls() {
+    if (plattform::ProzesseAbschirmbar()) {
+        QSKIP("the system shuts processes off for this user");
+    }
+    const QByteArray wert = qgetenv("QTWEBENGINE_DISABLE_SANDBOX");
+    qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
+    const Server server(gruen.arg(QString()));
+    {
+        const Besuch besuch(server);
+        QVERIFY(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible());
+        QVERIFY(qobject_cast<QLabel*>(Netz()) != nullptr);
+    }
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", wert);
+}
+
 void FrmHomepageTest::theWindowClosesWhileItsPageIsLoading() {
     const Server server(gruen.arg(QString()));
     for (int i = 0; i < 3; ++i) {
@@ -420,6 +442,7 @@ void FrmHomepageTest::theWindowLooksFinished() {
     const Besuch besuch(server);
     QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
     BildVon(besuch.programm.haupt(), QStringLiteral("frmHomepage"));
+    QCOMPARE(rundgang::Maengel(*HomepageOffen()), QStringList()); // everything tells about itself
 }
 
 QTEST_MAIN(FrmHomepageTest)

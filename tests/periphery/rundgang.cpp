@@ -33,6 +33,7 @@ constexpr std::array ausnahmen{
     Ausnahme{"frmFKFragen", "picBildAblegen", Fehlt::Alles, "only carries a picture, never shown"},
     Ausnahme{"frmFKFragen", "picBildNein", Fehlt::Alles, "only carries a picture, never shown"},
     Ausnahme{"frmFKformulare", "filDateiliste", Fehlt::Status, "leaves the last status text standing"},
+    Ausnahme{"frmBrowser", "picAddress", Fehlt::Alles, "part of the window, never shown"},
     Ausnahme{"frmAuswahl", "cmbNr", Fehlt::Alles, "a list that only stores, never shown"},
     Ausnahme{"frmAuswahl", "cmbAntwort", Fehlt::Alles, "a list that only stores, never shown"},
     Ausnahme{"frmAuswahl", "cmbPunkte", Fehlt::Alles, "a list that only stores, never shown"},

@@ -1,0 +1,229 @@
+// Putting the main window away: on a desktop without a tray, and with a real one that this test starts.
+#include "catalogue/auswahl.h"
+#include "catalogue/frmAuswahl.h"
+#include "core/frmMDI.h"
+#include "core/hauptfenster.h"
+#include "core/programmende.h"
+#include "core/zustand.h"
+#include "periphery/tray.h"
+#include "quizform/frmFKFragen.h"
+#include "tests/hilfe/bild.h"
+#include "tests/hilfe/dialogfolge.h"
+#include "tests/hilfe/finden.h"
+#include "tests/hilfe/maus.h"
+#include "tests/hilfe/programm.h"
+
+#include <QMdiArea>
+#include <QProcess>
+#include <QSystemTrayIcon>
+#include <QTest>
+
+namespace {
+
+// A tray at the lower edge of the virtual screen.
+class Ablageleiste {
+public:
+    Ablageleiste() {
+        prozess_.start(QStringLiteral("trayer"),
+                       {QStringLiteral("--edge"), QStringLiteral("bottom"), QStringLiteral("--align"),
+                        QStringLiteral("right"), QStringLiteral("--widthtype"), QStringLiteral("request"),
+                        QStringLiteral("--height"), QStringLiteral("32")});
+        da_ = prozess_.waitForStarted() && WartenBis(QSystemTrayIcon::isSystemTrayAvailable, 15000);
+    }
+    ~Ablageleiste() {
+        prozess_.terminate();
+        prozess_.waitForFinished();
+    }
+    Ablageleiste(const Ablageleiste&) = delete;
+    Ablageleiste& operator=(const Ablageleiste&) = delete;
+    [[nodiscard]] bool da() const { return da_; }
+
+private:
+    QProcess prozess_;
+    bool da_ = false;
+};
+
+void HintergrundDoppelklicken(const Programm& programm) {
+    maus::Doppelklicken(programm.haupt()->Kindflaeche()->viewport());
+}
+
+QSystemTrayIcon* Zeichen(const Programm& programm) {
+    return programm.haupt()->findChild<QSystemTrayIcon*>(QStringLiteral("traySymbol"));
+}
+
+// The icon as a window of its own in the tray; nullptr while it isn't there.
+QWidget* ZeichenFenster() {
+    for (QWidget* fenster : QApplication::topLevelWidgets()) {
+        if (fenster->inherits("QSystemTrayIconSys") && fenster->isVisible() && fenster->width() > 1) {
+            return fenster;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TrayTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutATrayTheWindowIsMinimisedAndNotHidden();
+    void onlyTheBackgroundItselfIsDoubleClicked();
+    void aDoubleClickOnTheBackgroundHidesTheWindowAndAddsTheIcon();
+    void aLeftClickOnTheIconShowsTheWindowAndRemovesTheIcon();
+    void aRightClickLeavesAHiddenWindowHidden();
+    void anyOtherMessageDoesNothing();
+    void nothingTypedIsLostAndTheToolWindowsGoAlong();
+    void theEndRemovesTheIconInAnyCase();
+};
+
+void TrayTest::withoutATrayTheWindowIsMinimisedAndNotHidden() {
+    QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());
+    const Programm programm;
+    HintergrundDoppelklicken(programm);
+    QTRY_VERIFY(programm.haupt()->isMinimized());
+    QVERIFY(programm.haupt()->isVisible());
+    QVERIFY(Zeichen(programm) == nullptr);
+    programm.haupt()->showMaximized();
+    QTRY_VERIFY(programm.haupt()->isActiveWindow());
+}
+
+void TrayTest::onlyTheBackgroundItselfIsDoubleClicked() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    // The gap between the cells belongs to the form.
+    QTest::mouseDClick(form, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseDClick(form->parentWidget(), Qt::LeftButton, {}, QPoint(1, 1));
+    QTest::mouseDClick(Finden(programm.haupt(), QStringLiteral("pnlHilfe")), Qt::LeftButton);
+    QTest::mouseDClick(programm.haupt()->Kindflaeche()->viewport(), Qt::RightButton, {},
+                       QPoint(programm.haupt()->Kindflaeche()->viewport()->width() - 3, 3));
+    QVERIFY(!programm.haupt()->isMinimized());
+    QVERIFY(programm.haupt()->isVisible());
+}
+
+void TrayTest::aDoubleClickOnTheBackgroundHidesTheWindowAndAddsTheIcon() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    const Programm programm;
+    HintergrundDoppelklicken(programm);
+    QTRY_VERIFY(!programm.haupt()->isVisible());
+    QVERIFY(Zeichen(programm) != nullptr);
+    QVERIFY(Zeichen(programm)->isVisible());
+    QCOMPARE(Zeichen(programm)->toolTip(), QStringLiteral(" Feldkranz! "));
+    QVERIFY(!Zeichen(programm)->icon().isNull());
+    QTRY_VERIFY(ZeichenFenster() != nullptr);
+    BildVomBildschirm(QStringLiteral("tray"));
+}
+
+void TrayTest::aLeftClickOnTheIconShowsTheWindowAndRemovesTheIcon() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    const Programm programm;
+    const QRect vorher = programm.haupt()->geometry();
+    for (int mal = 0; mal < 2; ++mal) { // and again
+        HintergrundDoppelklicken(programm);
+        QTRY_VERIFY(ZeichenFenster() != nullptr);
+        QVERIFY(!programm.haupt()->isVisible());
+        maus::Klicken(ZeichenFenster());
+        QTRY_VERIFY(programm.haupt()->isVisible());
+        QTRY_VERIFY(Zeichen(programm) == nullptr);
+        QVERIFY(ZeichenFenster() == nullptr);
+        QTRY_VERIFY(programm.haupt()->isActiveWindow());
+        QVERIFY(programm.haupt()->isMaximized());
+        QTRY_COMPARE(programm.haupt()->geometry(), vorher);
+    }
+}
+
+void TrayTest::aRightClickLeavesAHiddenWindowHidden() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    const Programm programm;
+    HintergrundDoppelklicken(programm);
+    QTRY_VERIFY(ZeichenFenster() != nullptr);
+    int gemeldet = 0;
+    QObject::connect(
+        Zeichen(programm), &QSystemTrayIcon::activated, programm.haupt(), [&] { ++gemeldet; },
+        Qt::QueuedConnection); // behind the program's own
+    maus::RechtsKlicken(ZeichenFenster());
+    QTRY_COMPARE(gemeldet, 1);
+    QVERIFY(!programm.haupt()->isVisible());
+    QVERIFY(Zeichen(programm)->isVisible());
+    // A window that is there is raised, and the icon stays.
+    programm.haupt()->show();
+    TrayNachricht(517);
+    QVERIFY(programm.haupt()->isVisible());
+    QTRY_VERIFY(programm.haupt()->isActiveWindow());
+    QVERIFY(Zeichen(programm)->isVisible());
+}
+
+void TrayTest::anyOtherMessageDoesNothing() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    const Programm programm;
+    HintergrundDoppelklicken(programm);
+    QTRY_VERIFY(Zeichen(programm) != nullptr);
+    for (const int nummer : {0, 1, 512, 514, 515, 516, 518, 519}) {
+        TrayNachricht(nummer);
+    }
+    for (const auto grund :
+         {QSystemTrayIcon::Unknown, QSystemTrayIcon::DoubleClick, QSystemTrayIcon::MiddleClick}) {
+        Q_EMIT Zeichen(programm)->activated(grund);
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(!programm.haupt()->isVisible());
+    QVERIFY(Zeichen(programm)->isVisible());
+}
+
+void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    AuswahlZeigen();
+    QVERIFY(QTest::qWaitForWindowExposed(AuswahlOffen()));
+    const QRect platz = AuswahlOffen()->geometry();
+    programm.haupt()->activateWindow();
+    form->txtFrage.at(7)->setFocus();
+    QTRY_VERIFY(form->txtFrage.at(7)->hasFocus());
+    maus::Tippen(QStringLiteral("halb getippt"));
+    AbInDenTray();
+    QVERIFY(!programm.haupt()->isVisible());
+    QVERIFY(!AuswahlOffen()->isVisible());
+    QTRY_VERIFY(ZeichenFenster() != nullptr);
+    maus::Klicken(ZeichenFenster());
+    QTRY_VERIFY(programm.haupt()->isVisible());
+    QTRY_VERIFY(AuswahlOffen() != nullptr && AuswahlOffen()->isVisible());
+    QTRY_COMPARE(AuswahlOffen()->geometry(), platz);
+    QCOMPARE(form->txtFrage.at(7)->toPlainText(), QStringLiteral("halb getippt"));
+    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(form->isVisible());
+}
+
+void TrayTest::theEndRemovesTheIconInAnyCase() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    const Programm programm;
+    bool beendet = false;
+    ProgrammBeendenDurch([&] { beendet = true; });
+    for (const bool imTray : {false, true}) {
+        beendet = false;
+        if (imTray) {
+            AbInDenTray();
+            QVERIFY(Zeichen(programm) != nullptr);
+        }
+        Dialogfolge dialoge;
+        dialoge.frage(QStringLiteral("Feldkranz! beenden - Ini-Datei speichern !"),
+                      QStringLiteral("Sollen die aktuellen Einstellungen\ngespeichert werden ?"), 6);
+        dialoge.frage(QStringLiteral("ENDE"),
+                      QStringLiteral("FELDKRANZ! beendet hiermit seine\nTätigkeit !  -  OK ?"), 6);
+        ProgrammEnde();
+        QVERIFY(dialoge.fertig());
+        QVERIFY(beendet);
+        QTRY_VERIFY(Zeichen(programm) == nullptr);
+        QVERIFY(ZeichenFenster() == nullptr);
+    }
+    ProgrammBeendenDurch({});
+}
+
+QTEST_MAIN(TrayTest)
+#include "tray_test.moc"
