@@ -6,6 +6,7 @@
 #include "core/testbefehle.h"
 #include "core/texte.h"
 #include "dialogs/meldung.h"
+#include "editor/editor.h"
 #include "filetools/formularliste.h"
 #include "periphery/frmHomepage.h"
 #include "periphery/mail.h"
@@ -122,6 +123,8 @@ constexpr std::array zuordnungen{
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},
     Zuordnung{"mThemenHB", befehle::ThemenquelleUmschalten},
+    Zuordnung{"cmdEdit", EditorZeigen},
+    Zuordnung{"mEditorKranz", EditorZeigen},
     Zuordnung{"cmdHilfe", HilfeTaste},
     Zuordnung{"mHilfen(1)", HilfeMenue},
     Zuordnung{"mHilfeFK", HilfeFormular},

@@ -1,11 +1,12 @@
 #include "core/flaggen.h"
 
+#include "core/bilder.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/zustand.h"
+#include "editor/editor.h"
 
 #include <QLabel>
-#include <QPainter>
 #include <QPointer>
 
 #include <array>
@@ -15,48 +16,22 @@ namespace {
 QPointer<QLabel> picEingabeFlagGruen;
 QPointer<QLabel> picEingabeFlagRot;
 
-// A pole with a flag: waving with a mark of exclamation, or hanging at half height with a tick.
-class Flagge : public QLabel {
-public:
-    Flagge(QWidget* eltern, const char* name, bool rot) : QLabel(eltern), rot_(rot) {
-        setObjectName(QLatin1String(name));
-    }
-
-protected:
-    void paintEvent(QPaintEvent* ereignis) override {
-        QLabel::paintEvent(ereignis);
-        QPainter maler(this);
-        maler.setRenderHint(QPainter::Antialiasing);
-        maler.setPen(QPen(QColor(80, 70, 60), 2));
-        maler.drawLine(QPointF(4, 2), QPointF(4, 23));
-        const QColor tuch = rot_ ? QColor(214, 32, 32) : QColor(24, 140, 48);
-        maler.setPen(QPen(tuch.darker(140), 1));
-        maler.setBrush(tuch);
-        const double oben = rot_ ? 2.0 : 8.0;
-        maler.drawPolygon(
-            QPolygonF({{5, oben}, {21, oben + 1}, {17, oben + 5.5}, {21, oben + 11}, {5, oben + 11}}));
-        maler.setPen(QPen(Qt::white, 1.8));
-        if (rot_) {
-            maler.drawLine(QPointF(11, 4), QPointF(11, 8.5));
-            maler.drawPoint(QPointF(11, 11));
-        } else {
-            maler.drawPolyline(QPolygonF({{8, 13.5}, {10.5, 16}, {14.5, 11}}));
-        }
-    }
-
-private:
-    bool rot_;
-};
+// They differ in shape as well: one flies at the top, the other hangs lower.
+QLabel* FlaggeBauen(QWidget* pnlKranz, const char* name, std::string_view bild) {
+    auto* flagge = new QLabel(pnlKranz);
+    flagge->setObjectName(QLatin1String(name));
+    flagge->setPixmap(Bild(bild, flagge->devicePixelRatioF()));
+    flagge->hide();
+    return flagge;
+}
 
 } // namespace
 
 void FlaggenBauen(QWidget* pnlKranz) {
-    picEingabeFlagGruen = new Flagge(pnlKranz, "picEingabeFlagGruen", false);
+    picEingabeFlagGruen = FlaggeBauen(pnlKranz, "picEingabeFlagGruen", "status/flagge_gruen");
     picEingabeFlagGruen->setAccessibleName(QStringLiteral("Alles gespeichert"));
-    picEingabeFlagRot = new Flagge(pnlKranz, "picEingabeFlagRot", true);
+    picEingabeFlagRot = FlaggeBauen(pnlKranz, "picEingabeFlagRot", "status/flagge_rot");
     picEingabeFlagRot->setAccessibleName(QStringLiteral("Ungespeicherte Änderungen"));
-    picEingabeFlagGruen->hide();
-    picEingabeFlagRot->hide();
 }
 
 void FlaggenAnordnen(QWidget* pnlKranz) {
@@ -83,4 +58,5 @@ void FormStatusSetzen(int flag) {
 
 void EditorStatusSetzen(int flag) {
     EditorGeaendert = flag == 1 ? 1 : 0;
+    EditorLampenZeigen(flag == 1);
 }

@@ -5,6 +5,7 @@
 #include "core/texte.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "editor/editor.h"
 #include "periphery/tray.h"
 #include "persistence/einstellungenladen.h"
 #include "persistence/speichern.h"
@@ -58,7 +59,7 @@ void ProgrammEnde() {
     if (FormGeaendert == 1 && AuswertungSpeichernFragen() == 1) {
         return;
     }
-    if (!EinstellungenErledigt() || !EndeBestaetigt()) {
+    if (!EditorTextGesichert() || !EinstellungenErledigt() || !EndeBestaetigt()) {
         return;
     }
     SoundSpielen("trompete");
@@ -67,10 +68,11 @@ void ProgrammEnde() {
         beenden();
         return;
     }
-    // The open form goes without its closing question: the first one has taken its place.
+    // The open form and the editor go without their closing questions: the first ones have taken their place.
     FormGeaendert = 0;
     FK_Entladen();
     HB_Entladen();
+    EditorEntladen();
     if (frmMDI* haupt = MDIFenster(); haupt != nullptr) {
         haupt->hide();
         haupt->deleteLater(); // not at once: the command comes from one of its own buttons or menus

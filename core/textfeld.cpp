@@ -11,15 +11,30 @@
 #include <QTextDocument>
 #include <QValidator>
 
+#include <algorithm>
+
 namespace {
+
+bool Zeilenwechsel(char32_t zeichen) {
+    return zeichen == QChar::ParagraphSeparator || zeichen == QChar::LineSeparator;
+}
+
+// True for what nearly every character is, and may stay.
+bool Gewoehnlich(QChar zeichen) {
+    return (zeichen.unicode() > 0 && zeichen.unicode() < 0x80) ||
+           (zeichen.unicode() >= 0xA0 && zeichen.unicode() <= 0xFF) || Zeilenwechsel(zeichen.unicode());
+}
 
 // What of a text may stay: the same text, or with equivalents for what code page 1252 can't hold. The first
 // character that had to stay outside without an equivalent, or got one, is named in draussen.
 QString Erlaubt(const QString& text, QString& draussen) {
+    if (std::ranges::all_of(text, Gewoehnlich)) {
+        return text;
+    }
     QString erlaubt;
     erlaubt.reserve(text.size());
     for (const char32_t zeichen : text.toUcs4()) {
-        if (zeichen == QChar::ParagraphSeparator || zeichen == QChar::LineSeparator || InCp1252(zeichen)) {
+        if (Zeilenwechsel(zeichen) || (zeichen != 0 && InCp1252(zeichen))) {
             erlaubt += QString::fromUcs4(&zeichen, 1);
             continue;
         }
@@ -45,10 +60,35 @@ void ZeichenMelden(const QString& zeichen) {
                   .toStdString());
 }
 
+constexpr int grenze = static_cast<int>(laengsterText);
+
 // Bytes in a file that are more than a form file's reader takes for one text.
 int Ueberlaenge(const QTextDocument& text) {
     const int zeilenenden = text.blockCount() - 1; // CR LF there, one character here
-    return text.characterCount() - 1 + zeilenenden - static_cast<int>(laengsterText);
+    return text.characterCount() - 1 + zeilenenden - grenze;
+}
+
+bool HatLangeZeile(const QTextCursor& neues) {
+    QTextBlock zeile = neues.document()->findBlock(neues.selectionStart());
+    while (zeile.isValid() && zeile.position() <= neues.selectionEnd() && zeile.length() - 1 <= grenze) {
+        zeile = zeile.next();
+    }
+    return zeile.isValid() && zeile.position() <= neues.selectionEnd();
+}
+
+// New text in which no line becomes longer than the limit, together with what stands around it.
+QString ZeilenGekuerzt(const QString& erlaubt, const QTextCursor& neues) {
+    const QTextDocument& text = *neues.document();
+    const QTextBlock erste = text.findBlock(neues.selectionStart());
+    const QTextBlock letzte = text.findBlock(neues.selectionEnd());
+    QStringList zeilen = erlaubt.split(QChar(QChar::ParagraphSeparator));
+    for (qsizetype i = 0; i < zeilen.size(); ++i) {
+        const int davor = i == 0 ? neues.selectionStart() - erste.position() : 0;
+        const bool zuletzt = i + 1 == zeilen.size();
+        const int danach = zuletzt ? letzte.position() + letzte.length() - 1 - neues.selectionEnd() : 0;
+        zeilen[i].truncate(std::max(0, grenze - davor - danach));
+    }
+    return zeilen.join(QChar(QChar::ParagraphSeparator));
 }
 
 class Zeichenpruefer : public QValidator {
@@ -138,9 +178,17 @@ void Textfeld::mousePressEvent(QMouseEvent* ereignis) {
     QPlainTextEdit::mousePressEvent(ereignis);
 }
 
+// The new text, which the cursor has selected, without what is beyond the limit.
+QString Textfeld::Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const {
+    if (grenzeJeZeile_) {
+        return HatLangeZeile(neues) ? ZeilenGekuerzt(erlaubt, neues) : erlaubt;
+    }
+    return erlaubt.chopped(std::clamp<qsizetype>(Ueberlaenge(*document()), 0, erlaubt.size()));
+}
+
 void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     const int ende = std::min(stelle + neu, document()->characterCount() - 1);
-    if (ende <= stelle) {
+    if (ende <= stelle || ungeprueft_) {
         return;
     }
     QTextCursor cursor(document());
@@ -148,12 +196,12 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     cursor.setPosition(ende, QTextCursor::KeepAnchor);
     cursor.setKeepPositionOnInsert(true); // what is typed behind it meanwhile stays
     QString draussen;
-    QString erlaubt = Erlaubt(cursor.selectedText(), draussen);
-    const int zuviel = Ueberlaenge(*document());
-    if (draussen.isEmpty() && zuviel <= 0) {
+    const QString ganz = Erlaubt(cursor.selectedText(), draussen);
+    const QString erlaubt = Gekuerzt(ganz, cursor);
+    const bool zuLang = erlaubt.size() < ganz.size();
+    if (draussen.isEmpty() && !zuLang) {
         return;
     }
-    erlaubt.chop(std::max(zuviel, 0));
     // The document is in the middle of the change; the mending joins it as soon as it is over.
     QMetaObject::invokeMethod(
         this,
@@ -164,7 +212,7 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
             cursor.endEditBlock();
         },
         Qt::QueuedConnection);
-    if (zuviel > 0) {
+    if (zuLang) {
         HilfeText(" Der Text ist mir zu lang, sein Ende musste draußen bleiben.");
     } else {
         ZeichenMelden(draussen);

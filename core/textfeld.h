@@ -20,6 +20,9 @@ public:
     void setGrund(const QColor& farbe);
     void setZentriert(bool zentriert);
 
+    // From now on each line may be as long as a form file's reader takes a text, and the text has no limit.
+    void setGrenzeJeZeile() { grenzeJeZeile_ = true; }
+
 Q_SIGNALS:
     // The focus has moved here from another control, or from here to another one.
     void fokusErhalten();
@@ -32,8 +35,15 @@ protected:
     void focusOutEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
 
+    // Text that comes out of a file holds nothing that would have to stay outside: no look at it.
+    void setUngeprueft(bool ungeprueft) { ungeprueft_ = ungeprueft; }
+
 private:
     void NurErlaubteZeichen(int stelle, int neu);
+    [[nodiscard]] QString Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const;
+
+    bool grenzeJeZeile_ = false;
+    bool ungeprueft_ = false;
 };
 
 // One line.

@@ -14,5 +14,7 @@ void DateidialogZeigen(const Dateiauswahl& auswahl) {
     DateiAbbruch = 0;
     frmDatei fenster(mitOrdner);
     ModalZeigen(fenster);
-    letzterOrdner = fenster.ordner();
+    if (auswahl.ordnerMerken) {
+        letzterOrdner = fenster.ordner();
+    }
 }

@@ -13,6 +13,7 @@ struct Dateiauswahl {
     std::string aktuell;             // current pattern
     std::string ordner;              // folder to start in, own notation; "" keeps the last one
     std::string vorschlag;           // name proposed in the name box
+    bool ordnerMerken = true;        // the folder shown last is where the next dialog starts
 };
 
 // Shows the dialog modally.

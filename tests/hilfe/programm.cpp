@@ -9,6 +9,8 @@
 #include "core/ziehen.h"
 #include "core/zustand.h"
 #include "dialogs/meldung.h"
+#include "editor/editor.h"
+#include "editor/editordaten.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
@@ -71,10 +73,11 @@ void EinstellungenZuruecksetzen() {
 void ZustandZuruecksetzen() {
     FormZuruecksetzen();
     EinstellungenZuruecksetzen();
-    for (std::string* text : {&FormTyp, &DateiName, &DateiAlt, &DragHerkunft}) {
+    for (std::string* text :
+         {&FormTyp, &DateiName, &DateiAlt, &DragHerkunft, &Bemerkung, &BemerkungMarke, &EditorText}) {
         text->clear();
     }
-    DateiAbbruch = DateiNr = FormGeaendert = EditorGeaendert = 0;
+    DateiAbbruch = DateiNr = FormGeaendert = EditorGeaendert = SpeichernMitDialog = 0;
     FortschrittAktiv = 0;
     FortschrittWert = 0.0F;
     DragArt = DragFeld = 0;
@@ -108,6 +111,7 @@ Programm::~Programm() {
     FormGeaendert = 0;
     FK_Entladen();
     HB_Entladen();
+    EditorEntladen();
     delete FensterOderNichts(QStringLiteral("frmAuswahl"));
     delete MDIFenster();
     NormalerZeiger();

@@ -1,0 +1,70 @@
+#include "editor/notizfeld.h"
+
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+
+#include <QMimeData>
+#include <QTextBlock>
+
+namespace {
+
+// Characters that go into the field at once; a text of no more goes without the progress bar.
+constexpr qsizetype stueck = qsizetype{1} << 18;
+
+// The progress bar is full at this value.
+constexpr float voll = 38.0F;
+
+// Inserts behind the end, piece by piece.
+void Anhaengen(QTextDocument& dokument, const QString& text, std::string_view meldung) {
+    const bool lang = text.size() > stueck;
+    if (lang) {
+        FortschrittStart(meldung);
+    }
+    QTextCursor ende(&dokument);
+    for (qsizetype stelle = 0; stelle < text.size(); stelle += stueck) {
+        ende.movePosition(QTextCursor::End);
+        ende.insertText(text.mid(stelle, stueck));
+        if (lang) {
+            FortschrittSchritt(voll * static_cast<float>(stueck) / static_cast<float>(text.size()));
+        }
+    }
+    if (lang) {
+        FortschrittEnde();
+    }
+}
+
+} // namespace
+
+Notizfeld::Notizfeld(QWidget* eltern) : Textfeld(eltern, QStringLiteral("txtNotiz")) {
+    setGrenzeJeZeile();
+}
+
+void Notizfeld::Fuellen(std::string_view text, std::string_view meldung) {
+    setUpdatesEnabled(false);
+    setUngeprueft(true);
+    clear();
+    setUndoRedoEnabled(false);
+    Anhaengen(*document(), Anzeige(text), meldung);
+    setUndoRedoEnabled(true);
+    setUngeprueft(false);
+    moveCursor(QTextCursor::Start);
+    setUpdatesEnabled(true);
+}
+
+QString Notizfeld::Markiert() const {
+    QString text = textCursor().selectedText();
+    text.replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
+    text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+    return text;
+}
+
+void Notizfeld::Ersetzen(const QString& text) {
+    textCursor().insertText(text);
+    ensureCursorVisible();
+}
+
+QMimeData* Notizfeld::createMimeDataFromSelection() const {
+    auto* daten = new QMimeData; // owned by whoever asked for it
+    daten->setText(Markiert());
+    return daten;
+}
