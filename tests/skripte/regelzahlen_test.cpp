@@ -13,10 +13,14 @@
 
 namespace {
 
-std::string Seite() {
+std::string Text(const char* datei) {
     std::ostringstream text;
-    text << std::ifstream(FELDKRANZ_REGELSEITE).rdbuf();
+    text << std::ifstream(datei).rdbuf();
     return text.str();
+}
+
+std::string Seite() {
+    return Text(FELDKRANZ_REGELSEITE);
 }
 
 const std::string buchstaben = "AEGJR";
@@ -80,6 +84,23 @@ TEST(Regelzahlen, TheExampleBoardIsFullAndHoldsEveryKindUpToItsLimit) {
     for (std::size_t i = 0; i < buchstaben.size(); ++i) {
         EXPECT_EQ(anzahl("<div class=\"feld k" + buchstaben.substr(i, 1) + "\">"), werkFelder.at(i));
     }
+}
+
+// One line of the table: letter, colour, points, limit.
+TEST(Regelzahlen, TheHandbooksTableHasThePointsAndTheLimitsOfTheRules) {
+    const std::regex zeile("\\| ([AEGJR]) \\| [^|]+ \\| ([^|]+) \\| (\\d) \\|");
+    const std::string handbuch = Text(FELDKRANZ_HANDBUCH);
+    std::size_t zeilen = 0;
+    for (std::sregex_iterator lauf(handbuch.begin(), handbuch.end(), zeile), ende; lauf != ende;
+         ++lauf, ++zeilen) {
+        const std::size_t art = buchstaben.find((*lauf)[1].str());
+        EXPECT_EQ((*lauf)[3].str(), std::to_string(werkFelder.at(art))) << (*lauf)[1].str();
+        // Risk and task have no points of their own on the screen: dots and a word stand there.
+        if (art == buchstaben.find('E') || art == buchstaben.find('G') || art == buchstaben.find('J')) {
+            EXPECT_EQ((*lauf)[2].str(), std::to_string(werkPunkte.at(art))) << (*lauf)[1].str();
+        }
+    }
+    EXPECT_EQ(zeilen, buchstaben.size());
 }
 
 } // namespace
