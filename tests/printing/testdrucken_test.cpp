@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
 #include <QPrinter>
 #include <QTest>
 
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void abbrechenBeforeThePrintPrintsNothing();
     void blankPrintRestoreWorks();
     void aNamedTestIsPrintedBesideItsFormUnderItsName();
+    void anUnwritableTargetIsReportedInAStockBoxAndNothingIsPrinted();
     void theMenuEntryPrintsAsWell();
 };
 
@@ -238,6 +240,25 @@ void TestdruckenTest::aNamedTestIsPrintedBesideItsFormUnderItsName() {
     QVERIFY(dialoge.fertig());
     const PdfSeite seite = PdfLesen(programm.ordner().nativ(QStringLiteral("TEST/Herbst.pdf")));
     QVERIFY(Enthaelt(seite, "Herbst.FKR"));
+}
+
+void TestdruckenTest::anUnwritableTargetIsReportedInAStockBoxAndNothingIsPrinted() {
+    Programm programm;
+    Formular(programm, 2, true);
+    Drucker().setPageOrientation(QPageLayout::Landscape);
+    const QString ziel = programm.ordner().nativ(ohneNamen);
+    QVERIFY(QDir(programm.ordner().nativ()).mkpath(ohneNamen)); // a folder of that name is in the way
+    Dialogfolge dialoge;
+    dialoge.frage(titel, MitFragen(2), 1);
+    SeitenmasseErwarten(dialoge);
+    dialoge.kasten(QStringLiteral("Feldkranz"), QStringLiteral("Fehler beim Zugriff auf Pfad oder Datei"),
+                   QStringLiteral("OK"));
+    Drucken(programm);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(QDir(ziel).isEmpty());
+    QCOMPARE(Drucker().pageLayout().orientation(), QPageLayout::Landscape);
+    QVERIFY(!Finden(programm.haupt(), QStringLiteral("pnlKaro"))->isVisible());
+    QCOMPARE(HB_Frage(2), std::string("Frage2"));
 }
 
 void TestdruckenTest::theMenuEntryPrintsAsWell() {

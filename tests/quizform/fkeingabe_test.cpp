@@ -79,6 +79,7 @@ private Q_SLOTS:
     void blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLettersBack();
     void blankTypeOneLetterAndRestoreLeavesTheOthersBlank();
     void blankedSpecialFieldsComeBackWithLettersAndColours();
+    void theMenuEntriesOfTheSpecialFieldsPressTheirButtons();
     void aDoubleClickOnTheMiniatureBringsTheFormToTheFront();
     void aShapeThatFitsNoCounterGivesWayToTheFullBoard();
     void thePicturesOfTheDragAreThere();
@@ -315,6 +316,38 @@ void FkEingabeTest::blankedSpecialFieldsComeBackWithLettersAndColours() {
     QCOMPARE(FK_Frage(1), std::string("----- Joker ! -----\r\n"));
     QCOMPARE(Miniatur(programm, 7), QColor(0, 255, 0));
     QCOMPARE(form->pnlPunkte.at(7)->caption(), QStringLiteral("10"));
+}
+
+void FkEingabeTest::theMenuEntriesOfTheSpecialFieldsPressTheirButtons() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    SpezialWaehlen(form, 7, 2);
+    FK_Merken();
+    FormStatusSetzen(0);
+    auto* loeschen = Finden<QAction>(programm.haupt(), QStringLiteral("mFKSpezial(1)"));
+    auto* einfuegen = Finden<QAction>(programm.haupt(), QStringLiteral("mFKSpezial(2)"));
+    Dialogfolge dialoge;
+    dialoge.frage(QStringLiteral("Spezialfelder löschen"), spezialFrage, 2);
+    loeschen->trigger();
+    QCOMPARE(form->pnlSpezial.at(7)->caption(), QStringLiteral("G"));
+    for (int i = 0; i < 2; ++i) { // a second time asks again
+        dialoge.frage(QStringLiteral("Spezialfelder löschen"), spezialFrage, 6);
+        loeschen->trigger();
+        QVERIFY(dialoge.fertig());
+        QCOMPARE(form->pnlSpezial.at(7)->caption(), QString());
+        QCOMPARE(FeldSpezial.at(7), std::string("G")); // the stored letter and its count stay
+        QCOMPARE(SpezialAnzahl.at(2), std::int16_t(1));
+        for (int n = 1; n <= anzahlFelder; ++n) {
+            QCOMPARE(Grund(form->txtFrage.at(Nr(n))), QColor(Qt::white)); // empty cells as well
+            QCOMPARE(Miniatur(programm, n), QColor(192, 192, 192));
+        }
+    }
+    for (int i = 0; i < 2; ++i) {
+        einfuegen->trigger();
+        QCOMPARE(form->pnlSpezial.at(7)->caption(), QStringLiteral("G"));
+        QCOMPARE(Miniatur(programm, 7), QColor(0, 255, 0));
+    }
+    QCOMPARE(FormGeaendert, std::int16_t(0)); // no text has changed
 }
 
 void FkEingabeTest::aDoubleClickOnTheMiniatureBringsTheFormToTheFront() {

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void applyingWithTheAreasRuleOffOpensTheTitlesAgain();
     void nothingReachesTheSettingsBeforeItIsApplied();
     void applyingMarksTheFormAndRefreshesPointsCountsAndTips();
+    void applyingBringsABlankedFormsQuestionsBack();
     void enterAppliesButNotFromASpin();
     void anOpenListGoesWithTheBoardItStoodOver();
     void cancellingPutsTheFiveValuesBackAndDropsTheEdits();
@@ -203,6 +204,19 @@ void IniAnwendenTest::applyingMarksTheFormAndRefreshesPointsCountsAndTips() {
     QVERIFY(form->pnlSpezial.at(1)->toolTip().contains(QStringLiteral("- 3 Jokerfelder")));
     QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlFKFelder"))->caption(),
              QStringLiteral(" 24 Fragen : je 4 Fragen aus 6 Wissensgebieten"));
+}
+
+void IniAnwendenTest::applyingBringsABlankedFormsQuestionsBack() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, 1, 1);
+    BrettFuellen(form);
+    FK_FragenLoeschen();
+    QVERIFY(form->txtFrage.at(17)->text().empty());
+    MitOK(programm, [](QDialog&, Dialogfolge&) {});
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        QVERIFY2(Ganz(form, n), qPrintable(QString::number(n)));
+    }
 }
 
 void IniAnwendenTest::enterAppliesButNotFromASpin() {

@@ -1,5 +1,6 @@
 // The window of the test form: what a new one holds, the head, typing, points and totals, its layout.
 #include "quizform/formdaten.h"
+#include "settings/einstellungen.h"
 #include "tests/hilfe/bild.h"
 #include "tests/testform/testhilfe.h"
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void afterBlankingAllPointsOneStepMakesATotalOf1();
     void tenRowsAt20Make200InAllThreePlaces();
     void theArrowKeysStepAsWell();
+    void theBackgroundIsTheColourOfTheSettings();
     void theWindowFitsTheScreen_data();
     void theWindowFitsTheScreen();
     void tabFollowsTheEye();
@@ -257,6 +259,22 @@ void FrmHBFragenTest::theArrowKeysStepAsWell() {
     maus::Taste(QStringLiteral("Up"));
     maus::Taste(QStringLiteral("Down"));
     QTRY_COMPARE(form->pnlPunkte.at(1)->caption(), QStringLiteral("1"));
+}
+
+void FrmHBFragenTest::theBackgroundIsTheColourOfTheSettings() {
+    struct Zeile {
+        std::int16_t nummer;
+        QColor farbe;
+    };
+    for (const auto& [nummer, farbe] :
+         {Zeile{7, {188, 184, 176}}, Zeile{0, {188, 184, 176}}, Zeile{4, {128, 0, 0}},
+          Zeile{8, {128, 128, 128}}, Zeile{15, {255, 255, 255}}}) {
+        Programm programm;
+        FarbeHintergrund = nummer;
+        const frmHBFragen* form = programm.NeuesTestformular();
+        QCOMPARE(form->palette().color(QPalette::Window), farbe);
+        QCOMPARE(FarbeHintergrund, nummer == 0 ? std::int16_t(7) : nummer);
+    }
 }
 
 void FrmHBFragenTest::theWindowFitsTheScreen_data() {

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aFormWithoutANameAsksForOneOnlyOnce();
     void theSavedFormKeepsABackupOfItsLastVersion();
     void jaOnTheClosingButtonSavesAndLeavesTheFormOpen();
+    void jaBeforeANewFormSavesTheOldOne();
     void aCancelledSaveKeepsTheFormThatWasToBeReplaced();
     void aFileWithHugePointsIsShownAndItsTotalNeverWraps();
     void saveKeysOfTheMenuSaveTheTestForm();
@@ -182,6 +183,24 @@ void HbDateienTest::jaOnTheClosingButtonSavesAndLeavesTheFormOpen() {
     QVERIFY(dialoge.fertig());
     QVERIFY(HBFragenOffen() != nullptr);
     QVERIFY(lauf.Lesen(QStringLiteral("T.FKR")).contains("anders"));
+}
+
+void HbDateienTest::jaBeforeANewFormSavesTheOldOne() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    HBFragenOffen()->txtFrage.at(1)->setText("anders");
+    Dialogfolge dialoge;
+    dialoge.frage(neuTitel, neuFrage, 6);
+    dialoge.frage(neuTitel, neuSpeichernFrage, 6);
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(1)"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("T.FKR")).contains("anders"));
+    QCOMPARE(HBFragenOffen()->windowTitle(), QStringLiteral(" Neues Testformular"));
+    QCOMPARE(HB_Frage(1), std::string());
+    QCOMPARE(HBDateiName, std::string());
+    QCOMPARE(DateiName, std::string());
+    QCOMPARE(FormGeaendert, std::int16_t(0));
 }
 
 void HbDateienTest::aCancelledSaveKeepsTheFormThatWasToBeReplaced() {
