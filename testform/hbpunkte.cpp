@@ -25,7 +25,7 @@ void Schritt(frmHBFragen& form, std::size_t i, int schritt) {
         punkte->setCaption(Anzeige(PunkteNachSchritt(Modelltext(punkte->caption()), schritt)));
         HBPunkte.at(i) = PunkteWert(Modelltext(punkte->caption()));
     } catch (const Laufzeitfehler&) {
-        // A number out of a file that no step can reach stays as it is.
+        // A caption that no counter can hold stays as it is.
     }
     HBGesamtpunkte = SummeDerZeilen(form);
     SummeZeigen(form, HBGesamtpunkte);

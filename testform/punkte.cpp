@@ -32,7 +32,7 @@ std::int16_t PunkteWert(std::string_view aufschrift) {
 }
 
 std::string PunkteNachSchritt(std::string_view aufschrift, int schritt) {
-    const int neu = Zaehler(PunkteWert(aufschrift) + schritt);
+    const int neu = PunkteWert(aufschrift) + schritt;
     if (schritt > 0 && neu > hoechstePunkte) {
         return "0";
     }

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void openingAFileClosesAnOpenList();
     void blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLettersBack();
     void blankTypeOneLetterAndRestoreLeavesTheOthersBlank();
+    void changingALetterOnABlankedFormRefillsThatCellOnly();
     void blankedSpecialFieldsComeBackWithLettersAndColours();
     void theMenuEntriesOfTheSpecialFieldsPressTheirButtons();
     void aDoubleClickOnTheMiniatureBringsTheFormToTheFront();
@@ -294,6 +295,18 @@ void FkEingabeTest::blankTypeOneLetterAndRestoreLeavesTheOthersBlank() {
     for (int n = 1; n <= anzahlFelder; ++n) {
         QCOMPARE(FK_Frage(n), std::string(n == 8 ? "x" : ""));
         QCOMPARE(FK_Antwort(n), std::string());
+    }
+}
+
+void FkEingabeTest::changingALetterOnABlankedFormRefillsThatCellOnly() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form);
+    FK_FragenLoeschen();
+    SpezialWaehlen(form, 8, 2);
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        QCOMPARE(FK_Frage(n), std::string(n == 8 ? "Frage 8" : ""));
+        QCOMPARE(FK_Antwort(n), std::string(n == 8 ? "Antwort 8" : ""));
     }
 }
 

@@ -59,8 +59,9 @@ TEST(Punkte, ANumberOutsideTheRangeWrapsOnlyInItsDirection) {
     EXPECT_EQ(PunkteNachSchritt("50", -1), "49");
     EXPECT_EQ(PunkteNachSchritt("-5", 1), "-4");
     EXPECT_EQ(PunkteNachSchritt("-5", -1), "20");
-    EXPECT_THROW(static_cast<void>(PunkteNachSchritt("32767", 1)), Laufzeitfehler);
-    EXPECT_THROW(static_cast<void>(PunkteNachSchritt("-32768", -1)), Laufzeitfehler);
+    EXPECT_EQ(PunkteNachSchritt("32767", 1), "0");
+    EXPECT_EQ(PunkteNachSchritt("-32768", -1), "20");
+    EXPECT_THROW(static_cast<void>(PunkteNachSchritt("32768", -1)), Laufzeitfehler);
 }
 
 TEST(Punkte, TenRowsAt20Are200) {
