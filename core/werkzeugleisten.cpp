@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 
 namespace {
 
@@ -77,18 +78,18 @@ constexpr std::array<std::string_view, 18> verzicht{
 constexpr int polster = 8;    // around picture and caption
 constexpr int bildluecke = 4; // between the two
 
-// Face of the captions, the gap between groups, and how many of the list above go without a caption.
+// Face of the captions, the gap between groups, and which places of the list above go without a caption.
 struct Leistenmass {
     QFont schrift;
     int luecke;
-    std::size_t ohneWort;
+    std::bitset<verzicht.size()> ohneWort;
 };
 
 QString Aufschrift(const Schaltflaeche& zeile, const Leistenmass& mass) {
-    const auto ende = verzicht.begin() + static_cast<std::ptrdiff_t>(mass.ohneWort);
-    const bool weg = zeile.leiste != Leiste::Kranz &&
-                     std::any_of(verzicht.begin(), ende,
-                                 [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
+    const auto* platz = std::find_if(verzicht.begin(), verzicht.end(),
+                                     [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
+    const auto stelle = static_cast<std::size_t>(platz - verzicht.begin());
+    const bool weg = zeile.leiste != Leiste::Kranz && platz != verzicht.end() && mass.ohneWort.test(stelle);
     return weg ? QString() : Anzeige(zeile.aufschrift);
 }
 
@@ -134,13 +135,25 @@ int Bedarf(const QWidget* pnlKranz, Leiste leiste, const Leistenmass& mass) {
     return bedarf;
 }
 
-// As many captions as find their place beside the toolbar that stands.
-Leistenmass LeistenmassFuer(QWidget* pnlKranz) {
-    Leistenmass mass{Schrift(8.25), 7, 0};
-    for (const auto& [leiste, name] : leistennamen) {
-        while (!Traeger(pnlKranz, leiste)->isHidden() && Bedarf(pnlKranz, leiste, mass) > pnlKranz->width() &&
-               mass.ohneWort < verzicht.size()) {
-            ++mass.ohneWort;
+bool Passt(const QWidget* pnlKranz, const Leistenmass& mass) {
+    return std::all_of(leistennamen.begin(), leistennamen.end(), [&](const Leistenname& eintrag) {
+        const auto* traeger = pnlKranz->findChild<QWidget*>(QLatin1String(eintrag.name));
+        return traeger->isHidden() || Bedarf(pnlKranz, eintrag.leiste, mass) <= pnlKranz->width();
+    });
+}
+
+// As many captions as find their place beside the toolbar that stands: they go from the front of the list
+// until the rest fits, and what still has room then comes back.
+Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
+    Leistenmass mass{Schrift(8.25), 7, {}};
+    std::size_t weg = 0;
+    while (weg < verzicht.size() && !Passt(pnlKranz, mass)) {
+        mass.ohneWort.set(weg++);
+    }
+    while (weg > 0) {
+        mass.ohneWort.reset(--weg);
+        if (!Passt(pnlKranz, mass)) {
+            mass.ohneWort.set(weg);
         }
     }
     return mass;

@@ -1,5 +1,6 @@
 #include "filetools/laufwerksfeld.h"
 
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
@@ -36,6 +37,7 @@ Laufwerksfeld::Laufwerksfeld(QWidget* eltern)
         const QString name = Aufschrift(laufwerk);
         auto* taste = new QPushButton(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")), this);
         taste->setObjectName(QStringLiteral("cmdLaufwerk(%1)").arg(i));
+        TastenbildSetzen(taste, "datei/laufwerk");
         taste->setAutoDefault(false);
         taste->setMinimumWidth(30);
         const std::string wort = name.toStdString();

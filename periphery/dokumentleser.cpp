@@ -1,5 +1,6 @@
 #include "periphery/dokumentleser.h"
 
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "periphery/dokumentansicht.h"
 #include "periphery/hinweise.h"
@@ -15,6 +16,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -23,6 +25,15 @@ constexpr double stufe = 1.25;       // of the two buttons for the size
 constexpr int tipppause = 250;       // milliseconds
 constexpr int suchfeldBreite = 260;  // at most
 constexpr int seitenfeldBreite = 40; // pixels
+
+constexpr std::array tastenbilder{Tastenbild{"cmdSeiteZurueck", "seite/zurueck"},
+                                  Tastenbild{"cmdSeiteWeiter", "seite/weiter"},
+                                  Tastenbild{"cmdKleiner", "seite/kleiner"},
+                                  Tastenbild{"cmdGroesser", "seite/groesser"},
+                                  Tastenbild{"cmdBreite", "seite/breite"},
+                                  Tastenbild{"cmdGanzeSeite", "seite/ganz"},
+                                  Tastenbild{"cmdFundZurueck", "seite/fund_zurueck"},
+                                  Tastenbild{"cmdFundWeiter", "seite/fund_weiter"}};
 
 } // namespace
 
@@ -33,6 +44,7 @@ Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
     LeisteBauen();
     spalte->addWidget(leiste_);
     spalte->addWidget(SuchzeileBauen());
+    TastenbilderSetzen(this, tastenbilder);
     auto* zusatz = Zusatz<Dokumentzusatz>(QStringLiteral("feldkranz_pdf"));
     if (zusatz != nullptr) {
         ansicht_ = zusatz->Bauen(this);
@@ -57,6 +69,7 @@ QToolButton* Dokumentleser::TasteBauen(const char* name, std::string_view aufsch
     auto* knopf = new QToolButton(this);
     knopf->setObjectName(QLatin1String(name));
     knopf->setText(Anzeige(aufschrift));
+    knopf->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     knopf->setAutoRaise(true);
     knopf->setFocusPolicy(Qt::TabFocus);
     connect(knopf, &QToolButton::clicked, this, routine);

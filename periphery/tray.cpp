@@ -5,7 +5,6 @@
 #include "periphery/traydaten.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QList>
 #include <QMdiArea>
 #include <QMouseEvent>
@@ -33,8 +32,8 @@ void ZeichenZeigen(QWidget* haupt) {
     TrayEntfernen();
     zeichen = new QSystemTrayIcon(haupt);
     zeichen->setObjectName(QStringLiteral("traySymbol"));
-    const auto* picSystray = haupt->findChild<QLabel*>(QStringLiteral("picSystray"));
-    zeichen->setIcon(picSystray != nullptr ? QIcon(picSystray->pixmap()) : QApplication::windowIcon());
+    // The picture of picSystray, in every size that a tray may ask for.
+    zeichen->setIcon(QApplication::windowIcon());
     zeichen->setToolTip(Anzeige(TrayDaten.tipp.substr(0, TrayDaten.tipp.size() - 1)));
     QObject::connect(
         zeichen, &QSystemTrayIcon::activated, zeichen,

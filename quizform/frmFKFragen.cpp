@@ -1,6 +1,7 @@
 #include "quizform/frmFKFragen.h"
 
 #include "catalogue/katalogladen.h"
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
 #include "persistence/speichern.h"
@@ -88,6 +89,7 @@ void frmFKFragen::KopfBauen() {
         teil.zeile->setAccessibleName(teil.panel->caption().trimmed());
     }
     cmdFKSchliessen = new QPushButton(QStringLiteral("Schließen"), this);
+    TastenbildSetzen(cmdFKSchliessen, "leiste/schliessen");
     cmdFKSchliessen->setObjectName(QStringLiteral("cmdFKSchliessen"));
 }
 

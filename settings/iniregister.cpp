@@ -59,10 +59,9 @@ constexpr std::array dialogtasten{Tastenplatz{"cmdEinOK", "&OK", 0, 0},
                                   Tastenplatz{"cmdAbbrechen", "&Abbrechen", 0, 1},
                                   Tastenplatz{"cmdHilfe", "&Hilfe", 1, 1}};
 
-constexpr std::array tastenbilder{
-    Tastenbild{"cmdEinOK", "datei/ok"}, Tastenbild{"cmdAbbrechen", "datei/abbrechen"},
-    Tastenbild{"cmdHilfe", "leiste/hilfe"}, Tastenbild{"cmdIniLaden", "leiste/oeffnen"},
-    Tastenbild{"cmdIniSpeichern", "leiste/speichern"}};
+constexpr std::array tastenbilder{Tastenbild{"cmdEinOK", "datei/ok"},
+                                  Tastenbild{"cmdAbbrechen", "datei/abbrechen"},
+                                  Tastenbild{"cmdHilfe", "leiste/hilfe"}};
 
 } // namespace
 

@@ -52,7 +52,7 @@ def nachricht():
 
 def eingabe():
     b, h = 235, 199
-    return svg(b, h, 1.2, _bogen(b, h) + _tastenband(b, h, 146) + _zweig(96, 27, False) + _zweig(144, 27, True)
+    return svg(b, h, 1.2, _bogen(b, h) + _tastenband(b, h, 146) + gruppe(_zweig(0, 0, False), 96, 29, 0.84) + gruppe(_zweig(0, 0, True), 144, 29, 0.84)
                + _rand(b, h))
 
 

@@ -263,7 +263,33 @@ def _browser():
     return eck(1.5, 2.5, 13, 11, "papier", rx=1.2) + pfad("M1.5 6v-2.3a1.2 1.2 0 0 1 1.2 -1.2h10.6a1.2 1.2 0 0 1 1.2 1.2v2.3z", "blau")
 
 
+def _seitenlupe(zeichen):
+    return (pfad("M9.6 9.6l4.2 4.2", s="tinte", w=3.2) + pfad("M9.8 9.8l3.9 3.9", s="holz", w=1.6)
+            + kreis(6.5, 6.5, 4.8, "papier") + zeichen)
+
+
+def _seitenpfeil(rechts):
+    punkte = "6.5,2.5 13,8 6.5,13.5 6.5,10 2,10 2,6 6.5,6" if rechts else "9.5,2.5 3,8 9.5,13.5 9.5,10 14,10 14,6 9.5,6"
+    return vieleck(punkte, "laub")
+
+
+def _passung(quer):
+    pfeile = ("M4.5 8h7M6.2 6.2l-1.9 1.8l1.9 1.8M9.8 6.2l1.9 1.8l-1.9 1.8" if quer else
+              "M8 4.6v7M6.2 6.2l1.8 -1.9l1.8 1.9M6.2 10l1.8 1.9l1.8 -1.9")
+    return eck(*((1.5, 3.5, 13, 9) if quer else (3, 1.5, 10, 13)), "papier") + pfad(pfeile, s="dunkelblau", w=1.3)
+
+
 BILDER = {
+    "seite": {
+        "zurueck": lambda: _seitenpfeil(False),
+        "weiter": lambda: _seitenpfeil(True),
+        "kleiner": lambda: _seitenlupe(pfad("M4.3 6.5h4.4", w=1.6)),
+        "groesser": lambda: _seitenlupe(pfad("M4.3 6.5h4.4M6.5 4.3v4.4", w=1.6)),
+        "breite": lambda: _passung(True),
+        "ganz": lambda: _passung(False),
+        "fund_zurueck": lambda: gruppe(lupe(), 0, 0, 0.8) + gruppe(vieleck("0,4 3.4,-1 -3.4,-1", "gelb", w=1), 12, 4.6, 1, 180),
+        "fund_weiter": lambda: gruppe(lupe(), 0, 0, 0.8) + gruppe(vieleck("0,4 3.4,-1 -3.4,-1", "gelb", w=1), 12, 3.4),
+    },
     "leiste": {
         "neu_feldkranz": lambda: brett() + plus(),
         "neu_test": lambda: testblatt() + plus(),

@@ -11,7 +11,6 @@
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QImageReader>
@@ -19,6 +18,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <QtEndian>
 
 #include <array>
 #include <cstdlib>
@@ -73,6 +73,8 @@ class BilderTest : public QObject {
 
 private Q_SLOTS:
     void everyButtonOfTheToolbarsHasAPictureInBothSizes();
+    void captionsGiveWayToTheRoomAndComeBack_data();
+    void captionsGiveWayToTheRoomAndComeBack();
     void everyPictureHasADoubleOfTwiceItsSize();
     void noTwoPicturesOfAFolderAreToldByColourAlone_data();
     void noTwoPicturesOfAFolderAreToldByColourAlone();
@@ -102,6 +104,53 @@ void BilderTest::everyButtonOfTheToolbarsHasAPictureInBothSizes() {
                      Abbild(zeile.bild, aufloesung));
             QVERIFY2(!Leer(gezeigt.toImage()), zeile.name.data());
         }
+    }
+}
+
+void BilderTest::captionsGiveWayToTheRoomAndComeBack_data() {
+    QTest::addColumn<bool>("quiz");
+    QTest::addColumn<QString>("auswahl");
+    QTest::addColumn<QString>("speichern");
+    QTest::newRow("quiz form") << true << QStringLiteral("cmdAuswahl(0)") << QStringLiteral("cmdDateiFK(3)");
+    QTest::newRow("test form") << false << QStringLiteral("cmdAuswahl(1)") << QStringLiteral("cmdDateiHB(3)");
+}
+
+void BilderTest::captionsGiveWayToTheRoomAndComeBack() {
+    QFETCH(const bool, quiz);
+    QFETCH(const QString, auswahl);
+    QFETCH(const QString, speichern);
+    Programm programm;
+    if (quiz) {
+        programm.NeuesQuizformular();
+    } else {
+        programm.NeuesTestformular();
+    }
+    programm.haupt()->showNormal();
+    const QWidget* kranz = Finden(programm.haupt(), QStringLiteral("pnlKranz"));
+    for (const int breite : {1024, 1280, 1800, 1024}) {
+        programm.haupt()->resize(breite, 700);
+        QTRY_COMPARE(programm.haupt()->width(), breite);
+        QList<QRect> flaechen;
+        bool alleWorte = true;
+        for (const auto* taste : kranz->findChildren<QToolButton*>()) {
+            if (!taste->isVisible()) {
+                continue;
+            }
+            const QRect flaeche(taste->mapTo(kranz, QPoint(0, 0)), taste->size());
+            QVERIFY2(kranz->rect().contains(flaeche), qPrintable(taste->objectName()));
+            for (const QRect& andere : flaechen) {
+                QVERIFY2(!andere.intersects(flaeche), qPrintable(taste->objectName()));
+            }
+            flaechen.append(flaeche);
+            const int wort = taste->fontMetrics().horizontalAdvance(taste->text());
+            QVERIFY2(tastenbildKante + wort < taste->width(), qPrintable(taste->objectName()));
+            QVERIFY2(!taste->accessibleName().isEmpty(), qPrintable(taste->objectName()));
+            alleWorte = alleWorte && wort > 0;
+        }
+        QVERIFY(flaechen.size() > 20);
+        QCOMPARE(alleWorte, breite == 1800);
+        QCOMPARE(Finden<QToolButton>(kranz, auswahl)->text(), QStringLiteral("Auswahl"));
+        QCOMPARE(Finden<QToolButton>(kranz, speichern)->text().isEmpty(), breite < 1800);
     }
 }
 
