@@ -1,12 +1,12 @@
 # The Debian packages that the scripts need, in one place, and a routine that installs what is missing. Sourced.
 
-pakete_bau=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n)
+pakete_bau=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n qt6-pdf-dev qt6-webengine-dev)
 # What a running program wants beside the libraries it links: a display plug-in, picture formats, fonts that
 # measure like Arial.
 pakete_lauf=(libqt6gui6 qt6-qpa-plugins fonts-liberation fonts-dejavu-core)
 # A virtual screen, and what turns a printed page into a picture.
 pakete_schirm=(xvfb openbox x11-xkb-utils xkb-data poppler-utils)
-pakete_test=(googletest libgtest-dev xdotool x11-utils strace cups cups-client printer-driver-cups-pdf)
+pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-client printer-driver-cups-pdf)
 pakete_lint=(clang clang-tidy clang-format cppcheck python3)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
 pakete_bild=(graphviz python3)

@@ -148,7 +148,6 @@ private Q_SLOTS:
     void nothingStaysOnTheDisk();
     void aServerThatIsNotThereReportsNothing();
     void aPageWithAnErrorReportsNothing();
-    void withoutThePlugInNothingIsReported();
     void asTheAdministratorNoPageIsShownWithoutItsWalls();
     void theWindowClosesWhileItsPageIsLoading();
     void theWindowLooksFinished();
@@ -384,27 +383,6 @@ void FrmHomepageTest::aPageWithAnErrorReportsNothing() {
     const Besuch besuch(server);
     QTRY_VERIFY_WITH_TIMEOUT(!server.gefragt.isEmpty(), 20000);
     QVERIFY(HomepageOffen()->isVisible());
-}
-
-void FrmHomepageTest::withoutThePlugInNothingIsReported() {
-    const Zusatzordner zusatz(QStringLiteral("/nirgendwo"));
-    const Programm programm;
-    const Dialogfolge dialoge;
-    QStringList draussen;
-    UebergabeErsetzen([&](const std::string& adresse) {
-        draussen.append(QString::fromStdString(adresse));
-        return true;
-    });
-    Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"))->click();
-    QVERIFY(HomepageOffen()->isVisible());
-    QVERIFY(draussen.isEmpty()); // nothing opens by itself
-    auto* cmdBrowser = Finden<QAbstractButton>(HomepageOffen(), QStringLiteral("cmdBrowser"));
-    QVERIFY(cmdBrowser->isVisible());
-    BildVon(programm.haupt(), QStringLiteral("frmHomepage_ohne"));
-    QTest::mouseClick(cmdBrowser, Qt::LeftButton);
-    QCOMPARE(draussen, QStringList{QStringLiteral("https://www.feldkranz.example/modules.php?op=modload&name="
-                                                  "Downloads&file=index&req=viewsdownload&sid=18")});
-    UebergabeErsetzen({});
 }
 
 void FrmHomepageTest::asTheAdministratorNoPageIsShownWithoutItsWalls() {

@@ -7,6 +7,8 @@
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void theMenuEntryHandsOverTheSameMail();
     void aMailProgramThatDoesNotStartReportsNothing();
     void theTextGoesOutAsItIs();
+    void theSystemsOwnCommandGetsTheAddress();
 };
 
 void MailTest::theButtonHandsOverTheMakersMailWithAnHourglass() {
@@ -75,6 +78,27 @@ void MailTest::theTextGoesOutAsItIs() {
     const Empfaenger empfaenger;
     MailSenden(nullptr, "a b@c", "50 % & mehr?", "ä\r\n#");
     QCOMPARE(empfaenger.adressen, std::vector{std::string("mailto:a b@c?subject=50 % & mehr?&body=ä\r\n#")});
+}
+
+// Only what the toolkit can't pass on as it is becomes %20 and the like.
+void MailTest::theSystemsOwnCommandGetsTheAddress() {
+    const QTemporaryDir ordner;
+    const QString ziel = ordner.filePath(QStringLiteral("adresse"));
+    QFile befehl(ordner.filePath(QStringLiteral("xdg-open")));
+    QVERIFY(befehl.open(QIODevice::WriteOnly));
+    befehl.write("#!/bin/sh\nprintf %s \"$*\" >\"" + ziel.toUtf8() + ".neu\"\nmv \"" + ziel.toUtf8() +
+                 ".neu\" \"" + ziel.toUtf8() + "\"\n");
+    befehl.close();
+    befehl.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray pfad = qgetenv("PATH");
+    qputenv("PATH", ordner.path().toUtf8() + ':' + pfad);
+    MailAnHersteller();
+    QFile adresse(ziel);
+    QTRY_VERIFY(adresse.exists());
+    QVERIFY(adresse.open(QIODevice::ReadOnly));
+    qputenv("PATH", pfad);
+    QCOMPARE(adresse.readAll(), QByteArray("mailto:post@feldkranz.example?subject=Feldkranz!"
+                                           "&body=Hier%20eine%20Anmerkung%20zu%20Feldkranz!%20:"));
 }
 
 QTEST_MAIN(MailTest)
