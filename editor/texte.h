@@ -81,7 +81,9 @@ inline constexpr std::array tasten{
 
 inline constexpr std::string_view tipptitel = "Editor";
 inline constexpr std::string_view feldTipp = "Textfenster für Texteingabe.";
-inline constexpr std::array<Hinweistext, 23> hinweise{{
+inline constexpr std::string_view feldStatus = " Textfenster für Texteingabe";
+inline constexpr std::array<Hinweistext, 24> hinweise{{
+    {"pnlToolbar", "Befehle für den Text im Textfenster.", tipptitel, " Befehle des Editors"},
     {"cmdCopy(0)", "Markierten Text in die Zwischenablage kopieren.", tipptitel,
      " wenn Text markiert : Kopieren in Zwischenablage"},
     {"cmdCopy(1)", "Markierten Text an die Zwischenablage anhängen.", tipptitel,
@@ -108,11 +110,11 @@ inline constexpr std::array<Hinweistext, 23> hinweise{{
     {"cmdTexteingabeRot", "Der Text hat Änderungen, die noch nicht gespeichert sind.", tipptitel,
      " Text ist verändert"},
     {"cmdTexteingabeGruen", "Am Text ist nichts Ungespeichertes.", tipptitel, " Text ist unverändert"},
-    {"pnlLaufname", "Bezeichnung der Auswertung.", tipptitel, ""},
-    {"pnlDatei", "Name der geladenen/abgespeicherten Datei.", tipptitel, ""},
-    {"pnlEdit", feldTipp, tipptitel, ""},
-    {"pnlNotiz", feldTipp, tipptitel, ""},
-    {"txtNotiz", feldTipp, tipptitel, ""},
+    {"pnlLaufname", "Bezeichnung der Auswertung.", tipptitel, " Bezeichnung der Auswertung"},
+    {"pnlDatei", "Name der geladenen/abgespeicherten Datei.", tipptitel, " Name der Datei"},
+    {"pnlEdit", feldTipp, tipptitel, feldStatus},
+    {"pnlNotiz", feldTipp, tipptitel, feldStatus},
+    {"txtNotiz", feldTipp, tipptitel, feldStatus},
 }};
 
 } // namespace editortexte

@@ -21,7 +21,7 @@ namespace {
 QString Tipptext(const QWidget& element) {
     if (const auto* liste = qobject_cast<const QAbstractItemView*>(&element)) {
         const QModelIndex eintrag = liste->indexAt(liste->viewport()->mapFromGlobal(QCursor::pos()));
-        if (const QString text = eintrag.data(Qt::ToolTipRole).toString(); !text.isEmpty()) {
+        if (QString text = eintrag.data(Qt::ToolTipRole).toString(); !text.isEmpty()) {
             return text;
         }
     }

@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
+#include "editor/editor.h"
 #include "quizform/frmFKFragen.h"
 #include "testform/frmHBFragen.h"
 #include "tests/filetools/dateifenster.h"
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void theSettingsDialogOnAllItsTabs();
     void theFileDialog();
     void theListOfForms();
+    void theEditor();
     void theDialogsThatTellAndAsk();
     void everyMenuEntryHasAStatusText();
 };
@@ -100,6 +102,12 @@ void RundgangTest::theFileDialog() {
 void RundgangTest::theListOfForms() {
     Programm programm;
     Pruefen(*FensterAbwarten(QStringLiteral("frmFKformulare")), 9);
+}
+
+void RundgangTest::theEditor() {
+    Programm programm;
+    EditorZeigen();
+    Pruefen(*FensterAbwarten(QStringLiteral("frmEditor")), 20);
 }
 
 void RundgangTest::theDialogsThatTellAndAsk() {

@@ -10,6 +10,7 @@
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QTest>
 
