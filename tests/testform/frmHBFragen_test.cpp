@@ -263,7 +263,7 @@ void FrmHBFragenTest::theArrowKeysStepAsWell() {
 
 void FrmHBFragenTest::theBackgroundIsTheColourOfTheSettings() {
     struct Zeile {
-        std::int16_t nummer;
+        std::int16_t nummer = 0;
         QColor farbe;
     };
     for (const auto& [nummer, farbe] :
