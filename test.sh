@@ -36,6 +36,7 @@ stil() {
   tools/format.sh --pruefen
   python3 tools/schichten.py
   python3 tools/dateistil.py
+  python3 assets/bilder.py --pruefen
 }
 
 bauen() { # preset

@@ -22,7 +22,7 @@ sys.dont_write_bytecode = True
 import verzeichnis  # noqa: E402
 from ico import ico  # noqa: E402
 
-HERKUNFT = HIER / "png" / "herkunft.txt"  # hash of the drawing that each bitmap was made from
+HERKUNFT = HIER / "png" / "herkunft.txt"  # of each bitmap: hash of the drawing it was made from, and its own
 
 
 def laufen(*befehl):
@@ -56,8 +56,13 @@ def bitmaps():
             yield HIER / "png" / f"{name}@2x.png", 2, zeichnung
 
 
-def pruefsumme(text):
-    return hashlib.sha256(text.encode("utf-8")).hexdigest()[:16]
+def pruefsumme(inhalt):
+    return hashlib.sha256(inhalt).hexdigest()[:16]
+
+
+def herkunft(ziel, text):
+    """What the list says of a bitmap that was made from a drawing of that text."""
+    return f"{pruefsumme(text.encode('utf-8'))} {pruefsumme(ziel.read_bytes()) if ziel.exists() else '-'}"
 
 
 def herkunft_lesen():
@@ -66,19 +71,18 @@ def herkunft_lesen():
     return dict(zeile.split("  ", 1)[::-1] for zeile in HERKUNFT.read_text(encoding="utf-8").splitlines())
 
 
-def packen():
-    """Icons for packages: one .ico, the usual sizes and the drawing itself."""
-    groessen = verzeichnis.PROGRAMMGROESSEN
-    quellen = {g: HIER / "png/programm" / f"{g}.png" for g in groessen}
-    (WURZEL / "packaging").mkdir(exist_ok=True)
-    (WURZEL / "packaging/feldkranz.ico").write_bytes(ico({g: q.read_bytes() for g, q in quellen.items()}))
-    for groesse, quelle in quellen.items():
-        ziel = WURZEL / f"packaging/icons/hicolor/{groesse}x{groesse}/apps/feldkranz.png"
-        ziel.parent.mkdir(parents=True, exist_ok=True)
-        ziel.write_bytes(quelle.read_bytes())
-    ziel = WURZEL / "packaging/icons/hicolor/scalable/apps/feldkranz.svg"
-    ziel.parent.mkdir(parents=True, exist_ok=True)
-    ziel.write_bytes((HIER / "svg/programm/256.svg").read_bytes())
+def pakete():
+    """(target, bytes) of the icons for packages: one .ico, the usual sizes and the drawing itself."""
+    png = {g: (HIER / "png/programm" / f"{g}.png").read_bytes() for g in verzeichnis.PROGRAMMGROESSEN}
+    yield WURZEL / "packaging/feldkranz.ico", ico(png)
+    for groesse, inhalt in png.items():
+        yield WURZEL / f"packaging/icons/hicolor/{groesse}x{groesse}/apps/feldkranz.png", inhalt
+    yield (WURZEL / "packaging/icons/hicolor/scalable/apps/feldkranz.svg",
+           (HIER / "svg/programm/256.svg").read_bytes())
+
+
+def text_von(zeichnung, soll):
+    return soll[f"{zeichnung.parent.name}/{zeichnung.stem}"]
 
 
 def klagen(soll, alt):
@@ -86,37 +90,41 @@ def klagen(soll, alt):
         datei = HIER / "svg" / f"{name}.svg"
         if not datei.exists() or datei.read_text(encoding="utf-8") != text:
             yield f"{datei.relative_to(WURZEL)} isn't what assets/malen draws"
-    vorhanden = set((HIER / "png").glob("*/*.png"))
+    uebrig = set((HIER / "png").glob("*/*.png"))
     for ziel, _, zeichnung in bitmaps():
-        vorhanden.discard(ziel)
+        uebrig.discard(ziel)
         pfad = str(ziel.relative_to(WURZEL))
-        if not ziel.exists() or alt.get(pfad) != pruefsumme(soll[str(zeichnung.relative_to(HIER / "svg"))[:-4]]):
+        if not ziel.exists() or alt.get(pfad) != herkunft(ziel, text_von(zeichnung, soll)):
             yield f"{pfad} isn't made from its drawing"
-    for rest in sorted(vorhanden):
+    for rest in sorted(uebrig):
         yield f"{rest.relative_to(WURZEL)} belongs to no drawing"
+    for ziel, inhalt in pakete():
+        if not ziel.exists() or ziel.read_bytes() != inhalt:
+            yield f"{ziel.relative_to(WURZEL)} isn't made from its pictures"
 
 
 def malen(soll, alt):
-    namen = {HIER / "svg" / f"{name}.svg": text for name, text in soll.items()}
-    for datei in set((HIER / "svg").glob("*/*.svg")) - set(namen):
-        datei.unlink()
-    for datei, text in namen.items():
+    for datei in (HIER / "svg").glob("*/*.svg"):
+        if f"{datei.parent.name}/{datei.stem}" not in soll:
+            datei.unlink()
+    for name, text in soll.items():
+        datei = HIER / "svg" / f"{name}.svg"
         datei.parent.mkdir(parents=True, exist_ok=True)
         datei.write_text(text, encoding="utf-8")
-    neu, faellig = {}, []
-    for ziel, mass, zeichnung in bitmaps():
-        pfad, summe = str(ziel.relative_to(WURZEL)), pruefsumme(namen[zeichnung])
-        neu[pfad] = summe
-        if not ziel.exists() or alt.get(pfad) != summe:
-            faellig.append((ziel, mass, zeichnung))
+    alle = list(bitmaps())
+    faellig = [auftrag for auftrag in alle
+               if alt.get(str(auftrag[0].relative_to(WURZEL))) != herkunft(auftrag[0], text_von(auftrag[2], soll))]
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
         list(pool.map(lambda auftrag: zerlegen(*auftrag), faellig))
-    for datei in set((HIER / "png").glob("*/*.png")) - {ziel for ziel, _, _ in bitmaps()}:
+    for datei in set((HIER / "png").glob("*/*.png")) - {ziel for ziel, _, _ in alle}:
         datei.unlink()
-    HERKUNFT.write_text("".join(f"{summe}  {pfad}\n" for pfad, summe in sorted(neu.items())), encoding="utf-8")
-    if verzeichnis.PROGRAMMGROESSEN:
-        packen()
-    print(f"{len(soll)} drawings, {len(neu)} bitmaps, {len(faellig)} of them made anew")
+    zeilen = sorted(f"{ziel.relative_to(WURZEL)}" for ziel, _, _ in alle)
+    neu = {str(ziel.relative_to(WURZEL)): herkunft(ziel, text_von(zeichnung, soll)) for ziel, _, zeichnung in alle}
+    HERKUNFT.write_text("".join(f"{neu[pfad]}  {pfad}\n" for pfad in zeilen), encoding="utf-8")
+    for ziel, inhalt in pakete():
+        ziel.parent.mkdir(parents=True, exist_ok=True)
+        ziel.write_bytes(inhalt)
+    print(f"{len(soll)} drawings, {len(alle)} bitmaps, {len(faellig)} of them made anew")
 
 
 def main():

@@ -9,7 +9,7 @@ pakete_schirm=(xvfb openbox x11-xkb-utils xkb-data poppler-utils)
 pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-client printer-driver-cups-pdf)
 pakete_lint=(clang clang-tidy clang-format cppcheck python3)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
-pakete_bild=(graphviz python3)
+pakete_bild=(graphviz python3 librsvg2-bin imagemagick fonts-liberation fonts-urw-base35)
 
 # pakete_sichern <package>...: installs those that aren't there; asks nothing, and touches nothing when all are.
 pakete_sichern() {

@@ -2,10 +2,8 @@
 basket, the sketches of paper, the words on the answer buttons."""
 
 import klein
-from gross import ausruf, blatt, felder, zeilen
-from stil import eck, gruppe, kreis, oval, pfad, schrift, vieleck, zug
-
-BUNT = ["gelb", "weiss", "blau", "weiss", "gruen", "weiss", "rot", "weiss", "orange"]
+from gross import blatt, zeilen
+from stil import eck, gruppe, kreis, pfad, schrift, vieleck, zug
 
 
 # Flags, 24 by 25: the red one flies at the top, the green one hangs lower
@@ -46,7 +44,8 @@ def _gerandet(inhalt, umriss):
 
 
 def _bogen(x, y):
-    return (_gerandet(blatt(x, y, 16, 20, 4.5), f"M{x} {y}h11.5l4.5 4.5v15.5h-16z") + zeilen(x + 3, y + 6.4, (6, 10, 10, 7)))
+    return (_gerandet(blatt(x, y, 16, 20, 4.5), f"M{x} {y}h11.5l4.5 4.5v15.5h-16z") + zeilen(x + 3, y
+            + 6.4, (6, 10, 10, 7)))
 
 
 def _pfeil(x, y, f, auf):

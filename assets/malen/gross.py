@@ -2,7 +2,7 @@
 
 import math
 
-from stil import eck, gruppe, kreis, oval, pfad, schrift, vieleck, zug
+from stil import eck, gruppe, kreis, oval, pfad, vieleck, zug
 
 KANTE, STRICH = 32, 1.5
 
@@ -51,7 +51,7 @@ def marke(x, y, f, zeichen):
     return kreis(x, y, 7.2, "hell", s="none") + kreis(x, y, 6.2, f, w=1.4) + gruppe(zeichen, x, y)
 
 
-def blase(f, x=0, y=0, spiegeln=False):
+def blase(f, x=0, y=0):
     d = "M3 0h10a3 3 0 0 1 3 3v6.5a3 3 0 0 1 -3 3h-3.4l-4.6 4v-4h-2a3 3 0 0 1 -3 -3v-6.5a3 3 0 0 1 3 -3z"
     return gruppe(pfad(d, f), x, y)
 
@@ -95,7 +95,7 @@ def gewitter():
             + pfad("M7 23.4l-1.4 3.4M26 22.6l-1.4 3.4", s="#5590c6", w=1.8))
 
 
-def eule(mit_frage=True):
+def eule():
     koerper = (pfad("M6 4.4l4.6 2.4a12 12 0 0 1 10.8 0l4.6 -2.4v13.2c0 7 -4 11.9 -10 11.9s-10 -4.9 -10 -11.9z", "holz")
                + pfad("M10.4 19.6c2.2 -1.8 9 -1.8 11.2 0c.8 4.6 -1.6 8.4 -5.6 8.4s-6.4 -3.8 -5.6 -8.4z", "leinen", w=1.1)
                + pfad("M12.8 22.6l1.4 1.2l1.4 -1.2M16.4 22.6l1.4 1.2l1.4 -1.2M14.6 25.4l1.4 1.2l1.4 -1.2", w=1)
@@ -125,7 +125,8 @@ def pfeife():
 def suche():
     return (gruppe(blatt(4, 3, 16, 21, 4.5) + zeilen(7, 9, (9, 7, 9, 5)), dreh=-8, um=(12, 13))
             + pfad("M23.4 23.4l6 6", w=5.2) + pfad("M23.8 23.8l5.4 5.4", s="#b07c48", w=2.8)
-            + kreis(18.4, 18, 7.6, "blau", w=1.7) + frage(18.2, 16.6, 0.72) + pfad("M13.2 16a5.6 5.6 0 0 1 2.6 -3", s="hell", w=1.5))
+            + kreis(18.4, 18, 7.6, "blau", w=1.7) + frage(18.2, 16.6, 0.72)
+            + pfad("M13.2 16a5.6 5.6 0 0 1 2.6 -3", s="hell", w=1.5))
 
 
 def ablage():
@@ -182,7 +183,8 @@ def drucker_hinweis():
 
 def regelbuch():
     return (pfad("M6.5 27v-21a3 3 0 0 1 3 -3h17v22.5h-17a2.5 2.5 0 0 0 0 5h17", "gruen")
-            + pfad("M9.4 30.4h17v-4.8h-17a2.4 2.4 0 0 0 0 4.8z", "papier", w=1.2) + pfad("M10.4 3.4v22", s="dunkelgruen", w=1.2)
+            + pfad("M9.4 30.4h17v-4.8h-17a2.4 2.4 0 0 0 0 4.8z", "papier", w=1.2)
+            + pfad("M10.4 3.4v22", s="dunkelgruen", w=1.2)
             + gruppe(pfeife(), 12.2, 5.4, 0.44))
 
 
@@ -207,7 +209,8 @@ def _gesicht(auge=True):
 
 def brennek():
     return (_schultern("gruen", "blau") + _gesicht(False)
-            + pfad("M8.6 12.6c-1.6 -10.6 17 -11.8 14.8 0c-1 -3.4 -4 -4.6 -6.6 -4.4c-3.6 .2 -6.4 1 -8.2 4.4z", "leder", w=1.3)
+            + pfad("M8.6 12.6c-1.6 -10.6 17 -11.8 14.8 0c-1 -3.4 -4 -4.6 -6.6 -4.4c-3.6 .2 -6.4 1 -8.2 4.4z",
+            "leder", w=1.3)
             + kreis(12.6, 14, 2.7, "hell", w=1.3) + kreis(19.4, 14, 2.7, "hell", w=1.3) + pfad("M15.3 14h1.4", w=1.3)
             + kreis(12.8, 14.2, 1, "tinte", s="none") + kreis(19.2, 14.2, 1, "tinte", s="none"))
 

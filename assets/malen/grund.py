@@ -34,7 +34,8 @@ def _zweig(x, y, spiegel, blaetter=4):
 
 
 def _tastenband(b, h, y):
-    return eck(4, y, b - 8, h - y - 4, "#ecdcb8", s="none", fill_opacity=0.55) + pfad(f"M4 {y + 0.5}h{b - 8}", s=ZART, w=1)
+    return (eck(4, y, b - 8, h - y - 4, "#ecdcb8", s="none", fill_opacity=0.55)
+            + pfad(f"M4 {y + 0.5}h{b - 8}", s=ZART, w=1))
 
 
 def meldung():
@@ -52,7 +53,8 @@ def nachricht():
 
 def eingabe():
     b, h = 235, 199
-    return svg(b, h, 1.2, _bogen(b, h) + _tastenband(b, h, 146) + gruppe(_zweig(0, 0, False), 96, 29, 0.84) + gruppe(_zweig(0, 0, True), 144, 29, 0.84)
+    return svg(b, h, 1.2, _bogen(b, h) + _tastenband(b, h, 146) + gruppe(_zweig(0, 0, False), 96, 29, 0.84)
+            + gruppe(_zweig(0, 0, True), 144, 29, 0.84)
                + _rand(b, h))
 
 
@@ -78,7 +80,8 @@ def _tanne(x, y, mass, f="#5d8a4c"):
 
 def _zelt(x, y, mass, f="leinen"):
     return gruppe(pfad("M0 -34l34 40h-14z", "leder", w=1.2) + vieleck("0,-34 20,6 -24,6", f, w=1.4)
-                  + vieleck("-1.4,-18 7,6 -10,6", "leder", w=1.2) + pfad("M0 -34l-2 -4M0 -34l2 -4M-24 6l-6 3M34 6l5 3", w=1.2),
+                  + vieleck("-1.4,-18 7,6 -10,6", "leder", w=1.2)
+                  + pfad("M0 -34l-2 -4M0 -34l2 -4M-24 6l-6 3M34 6l5 3", w=1.2),
                   x, y, mass)
 
 
@@ -94,14 +97,17 @@ def start():
     b, h = 374, 203
     himmel = (_verlauf("himmel", "#bfe0f2", "#fff0c9") + _verlauf("wiese", "#d7e4a6", "#b9cf86")
               + eck(0, 0, b, 150, "url(#himmel)", s="none"))
-    sonne = kreis(346, 62, 17, "gelb", s="none", fill_opacity=0.85) + kreis(346, 62, 24, "#ffe987", s="none", fill_opacity=0.3)
+    sonne = (kreis(346, 62, 17, "gelb", s="none", fill_opacity=0.85)
+            + kreis(346, 62, 24, "#ffe987", s="none", fill_opacity=0.3))
     huegel = (pfad("M0 132q60 -30 128 -12q70 -26 140 -4q60 -18 106 4v40h-374z", "#a9c988", s="none")
               + pfad("M0 140q80 -22 180 -8q100 -16 194 2v20h-374z", "#c0d694", s="none"))
-    wald = "".join(_tanne(x, y, m) for x, y, m in ((112, 128, .62), (128, 131, .78), (247, 128, .66), (262, 131, .84), (232, 131, .5)))
+    wald = "".join(_tanne(x, y, m) for x, y, m in ((112, 128, .62), (128, 131, .78), (247, 128, .66), (262,
+            131, .84), (232, 131, .5)))
     wiese = eck(0, 139, b, h - 139, "url(#wiese)", s="none") + pfad("M0 139.5h374", s="#8fae63", w=1.2)
     lager = (_zelt(46, 139, 0.86) + _zelt(84, 143, 0.6, "papier") + gruppe(scheite(26.5) + flamme(15.6, 25), 292, 117, 1)
              + oval(344, 150, 16, 2.4, "#8fae63", s="none") + gruppe(eule(), 329, 119, 0.94))
-    return svg(b, h, 1.3, himmel + sonne + huegel + wald + wiese + lager + _wimpel() + _titel() + eck(0.5, 0.5, b - 1, h - 1, s=RAND, w=1))
+    return svg(b, h, 1.3, himmel + sonne + huegel + wald + wiese + lager + _wimpel() + _titel()
+            + eck(0.5, 0.5, b - 1, h - 1, s=RAND, w=1))
 
 
 BILDER = {"FK_START": start, "FK_MELDUNG": meldung, "FK_NACHRICHT": nachricht, "FK_INPUT": eingabe}

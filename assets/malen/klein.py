@@ -109,11 +109,6 @@ def mond(x, y, r, f="gelb", w=None):
     return pfad(f"M{x} {y - r}a{r} {r} 0 1 0 {r} {r}a{r * 0.8:g} {r * 0.8:g} 0 0 1 {-r} {-r}z", f, w=w)
 
 
-def zelt():
-    return (vieleck("8,2.5 14.5,13.5 1.5,13.5", "leinen") + vieleck("8,6 11.2,13.5 4.8,13.5", "leder")
-            + pfad("M8 2.5l-1 -1.3M8 2.5l1 -1.3"))
-
-
 def kopf(tuch, oben):
     """Somebody with a neckerchief."""
     return (pfad("M2.5 14.5c0 -3 2.4 -4.2 5.5 -4.2s5.5 1.2 5.5 4.2z", "gruen") + kreis(8, 6.6, 3.6, "haut")
@@ -131,7 +126,8 @@ def klemmbrett():
 
 
 def schere():
-    return (pfad("M5.4 9.6L11.2 1.6M10.6 9.6L4.8 1.6", w=1.6) + kreis(4.2, 11.7, 2.2, "rot") + kreis(11.8, 11.7, 2.2, "rot")
+    return (pfad("M5.4 9.6L11.2 1.6M10.6 9.6L4.8 1.6", w=1.6) + kreis(4.2, 11.7, 2.2, "rot")
+            + kreis(11.8, 11.7, 2.2, "rot")
             + kreis(4.2, 11.7, 0.7, "hell", w=0.8) + kreis(11.8, 11.7, 0.7, "hell", w=0.8))
 
 
@@ -150,10 +146,6 @@ def eule():
             + kreis(5.7, 7, 2, "hell", w=1) + kreis(10.3, 7, 2, "hell", w=1)
             + kreis(5.9, 7.1, 0.9, "tinte", s="none") + kreis(10.1, 7.1, 0.9, "tinte", s="none")
             + vieleck("7.1,8.8 8.9,8.8 8,10.6", "orange", w=0.8))
-
-
-def pfeil_runter(f="laub", x=0, y=0):
-    return gruppe(vieleck("-1.3,-4 1.3,-4 1.3,0 3.3,0 0,3.6 -3.3,0 -1.3,0", f, w=1), x, y)
 
 
 def pfeife():
@@ -251,16 +243,13 @@ def _haken():
 
 
 def _kreuz():
-    return pfad("M3.6 3.6l8.8 8.8M12.4 3.6l-8.8 8.8", w=4.2) + pfad("M3.6 3.6l8.8 8.8M12.4 3.6l-8.8 8.8", s="#dd6450", w=2.2)
+    return (pfad("M3.6 3.6l8.8 8.8M12.4 3.6l-8.8 8.8", w=4.2)
+            + pfad("M3.6 3.6l8.8 8.8M12.4 3.6l-8.8 8.8", s="#dd6450", w=2.2))
 
 
 def _backup():
     return (gruppe(diskette(), 3.2, -0.6, 0.78) + kreis(5.3, 10.4, 5.2, "none", s="none")
             + gruppe(diskette(), -0.7, 3.6, 0.78))
-
-
-def _browser():
-    return eck(1.5, 2.5, 13, 11, "papier", rx=1.2) + pfad("M1.5 6v-2.3a1.2 1.2 0 0 1 1.2 -1.2h10.6a1.2 1.2 0 0 1 1.2 1.2v2.3z", "blau")
 
 
 def _seitenlupe(zeichen):
@@ -287,13 +276,15 @@ BILDER = {
         "groesser": lambda: _seitenlupe(pfad("M4.3 6.5h4.4M6.5 4.3v4.4", w=1.6)),
         "breite": lambda: _passung(True),
         "ganz": lambda: _passung(False),
-        "fund_zurueck": lambda: gruppe(lupe(), 0, 0, 0.8) + gruppe(vieleck("0,4 3.4,-1 -3.4,-1", "gelb", w=1), 12, 4.6, 1, 180),
+        "fund_zurueck": lambda: gruppe(lupe(), 0, 0, 0.8)
+            + gruppe(vieleck("0,4 3.4,-1 -3.4,-1", "gelb", w=1), 12, 4.6, 1, 180),
         "fund_weiter": lambda: gruppe(lupe(), 0, 0, 0.8) + gruppe(vieleck("0,4 3.4,-1 -3.4,-1", "gelb", w=1), 12, 3.4),
     },
     "leiste": {
         "neu_feldkranz": lambda: brett() + plus(),
         "neu_test": lambda: testblatt() + plus(),
-        "feldkranz": lambda: blatt(2.5, 1.5, 11, 13) + felder(4.2, 6, 2.6, ["gelb", "weiss", "blau", "gruen", "rot", "weiss", "blau", "orange", "gelb"], 3),
+        "feldkranz": lambda: blatt(2.5, 1.5, 11, 13)
+            + felder(4.2, 6, 2.6, ["gelb", "weiss", "blau", "gruen", "rot", "weiss", "blau", "orange", "gelb"], 3),
         "test": lambda: blatt(2.5, 1.5, 11, 13) + "".join(
             eck(4.2, y, 2.2, 2.2, "weiss", w=0.8) + pfad(f"M7.8 {y + 1.1}h3.6", s="linie", w=1) for y in (5.2, 8.3, 11.2))
             + zug("4.4,6.2 5.4,7.2 7.6,4.4", s="dunkelgruen", w=1.3),
@@ -322,7 +313,9 @@ BILDER = {
         "regel": pfeife,
         "editor": lambda: blatt() + zeilen(4.5, 6, (4, 3, 2)) + gruppe(stift(), 2.6, 2.4, 0.85),
         "hilfe": eule,
-        "tarvo": lambda: kopf("gelb", pfad("M1.8 5h12.4c-1 -1.2 -2.4 -1.5 -3.4 -1.6c-.4 -2.6 -5.2 -2.6 -5.6 0c-1 .1 -2.4 .4 -3.4 1.6z", "leder", w=1)
+        "tarvo": lambda: kopf("gelb",
+            pfad("M1.8 5h12.4c-1 -1.2 -2.4 -1.5 -3.4 -1.6c-.4 -2.6 -5.2 -2.6 -5.6 0c-1 .1 -2.4 .4 -3.4 1.6z",
+            "leder", w=1)
                               + kreis(6.6, 7, 0.6, "tinte", s="none") + kreis(9.4, 7, 0.6, "tinte", s="none")),
         "brennek": lambda: kopf("blau", pfad("M4.4 6.2c-.2 -3.6 7.4 -4.4 7.2 0c-1.4 -1.6 -5.8 -1.6 -7.2 0z", "holz", w=1)
                                 + kreis(6.4, 7, 1.3, "hell", w=0.9) + kreis(9.6, 7, 1.3, "hell", w=0.9)),

@@ -3,7 +3,7 @@
 import math
 
 from gross import eichenlaub, felder
-from stil import eck, gruppe, kreis, pfad, svg, vieleck
+from stil import eck, gruppe, kreis, svg, vieleck
 
 GROESSEN = (16, 22, 24, 32, 48, 64, 128, 256)
 NEUN = ["gelb", "weiss", "blau", "rot", "gelb", "gruen", "weiss", "blau", "orange"]
@@ -12,7 +12,8 @@ NEUN = ["gelb", "weiss", "blau", "rot", "gelb", "gruen", "weiss", "blau", "orang
 def _ring(mitte, r, anzahl, knopf):
     """A wreath of round leaves, for the sizes in which an oak leaf is a smudge."""
     return "".join(
-        kreis(mitte + r * math.cos(w), mitte + r * math.sin(w), knopf, "gruen" if i % 2 else "laub", s="dunkelgruen", w=0.7)
+        kreis(mitte + r * math.cos(w), mitte
+            + r * math.sin(w), knopf, "gruen" if i % 2 else "laub", s="dunkelgruen", w=0.7)
         for i, w in ((i, 2 * math.pi * i / anzahl + 0.2) for i in range(anzahl)))
 
 
@@ -47,7 +48,8 @@ def gross(groesse):
             x, y = 16 + (11.6 + versatz) * math.cos(winkel), 16 + (11.6 + versatz) * math.sin(winkel)
             teile += eichenlaub(x, y, math.degrees(winkel) + drehung, 0.52, w / 0.52)
     brett = eck(8.2, 8.2, 15.6, 15.6, "holz", rx=1.8, w=w) + felder(9.55, 9.55, 4.3, NEUN, w=w)
-    schleife = "".join(vieleck(punkte, "rot", w=w) for punkte in ("15,27.6 9.8,25.2 10.4,31", "17,27.6 22.2,25.2 21.6,31"))
+    schleife = "".join(vieleck(punkte, "rot", w=w) for punkte in ("15,27.6 9.8,25.2 10.4,31",
+            "17,27.6 22.2,25.2 21.6,31"))
     return teile + brett + schleife + eck(14.2, 26, 3.6, 3.6, "rot", rx=1, w=w)
 
 

@@ -1,4 +1,5 @@
-// Takes a picture of every window, filled as in use, for docs/bilder. No test: it proves nothing, it shows.
+// Takes a picture of every window, filled as in use, to be looked at and for the handbook. No test: it proves
+// nothing, it shows.
 // BILDER_ORDNER names the folder where the pictures go.
 #include "catalogue/katalogladen.h"
 #include "catalogue/themen.h"
