@@ -127,7 +127,7 @@ public:
         maus::Klicken(Liste()->viewport(), Qt::NoModifier, Ort(name, stelle), stelle);
     }
     static void Doppelklicken(const QString& name, Stelle stelle = Stelle::hier()) {
-        maus::Doppelklicken(Liste()->viewport(), Ort(name, stelle), stelle);
+        maus::DoppeltDruecken(Liste()->viewport(), Ort(name, stelle), stelle);
     }
     static void Druecken(const char* name, Stelle stelle = Stelle::hier()) {
         QWidget* taste = Taste(name);

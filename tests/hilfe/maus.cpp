@@ -208,6 +208,13 @@ void Doppelklicken(const QWidget* ziel, std::optional<QPoint> stelle, Stelle auf
                2, Qt::NoModifier, stelle, aufrufer);
 }
 
+void DoppeltDruecken(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer) {
+    QStringList befehle{QStringLiteral("mousemove")};
+    befehle << Ort(Global(ziel, stelle, aufrufer)) << QStringLiteral("click") << QStringLiteral("--repeat")
+            << QStringLiteral("2") << QStringLiteral("1");
+    SendenUndWarten(befehle, QEvent::MouseButtonDblClick, 1, aufrufer);
+}
+
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer) {
     KlickenMit(ziel, {QStringLiteral("click"), QStringLiteral("3")}, 1, Qt::NoModifier, {}, aufrufer);
 }

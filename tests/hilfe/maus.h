@@ -24,6 +24,9 @@ void Klicken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
 void Druecken(const QWidget* ziel, Qt::KeyboardModifiers tasten = Qt::NoModifier,
               Stelle aufrufer = Stelle::hier());
 void Doppelklicken(const QWidget* ziel, std::optional<QPoint> stelle = {}, Stelle aufrufer = Stelle::hier());
+// The same where the second press itself may open a dialog, which then gets the release.
+void DoppeltDruecken(const QWidget* ziel, std::optional<QPoint> stelle = {},
+                     Stelle aufrufer = Stelle::hier());
 void RechtsKlicken(const QWidget* ziel, Stelle aufrufer = Stelle::hier());
 
 // Drags from one control to another with the modifiers held from press to release. While the pointer stands
