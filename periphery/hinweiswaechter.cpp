@@ -8,12 +8,10 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCursor>
-#include <QEnterEvent>
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QStatusTipEvent>
 #include <QTimer>
-
-#include <optional>
 
 namespace {
 
@@ -75,8 +73,7 @@ private:
     bool Sehen(QWidget& element, QEvent& ereignis) {
         switch (ereignis.type()) {
         case QEvent::MouseMove:
-        case QEvent::Enter:
-            ZeigerSehen(element, ereignis);
+            ZeigerSehen(element, static_cast<QMouseEvent&>(ereignis));
             return false;
         case QEvent::FocusIn:
             if (MitTaste(static_cast<QFocusEvent&>(ereignis))) {
@@ -110,21 +107,11 @@ private:
     }
 
     // Only the innermost element counts: an event that nobody takes comes again for each element around it.
-    // A window that comes up under the resting pointer has nothing to tell.
-    void ZeigerSehen(QWidget& element, QEvent& ereignis) {
-        if (ereignis.isSinglePointEvent()) {
-            const auto& zeiger = static_cast<QSinglePointEvent&>(ereignis);
-            if (element.childAt(zeiger.position().toPoint()) != nullptr) {
-                return;
-            }
-            const QPoint ort = zeiger.globalPosition().toPoint();
-            const bool bewegt = zeigerort_ ? *zeigerort_ != ort : ereignis.type() == QEvent::MouseMove;
-            zeigerort_ = ort;
-            if (!bewegt || zeiger.buttons() != Qt::NoButton) {
-                return;
-            }
+    // A window that comes up under the resting pointer has nothing to tell: entering it is no move.
+    void ZeigerSehen(QWidget& element, const QMouseEvent& ereignis) {
+        if (ereignis.buttons() == Qt::NoButton && element.childAt(ereignis.position().toPoint()) == nullptr) {
+            Ansprechen(HinweisstelleVon(&element), true);
         }
-        Ansprechen(HinweisstelleVon(&element), true);
     }
 
     void Ansprechen(const Hinweisstelle& stelle, bool amZeiger) {
@@ -190,7 +177,6 @@ private:
     QPointer<clsToolTipDeluxe> gezeigt_;
     QMetaObject::Connection ende_;
     QString text_;
-    std::optional<QPoint> zeigerort_;
     bool amZeiger_ = true;
     bool still_ = false;
 };

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void insideABoxItsTipIsTold();
     void aLabelTellsWhatItsListTells();
     void atTheEdgesOfTheScreenTheTipStaysOnIt();
+    void inTheCornersOfEveryScreenTheTipStaysOnThatOne();
     void theButtonOfTheFileListRunsTheStandardStyle();
     void aWindowThatThePointerComesBackToHasItsOwnTitleAgain();
     void aMenuEntrySetsTheStatusTextByMouseAndByKey();
@@ -293,6 +294,32 @@ void HinweiseTest::atTheEdgesOfTheScreenTheTipStaysOnIt() {
         QVERIFY(!tipp.contains(QCursor::pos()));
         if (rechts) {
             BildVomBildschirm(QStringLiteral("tipp-rand"));
+        }
+    }
+}
+
+void HinweiseTest::inTheCornersOfEveryScreenTheTipStaysOnThatOne() {
+    QWidget fenster(nullptr, Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    fenster.setObjectName(QStringLiteral("frmProbe"));
+    fenster.resize(40, 20);
+    HinweisSetzen(&fenster, "Ein Tipp, der breiter ist als der Rest des Bildschirms.", "Hinweis", "");
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+    for (const QScreen* schirm : QGuiApplication::screens()) {
+        const QRect ganz = schirm->geometry();
+        for (const QPoint ecke : {ganz.topLeft(), ganz.topRight() - QPoint(39, 0),
+                                  ganz.bottomLeft() - QPoint(0, 19), ganz.bottomRight() - QPoint(39, 19)}) {
+            fenster.move(ecke);
+            QTRY_COMPARE(fenster.pos(), ecke);
+            maus::Bewegen(&fenster);
+            QTRY_VERIFY(Objekt(&fenster).sichtbar());
+            const QRect tipp = Objekt(&fenster).tippfenster()->geometry();
+            QVERIFY(ganz.contains(tipp));
+            QVERIFY(!tipp.contains(QCursor::pos()));
+            maus::Bewegen(&fenster, QPoint(3, 3));
+            QTest::mouseClick(&fenster, Qt::LeftButton); // the tip goes
+            QTRY_VERIFY(!Objekt(&fenster).sichtbar());
+            HinweisSetzen(&fenster, Modelltext(fenster.toolTip()) + ".", "Hinweis", ""); // told anew
         }
     }
 }

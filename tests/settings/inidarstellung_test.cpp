@@ -2,6 +2,7 @@
 // print and file.
 #include "settings/blattskizze.h"
 #include "tests/hilfe/bild.h"
+#include "tests/hilfe/maus.h"
 #include "tests/settings/inihilfe.h"
 
 #include <QAction>
@@ -195,9 +196,9 @@ void IniDarstellungTest::everyControlHasItsTipAndStatusLine() {
                      qPrintable(it.key()));
         }
         for (auto it = status.begin(); it != status.end(); ++it) {
-            QEvent herein(QEvent::Enter);
-            QCoreApplication::sendEvent(Finden(&dialog, it.key()), &herein);
-            QCOMPARE(Status(programm), it.value());
+            Register(dialog, it.key().startsWith(QStringLiteral("cmdStandard")) ? 0 : 3);
+            maus::Bewegen(Finden(&dialog, it.key()));
+            QTRY_COMPARE(Status(programm), it.value());
         }
     });
 }
@@ -242,9 +243,8 @@ void IniDarstellungTest::theHelpButtonOnlyHasItsStatusLine() {
     Programm programm;
     programm.NeuesQuizformular();
     MitAbbrechen(programm, [&](QDialog& dialog, Dialogfolge&) {
-        QEvent herein(QEvent::Enter);
-        QCoreApplication::sendEvent(Finden(&dialog, QStringLiteral("cmdHilfe")), &herein);
-        QCOMPARE(Status(programm), QStringLiteral(" Hilfe für Feldkranz aufrufen "));
+        maus::Bewegen(Finden(&dialog, QStringLiteral("cmdHilfe")));
+        QTRY_COMPARE(Status(programm), QStringLiteral(" Hilfe für Feldkranz aufrufen "));
         Druecke(dialog, "cmdHilfe"); // a message would fail the test
         QVERIFY(dialog.isVisible());
     });
