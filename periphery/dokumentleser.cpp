@@ -25,6 +25,7 @@ constexpr double stufe = 1.25;       // of the two buttons for the size
 constexpr int tipppause = 250;       // milliseconds
 constexpr int suchfeldBreite = 260;  // at most
 constexpr int seitenfeldBreite = 40; // pixels
+constexpr int bildkante = 16;
 
 constexpr std::array tastenbilder{Tastenbild{"cmdSeiteZurueck", "seite/zurueck"},
                                   Tastenbild{"cmdSeiteWeiter", "seite/weiter"},
@@ -70,6 +71,7 @@ QToolButton* Dokumentleser::TasteBauen(const char* name, std::string_view aufsch
     knopf->setObjectName(QLatin1String(name));
     knopf->setText(Anzeige(aufschrift));
     knopf->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    knopf->setIconSize(QSize(bildkante, bildkante));
     knopf->setAutoRaise(true);
     knopf->setFocusPolicy(Qt::TabFocus);
     connect(knopf, &QToolButton::clicked, this, routine);
@@ -79,6 +81,7 @@ QToolButton* Dokumentleser::TasteBauen(const char* name, std::string_view aufsch
 void Dokumentleser::LeisteBauen() {
     leiste_ = new QToolBar(this); // what a narrow window has no room for goes into its menu
     leiste_->setObjectName(QStringLiteral("leisteSeiten"));
+    leiste_->setIconSize(QSize(bildkante, bildkante)); // of its buttons, whatever they say themselves
     leiste_->addWidget(TasteBauen("cmdSeiteZurueck", "Zurück", &Dokumentleser::Zurueck));
     leiste_->addWidget(TasteBauen("cmdSeiteWeiter", "Weiter", &Dokumentleser::Weiter));
     leiste_->addWidget(new QLabel(Anzeige(periphertexte::seite), this));

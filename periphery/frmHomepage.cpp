@@ -17,6 +17,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 QPointer<frmHomepage> offen;
@@ -37,7 +39,7 @@ void NachAussen(const QUrl& adresse) {
 
 } // namespace
 
-frmHomepage::frmHomepage(const QUrl& seite, QWidget* eltern) : QWidget(eltern), seite_(seite) {
+frmHomepage::frmHomepage(QUrl seite, QWidget* eltern) : QWidget(eltern), seite_(std::move(seite)) {
     offen = this;
     setObjectName(QStringLiteral("frmHomepage"));
     setProperty("tag", QStringLiteral("Homepage"));

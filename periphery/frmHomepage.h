@@ -13,7 +13,7 @@ class frmHomepage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit frmHomepage(const QUrl& seite, QWidget* eltern = nullptr);
+    explicit frmHomepage(QUrl seite, QWidget* eltern = nullptr);
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;

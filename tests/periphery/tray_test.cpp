@@ -181,10 +181,10 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     frmFKFragen* form = programm.NeuesQuizformular();
     AuswahlZeigen();
     QVERIFY(QTest::qWaitForWindowExposed(AuswahlOffen()));
-    const QRect platz = AuswahlOffen()->geometry();
-    programm.haupt()->activateWindow();
-    form->txtFrage.at(7)->setFocus();
+    AuswahlOffen()->move(800, 600); // clear of the cell
+    maus::Klicken(form->txtFrage.at(7));
     QTRY_VERIFY(form->txtFrage.at(7)->hasFocus());
+    const QRect platz = AuswahlOffen()->geometry();
     maus::Tippen(QStringLiteral("halb getippt"));
     AbInDenTray();
     QVERIFY(!programm.haupt()->isVisible());
