@@ -40,17 +40,29 @@ QPalette HellePalette() {
 
 } // namespace
 
+// Piece by piece: the toolkit's own replacing moves the rest of a long text again and again.
 QString Anzeige(std::string_view text) {
-    QString anzeige = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    anzeige.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    return anzeige;
+    std::string zeilen;
+    zeilen.reserve(text.size());
+    for (std::size_t ende = 0; (ende = text.find("\r\n")) != std::string_view::npos;) {
+        zeilen.append(text.substr(0, ende)) += '\n';
+        text.remove_prefix(ende + 2);
+    }
+    zeilen.append(text);
+    return QString::fromStdString(zeilen);
 }
 
 std::string Modelltext(const QString& text) {
-    QString modell = text;
-    modell.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    modell.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    return modell.toStdString();
+    const QByteArray utf8 = text.toUtf8();
+    std::string_view rest(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+    std::string modell;
+    modell.reserve(rest.size() + rest.size() / 16);
+    for (std::size_t ende = 0; (ende = rest.find('\n')) != std::string_view::npos;) {
+        const std::string_view zeile = rest.substr(0, ende);
+        modell.append(zeile).append(zeile.ends_with('\r') ? "\n" : "\r\n");
+        rest.remove_prefix(ende + 1);
+    }
+    return modell.append(rest);
 }
 
 QColor Systemflaeche() {

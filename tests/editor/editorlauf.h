@@ -21,6 +21,7 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QFile>
 #include <QLineEdit>
 #include <QTest>
 
@@ -152,6 +153,21 @@ inline void Markieren(const frmEditor* editor, int ab, int laenge) {
     }
 }
 
+inline QString Copy(int index) {
+    return QStringLiteral("cmdCopy(%1)").arg(index);
+}
+
+// The members of cmdCopy that are in use, as "01...7".
+inline QString Benutzbar(const frmEditor* editor) {
+    QString ziffern;
+    for (int i = 0; i < 8; ++i) {
+        if (Taste(editor, Copy(i))->isEnabled()) {
+            ziffern += QString::number(i);
+        }
+    }
+    return ziffern;
+}
+
 inline void RahmenSchliessen(const frmEditor* editor) {
     editor->parentWidget()->close();
 }
@@ -165,3 +181,60 @@ inline bool IstGruen(const frmEditor* editor) {
     return !Taste(editor, QStringLiteral("cmdTexteingabeRot"))->isVisible() &&
            Taste(editor, QStringLiteral("cmdTexteingabeGruen"))->isVisible();
 }
+
+inline const QString cmdDatei0 = QStringLiteral("cmdDatei(0)");
+inline const QString cmdDatei1 = QStringLiteral("cmdDatei(1)");
+inline const QString cmdDatei2 = QStringLiteral("cmdDatei(2)");
+inline const QString laden = QStringLiteral("cmdLaden");
+inline const QString speichern = QStringLiteral("cmdSpeichern");
+inline const QString abbrechen = QStringLiteral("cmdAbbrechen");
+
+// What the field shows of the file with the knots.
+inline const QString knotenText = QStringLiteral("1\nWas hält fest?\nPalstek\n10\n");
+
+inline void UeberschreibenErwarten(Dialogfolge& dialoge, const QString& name, int antwort,
+                                   Stelle stelle = Stelle::hier()) {
+    dialoge.frage(QStringLiteral(" Speichern unter ..."),
+                  QStringLiteral("Die Datei\n[ %1 ]\nist bereits vorhanden !\nSoll ich diese Datei "
+                                 "überschreiben ?")
+                      .arg(name),
+                  antwort, stelle);
+}
+
+inline void FehlerErwarten(Dialogfolge& dialoge, const QString& text,
+                           const QString& taste = QStringLiteral("Grrr.. *~§§°"),
+                           Stelle stelle = Stelle::hier()) {
+    dialoge.meldung(QStringLiteral("Notiz : cmdDatei :\n") + text, taste, stelle);
+}
+
+// A test with the editor open, and none of the files that tests write.
+class Editortest : public QObject {
+protected:
+    Editorlauf lauf;
+    frmEditor* editor = nullptr;
+
+    void Anfangen() {
+        lauf.Vorbereiten();
+        for (const char* name : {"KN.TXT", "KN.BAK", "kn.txt", "NEU.TXT", "neu.TXT", "neu.txt", "zwei.TXT"}) {
+            QFile::remove(lauf.programm().ordner().nativ(QStringLiteral("WISSEN/") + QLatin1String(name)));
+        }
+        editor = lauf.Oeffnen();
+        QVERIFY(editor != nullptr);
+        QTRY_VERIFY(editor->txtNotiz->hasFocus());
+    }
+    void Aufraeumen() {
+        EditorEntladen();
+        editor = nullptr;
+    }
+    void Geladen(const QString& name = QStringLiteral("KN.TXT"), const QByteArray& bytes = knoten) {
+        lauf.Schreiben(name, bytes);
+        Laden(editor, name);
+    }
+    // The window as it was, with its text unsaved: nothing that failed may change it.
+    void Unveraendert(const QString& text, const QString& name) const {
+        QCOMPARE(Text(editor), text);
+        QCOMPARE(editor->pnlDatei->caption(), name);
+        QVERIFY(IstRot(editor));
+        QCOMPARE(EditorGeaendert, std::int16_t(1));
+    }
+};
