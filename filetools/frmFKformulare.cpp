@@ -1,33 +1,24 @@
 #include "filetools/frmFKformulare.h"
 
 #include "core/bilder.h"
-#include "core/datei.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/pfad.h"
 #include "core/zustand.h"
-#include "dialogs/meldung.h"
-#include "filetools/dateiaktionen.h"
 #include "filetools/formularlistetexte.h"
 #include "filetools/ordnerwaechter.h"
 #include "persistence/oeffnen.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
 #include "testform/hbformular.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QListWidget>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
-#include <QSignalBlocker>
 #include <QTimer>
 
 #include <algorithm>
-#include <utility>
+#include <array>
 
 namespace {
 
@@ -53,22 +44,7 @@ void Faerben(QWidget* liste, Farbe grund) {
     liste->setPalette(palette);
 }
 
-bool FormularOffen() {
-    return FKFragenOffen() != nullptr || HBFragenOffen() != nullptr;
-}
-
 } // namespace
-
-frmFKformulare::Kopfzahlen frmFKformulare::Kopfzahlen::Jetzt() {
-    return {FormTyp, FelderGesamt, FragenProWissen, AnzahlWissen};
-}
-
-void frmFKformulare::Kopfzahlen::Einsetzen() const {
-    FormTyp = formTyp;
-    FelderGesamt = felderGesamt;
-    FragenProWissen = fragenProWissen;
-    AnzahlWissen = anzahlWissen;
-}
 
 frmFKformulare::frmFKformulare(QWidget* eltern)
     : QWidget(eltern, Qt::Tool),
@@ -132,81 +108,6 @@ void frmFKformulare::MusterSetzen(std::size_t stelle) {
     muster_ = listentexte::muster.at(stelle);
 }
 
-void frmFKformulare::Auffrischen(bool melden) {
-    waechter_->Beobachten(NativerPfad(ordner_)); // before reading, so that nothing slips between
-    try {
-        ListeFuellen(DateienIn(ordner_, muster_));
-    } catch (const Laufzeitfehler& fehler) {
-        ListeFuellen({});
-        if (melden) {
-            FehlerMelden(listentexte::ortDateiliste, fehler);
-        }
-    }
-}
-
-void frmFKformulare::ListeFuellen(std::vector<std::string> namen) {
-    if (namen == namen_) {
-        return;
-    }
-    namen_ = std::move(namen);
-    const std::string markiert = Markiert();
-    const int stelle = filDateiliste_->verticalScrollBar()->value();
-    QStringList texte;
-    texte.reserve(static_cast<qsizetype>(namen_.size()));
-    std::ranges::transform(namen_, std::back_inserter(texte), [](const auto& n) { return Anzeige(n); });
-    const QSignalBlocker still(filDateiliste_); // the preview stands as long as its file does
-    filDateiliste_->clear();
-    filDateiliste_->addItems(texte);
-    const auto fund = std::ranges::find(namen_, markiert);
-    if (!markiert.empty() && fund != namen_.end()) {
-        filDateiliste_->setCurrentRow(static_cast<int>(fund - namen_.begin()));
-        filDateiliste_->verticalScrollBar()->setValue(stelle);
-    } else {
-        vorschau_->stop();
-        lblDateiInfo_->setText(Anzeige(listentexte::infoLeer));
-    }
-}
-
-std::string frmFKformulare::Markiert() const {
-    const auto markierte = filDateiliste_->selectedItems();
-    return markierte.isEmpty() ? std::string() : markierte.first()->text().toStdString();
-}
-
-// The marked file becomes the program's current one, exactly the one of that name.
-void frmFKformulare::DateiUebernehmen() {
-    const Dateiort ort{ordner_, Markiert()};
-    if (ort.name.empty()) {
-        return;
-    }
-    DateiName = ort.pfad();
-    AuswahlMerken(DateiName, ort.nativ());
-}
-
-void frmFKformulare::Markieren() {
-    DateiUebernehmen();
-    vorschau_->start(0);
-}
-
-// The reader changes the values in force. While a form is open they are its own, and a look at another file
-// must not change what is saved with it: they come back. A file without such values goes on showing those of
-// the file before.
-void frmFKformulare::Vorschau() {
-    if (Markiert().empty()) {
-        return;
-    }
-    const Kopfzahlen eigene = Kopfzahlen::Jetzt();
-    if (FormularOffen() && stand_ && stand_->eigene == eigene) {
-        stand_->gezeigt.Einsetzen();
-    }
-    FormularInfoLesen();
-    lblDateiInfo_->setText(Anzeige(Vorschautext(FelderGesamt, AnzahlWissen, FragenProWissen)));
-    stand_.reset();
-    if (FormularOffen()) {
-        stand_ = {eigene, Kopfzahlen::Jetzt()};
-        eigene.Einsetzen();
-    }
-}
-
 void frmFKformulare::Oeffnen() {
     if (Markiert().empty()) {
         return;
@@ -216,10 +117,9 @@ void frmFKformulare::Oeffnen() {
         Vorschau(); // a key was faster; behind the opening it would speak over what that says
     }
     DateiUebernehmen();
-    const QPointer<frmFKformulare> da = this;
-    FormularErsetzen();
-    if (da != nullptr && FormularOffen()) {
-        Hauptfenster()->activateWindow();
+    QWidget* haupt = Hauptfenster();
+    if (FormularErsetzen() && haupt != nullptr) {
+        haupt->activateWindow(); // the user goes on in the form
     }
 }
 

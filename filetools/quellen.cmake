@@ -9,4 +9,5 @@ feldkranz_quellen(fenster
   filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp
   filetools/formularliste.cpp
   filetools/ordnerwaechter.cpp
-  filetools/frmFKformulare.h filetools/frmFKformulare.cpp filetools/frmFKformulareBau.cpp)
+  filetools/frmFKformulare.h filetools/frmFKformulare.cpp filetools/frmFKformulareBau.cpp
+  filetools/frmFKformulareListe.cpp)

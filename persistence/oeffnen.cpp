@@ -88,10 +88,11 @@ std::string Schluss(const std::string& text, int zeichen) {
     return text.substr(anfang);
 }
 
-void Laden(const std::function<bool()>& vorDemErsatz) {
+// True when the file was taken.
+bool Laden(const std::function<bool()>& vorDemErsatz) {
     if (DateiName.empty()) {
         Meldung(keineDatei);
-        return;
+        return false;
     }
     DateiAlt = DateiName;
     const Lesung lesung = FormularEinlesen(vorDemErsatz);
@@ -99,7 +100,7 @@ void Laden(const std::function<bool()>& vorDemErsatz) {
         Meldung(keinFormular);
     }
     if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
-        return;
+        return false;
     }
     if (FormTyp == "FK") {
         QuizZeigen();
@@ -108,6 +109,7 @@ void Laden(const std::function<bool()>& vorDemErsatz) {
     } else {
         NichtsZeigen();
     }
+    return true;
 }
 
 // The bytes for a preview. A file that is too large for a form isn't searched for the numbers of one.
@@ -138,15 +140,16 @@ void FormularLaden() {
     Laden({});
 }
 
-void FormularErsetzen() {
+bool FormularErsetzen() {
     if (const std::string_view art = OffeneArt(); !art.empty()) {
         FormTyp = art; // the list's preview and buttons may have set another one
     }
     std::string gerettet;
-    Laden([&gerettet] { return UngesichertesRetten(gerettet); });
+    const bool genommen = Laden([&gerettet] { return UngesichertesRetten(gerettet); });
     if (!gerettet.empty()) {
         HilfeText(Einsetzen(rettungsort, {gerettet}));
     }
+    return genommen;
 }
 
 void FormularInfoLesen() {

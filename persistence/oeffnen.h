@@ -6,8 +6,9 @@ void FormularOeffnen();
 // Loads the file that DateiName names into a form.
 void FormularLaden();
 // The same without a question, for the list of forms: what an open form hasn't saved is put into a file of
-// its own before the other one takes its place (rettung.h); when that fails the form stays.
-void FormularErsetzen();
+// its own before the other one takes its place (rettung.h); when that fails the form stays. True when the
+// file was taken.
+bool FormularErsetzen();
 // Reads only the "[FKINI]" section of DateiName into FormTyp, FelderGesamt, FragenProWissen and AnzahlWissen.
 // A file without one, as a test form is, changes nothing; an unreadable one is reported and changes nothing.
 void FormularInfoLesen();
