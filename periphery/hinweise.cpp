@@ -30,6 +30,9 @@ QWidget* EigenesFenster(QWidget* element) {
 }
 
 clsToolTipDeluxe* ObjektVon(const QWidget& fenster) {
+    if (ToolTip != nullptr && ToolTip->parent() == &fenster) {
+        return ToolTip; // while a window is built, it is asked for at each of its controls
+    }
     return fenster.findChild<clsToolTipDeluxe*>(QString(), Qt::FindDirectChildrenOnly);
 }
 

@@ -5,6 +5,7 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
+#include "dialogs/eingabe.h"
 #include "periphery/hinweise.h"
 #include "periphery/tooltipps.h"
 #include "quizform/frmFKFragen.h"
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void aWindowThatThePointerComesBackToHasItsOwnTitleAgain();
     void aMenuEntrySetsTheStatusTextByMouseAndByKey();
     void aModalDialogTellsInTheMainWindow();
+    void theInputDialogWarnsAtItsCancelButton();
     void aTipGoesWithItsControl();
     void theToolkitsOwnTipNeverComes();
     void movingOverTheStartWindowSetsTheStandardStyle();
@@ -355,7 +357,7 @@ void HinweiseTest::aWindowThatThePointerComesBackToHasItsOwnTitleAgain() {
 
 void HinweiseTest::aMenuEntrySetsTheStatusTextByMouseAndByKey() {
     const Buehne buehne;
-    const auto* menue = Finden<QMenu>(buehne.programm.haupt(), QStringLiteral("mDateien"));
+    auto* menue = Finden<QMenu>(buehne.programm.haupt(), QStringLiteral("mDateien"));
     QMenuBar* leiste = buehne.programm.haupt()->menuBar();
     maus::Klicken(leiste, Qt::NoModifier, leiste->actionGeometry(menue->menuAction()).center());
     QTRY_VERIFY(menue->isVisible());
@@ -364,7 +366,7 @@ void HinweiseTest::aMenuEntrySetsTheStatusTextByMouseAndByKey() {
     QTRY_COMPARE(buehne.Status(), QStringLiteral(" Formular für Feldkranz oder Test laden "));
     maus::Taste(QStringLiteral("Down"));
     QTRY_COMPARE(buehne.Status(), QStringLiteral(" Feldkranz beenden "));
-    maus::Taste(QStringLiteral("Escape"));
+    QTest::keyClick(menue, Qt::Key_Escape); // a real key's release would reach nobody
     QTRY_VERIFY(!menue->isVisible());
     QCOMPARE(buehne.Status(), QStringLiteral(" Feldkranz beenden "));
 }
@@ -389,6 +391,29 @@ void HinweiseTest::aModalDialogTellsInTheMainWindow() {
              BildVomBildschirm(QStringLiteral("tipp-dialog"));
          }});
     Finden<QAbstractButton>(buehne.programm.haupt(), QStringLiteral("cmdIni"))->click();
+    QVERIFY(dialoge.fertig());
+}
+
+void HinweiseTest::theInputDialogWarnsAtItsCancelButton() {
+    const Buehne buehne;
+    Dialogfolge dialoge;
+    dialoge.erwarte(
+        {QStringLiteral("frmInput"),
+         std::nullopt,
+         std::nullopt,
+         {QStringLiteral("cmdOK")},
+         [&buehne](QDialog& dialog) {
+             const auto stil = [&dialog] { return Objekt(&dialog).aussehen().stil; };
+             maus::Bewegen(Finden(&dialog, QStringLiteral("cmdAbbruch")));
+             TippAbwarten(&dialog, QStringLiteral("Schließen"), QStringLiteral("Eingabe abbrechen."));
+             QVERIFY(stil() == tipp::stilSchliessen);
+             QCOMPARE(buehne.Status(), QStringLiteral(" Eingabe abbrechen "));
+             maus::Bewegen(Finden(&dialog, QStringLiteral("cmdHilfe")));
+             TippAbwarten(&dialog, QStringLiteral("Hiiiilfee !"),
+                          QStringLiteral("Wenn erforderlich, wird hier ein Hilfesystem implementiert."));
+             QVERIFY(stil() == tipp::stilHilfe);
+         }});
+    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
     QVERIFY(dialoge.fertig());
 }
 
