@@ -13,6 +13,9 @@ if(EXISTS "${PROJECT_SOURCE_DIR}/core/main.cpp")
   add_executable(feldkranz WIN32 core/main.cpp)
   target_link_libraries(feldkranz PRIVATE fenster)
   set_target_properties(feldkranz PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${FELDKRANZ_PROGRAMMORDNER}")
+  if(WIN32)
+    target_sources(feldkranz PRIVATE "${PROJECT_SOURCE_DIR}/packaging/feldkranz.rc") # the icon of the file
+  endif()
   install(TARGETS feldkranz RUNTIME DESTINATION .)
 endif()
 

@@ -73,10 +73,12 @@ QPixmap Feinbild(const QPixmap& einfach, const std::string& pfad, double aufloes
     return doppelt.size() == 2 * einfach.size() ? doppelt : einfach;
 }
 
-QIcon Programmzeichen() {
+QIcon Programmzeichen(int groesste) {
     QIcon zeichen;
     for (const int kante : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        zeichen.addFile(QStringLiteral(":/bilder/programm/%1.png").arg(kante), QSize(kante, kante));
+        if (kante <= groesste) {
+            zeichen.addFile(QStringLiteral(":/bilder/programm/%1.png").arg(kante), QSize(kante, kante));
+        }
     }
     return zeichen;
 }

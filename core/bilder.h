@@ -35,5 +35,6 @@ void TastenbilderSetzen(const QObject* unter, std::span<const Tastenbild> bilder
 // picture that the user has put there in another size does alone.
 [[nodiscard]] QPixmap Feinbild(const QPixmap& einfach, const std::string& pfad, double aufloesung);
 
-// The program's icon in all its sizes.
-[[nodiscard]] QIcon Programmzeichen();
+// The program's icon in its sizes up to that edge in pixels. A window hands all of them to the desktop when
+// it shows, so the first one, which is there at once, does without the large ones.
+[[nodiscard]] QIcon Programmzeichen(int groesste = 256);

@@ -1,6 +1,7 @@
 #include "core/frmMDI.h"
 
 #include "core/ablage.h"
+#include "core/bilder.h"
 #include "core/fortschrittsbalken.h"
 #include "core/hauptfenster.h"
 #include "core/hilfepanel.h"
@@ -49,6 +50,7 @@ frmMDI::frmMDI() {
     hauptfenster = this;
     setObjectName(QStringLiteral("frmMDI"));
     setWindowTitle(Anzeige(kerntexte::hauptfenster));
+    setWindowIcon(Programmzeichen());
     TippsEinrichten(this, tippBreite);
     FlaechenBauen();
     WerkzeugleistenBauen(pnlKranz_);

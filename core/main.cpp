@@ -33,6 +33,7 @@ public:
 int main(int argc, char** argv) {
     const Anwendung anwendung(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Feldkranz!"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("feldkranz")); // packaging/feldkranz.desktop
     OberflaecheEinrichten();
     StartfensterZeigen();
     return QCoreApplication::exec();

@@ -92,7 +92,7 @@ void OberflaecheEinrichten() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(HellePalette());
     QApplication::setFont(Schrift(9));
-    QApplication::setWindowIcon(Programmzeichen());
+    QApplication::setWindowIcon(Programmzeichen(48));
     auto* uebersetzung = new QTranslator(qApp);
     // Without the toolkit's German texts its few own buttons speak English; nothing else is lost.
     if (uebersetzung->load(QStringLiteral(":/uebersetzung/qtbase_de.qm"))) {

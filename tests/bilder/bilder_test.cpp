@@ -333,7 +333,7 @@ void BilderTest::aFineBackgroundServesOnlyWhereItFits() {
 
 void BilderTest::theProgramsIconHasAllSizes() {
     const Programm programm;
-    const QIcon zeichen = QApplication::windowIcon();
+    const QIcon zeichen = programm.haupt()->windowIcon();
     for (const int kante : {16, 22, 24, 32, 48, 64, 128, 256}) {
         const QPixmap bild = zeichen.pixmap(QSize(kante, kante), 1.0);
         QCOMPARE(bild.size(), QSize(kante, kante));
