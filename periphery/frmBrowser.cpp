@@ -97,11 +97,11 @@ frmBrowser& BrowserZeigen() {
         delete offen->parentWidget(); // its place in the main window, which the dialog blocks
     }
     if (offen == nullptr) {
-        new frmBrowser; // goes with the window that it is put into
+        auto* fenster = new frmBrowser; // goes with the window that it is put into
         if (dialog != nullptr) {
-            UeberDialogZeigen(*offen, *dialog);
+            UeberDialogZeigen(*fenster, *dialog);
         } else {
-            Aufnehmen(*offen);
+            Aufnehmen(*fenster);
         }
     }
     KindNachVorn("Browser");

@@ -24,7 +24,8 @@ if(FELDKRANZ_WEB)
 endif()
 if(TARGET Qt6::Pdf)
   feldkranz_zusatz(feldkranz_pdf
-    periphery/pdfzusatz.cpp periphery/seitenansicht.cpp periphery/seitenlage.cpp)
+    periphery/pdfzusatz.cpp periphery/seitenansicht.cpp periphery/seitenlage.cpp
+    periphery/seitensuche.cpp)
   target_link_libraries(feldkranz_pdf PRIVATE Qt6::Widgets Qt6::Pdf)
 else()
   message(STATUS "Without Qt PDF: the rule document's window stays empty")

@@ -6,10 +6,13 @@
 #include "tests/hilfe/programm.h"
 #include "tests/periphery/zusatzordner.h"
 
+#include <QAbstractButton>
 #include <QFile>
 #include <QProcess>
 #include <QSet>
 #include <QTest>
+
+#include <array>
 
 namespace {
 

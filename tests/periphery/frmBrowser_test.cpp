@@ -1,114 +1,5 @@
-// The rule document: found or reported, read page by page, searched, and whatever a broken file may do.
-#include "core/frmMDI.h"
-#include "core/oberflaeche.h"
-#include "core/zustand.h"
-#include "dialogs/modal.h"
-#include "periphery/dokumentansicht.h"
-#include "periphery/frmBrowser.h"
-#include "periphery/spielregel.h"
-#include "tests/hilfe/bild.h"
-#include "tests/hilfe/dialogfolge.h"
-#include "tests/hilfe/finden.h"
-#include "tests/hilfe/maus.h"
-#include "tests/hilfe/programm.h"
-#include "tests/periphery/rundgang.h"
-#include "tests/periphery/zusatzordner.h"
-
-#include <QBuffer>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QScrollBar>
-#include <QTest>
-#include <QToolButton>
-
-namespace {
-
-const QString regel = QStringLiteral("REGEL/Feldkranz.pdf");
-
-// Pages of A4; each has its number, and the word Kranzfeld stands once on the first and twice on the third.
-QByteArray Dokument(int seiten) {
-    QByteArray bytes;
-    QBuffer puffer(&bytes);
-    puffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter schreiber(&puffer);
-        schreiber.setPageSize(QPageSize(QPageSize::A4));
-        schreiber.setResolution(72);
-        QPainter maler(&schreiber);
-        maler.setFont(QFont(QStringLiteral("Liberation Sans"), 14));
-        for (int seite = 1; seite <= seiten; ++seite) {
-            if (seite > 1) {
-                schreiber.newPage();
-            }
-            maler.drawText(40, 60, QStringLiteral("Das ist die Seite Nummer %1.").arg(seite));
-            for (int zeile = 0; zeile < 24; ++zeile) {
-                maler.drawText(
-                    40, 90 + 22 * zeile,
-                    QStringLiteral("Die Häuptlinge stellen ihre Fragen reihum, Zeile %1.").arg(zeile));
-            }
-            if (seite == 1 || seite == 3) {
-                maler.drawText(40, 640, QStringLiteral("Ein Kranzfeld mit Glück"));
-            }
-            if (seite == 3) {
-                maler.drawText(40, 680, QStringLiteral("noch ein KRANZFELD"));
-            }
-        }
-    }
-    return bytes;
-}
-
-// As a file looks whose password nobody knows.
-QByteArray Verschluesselt() {
-    QByteArray bytes = "%PDF-1.4\n"
-                       "1 0 obj <</Type /Catalog /Pages 2 0 R>> endobj\n"
-                       "2 0 obj <</Type /Pages /Kids [3 0 R] /Count 1>> endobj\n"
-                       "3 0 obj <</Type /Page /Parent 2 0 R /MediaBox [0 0 300 300]>> endobj\n";
-    bytes += "4 0 obj <</Filter /Standard /V 1 /R 2 /P -4 /O <" + QByteArray(64, '1') + "> /U <" +
-             QByteArray(64, '2') + ">>> endobj\n";
-    bytes += "trailer <</Root 1 0 R /Size 5 /Encrypt 4 0 R /ID [<01> <01>]>>\n%%EOF\n";
-    return bytes;
-}
-
-void Zeigen(const Programm& programm) {
-    Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdSpielregel"))->click();
-}
-
-Dokumentansicht* Ansicht() {
-    return dynamic_cast<Dokumentansicht*>(Finden(BrowserOffen(), QStringLiteral("seitenansicht")));
-}
-
-QString Stand() {
-    return Finden<QLabel>(BrowserOffen(), QStringLiteral("lblStand"))->text();
-}
-
-void Klick(const char* name) {
-    QTest::mouseClick(Finden(BrowserOffen(), QLatin1String(name)), Qt::LeftButton);
-}
-
-// Number of the pixels of about that colour in the control's pages.
-int Bildpunkte(const QColor& farbe) {
-    const QImage bild =
-        qobject_cast<QAbstractScrollArea*>(Ansicht()->Steuerelement())->viewport()->grab().toImage();
-    int zahl = 0;
-    for (int y = 0; y < bild.height(); ++y) {
-        for (int x = 0; x < bild.width(); ++x) {
-            const QColor hier = bild.pixelColor(x, y);
-            zahl += qAbs(hier.red() - farbe.red()) + qAbs(hier.green() - farbe.green()) +
-                                qAbs(hier.blue() - farbe.blue()) <
-                            12
-                        ? 1
-                        : 0;
-        }
-    }
-    return zahl;
-}
-
-} // namespace
+// The rule document: found or reported, its window, and whatever a broken file may do.
+#include "tests/periphery/regelhilfe.h"
 
 class FrmBrowserTest : public QObject {
     Q_OBJECT
@@ -120,16 +11,10 @@ private Q_SLOTS:
     void theWindowIsLowerThanTheScreenAndInTheProportionOfAPage();
     void aSmallScreenGivesANarrowBrowserWindow();
     void theControlIsAHundredTwipsSmallerThanTheWindow();
-    void pagesAreTurnedByButtonsKeysAndNumber();
-    void thePagesAreFittedToWidthShownWholeAndSized();
-    void aSearchFindsEveryPlaceWhateverItsCase();
-    void ctrlFBeginsASearchAndEscEndsIt();
-    void whatIsNowhereIsSaidBelow();
     void aSecondCallUsesTheSameWindow();
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord_data();
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord();
     void withoutThePlugInTheWindowSaysSo();
-    void aLongDocumentKeepsFewPicturesAndScrollsToItsEnd();
     void fromASettingsDialogTheRulesCanBeReadBesideIt();
     void theWindowLooksFinished();
 };
@@ -210,138 +95,6 @@ void FrmBrowserTest::theControlIsAHundredTwipsSmallerThanTheWindow() {
     }
 }
 
-void FrmBrowserTest::pagesAreTurnedByButtonsKeysAndNumber() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(5));
-    Zeigen(programm);
-    Dokumentansicht* ansicht = Ansicht();
-    QCOMPARE(ansicht->Seite(), 1);
-    QVERIFY(!Finden(BrowserOffen(), QStringLiteral("cmdSeiteZurueck"))->isEnabled());
-    Klick("cmdSeiteWeiter");
-    QCOMPARE(ansicht->Seite(), 2);
-    Klick("cmdSeiteZurueck");
-    QCOMPARE(ansicht->Seite(), 1);
-    auto* txtSeite = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSeite"));
-    txtSeite->setText(QStringLiteral("4"));
-    QTest::keyClick(txtSeite, Qt::Key_Return);
-    QCOMPARE(ansicht->Seite(), 4);
-    QWidget* seiten = ansicht->Steuerelement();
-    QTest::keyClick(seiten, Qt::Key_PageUp, Qt::ControlModifier);
-    QCOMPARE(ansicht->Seite(), 3);
-    QTest::keyClick(seiten, Qt::Key_PageDown, Qt::ControlModifier);
-    QCOMPARE(ansicht->Seite(), 4);
-    QTest::keyClick(seiten, Qt::Key_Home);
-    QCOMPARE(ansicht->Seite(), 1);
-    // The pages go by screenfuls: the same way down as up.
-    const auto* leiste = qobject_cast<QAbstractScrollArea*>(seiten)->verticalScrollBar();
-    QTest::keyClick(seiten, Qt::Key_PageDown);
-    QVERIFY(leiste->value() > 0);
-    QTest::keyClick(seiten, Qt::Key_PageUp);
-    QCOMPARE(leiste->value(), 0);
-    QTest::keyClick(seiten, Qt::Key_End);
-    QCOMPARE(ansicht->Seite(), 5);
-    QVERIFY(!Finden(BrowserOffen(), QStringLiteral("cmdSeiteWeiter"))->isEnabled());
-    QVERIFY2(Stand().startsWith(QStringLiteral(" Seite 5 von 5  -  ")), qPrintable(Stand()));
-    QCOMPARE(Finden<QLabel>(BrowserOffen(), QStringLiteral("lblSeiten"))->text(), QStringLiteral("von 5"));
-    txtSeite->setText(QStringLiteral("99"));
-    QTest::keyClick(txtSeite, Qt::Key_Return);
-    QCOMPARE(txtSeite->text(), QStringLiteral("5"));
-}
-
-void FrmBrowserTest::thePagesAreFittedToWidthShownWholeAndSized() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(3));
-    Zeigen(programm);
-    Dokumentansicht* ansicht = Ansicht();
-    auto* flaeche = qobject_cast<QAbstractScrollArea*>(ansicht->Steuerelement());
-    QCOMPARE(ansicht->Einpassung(), Passung::Breite);
-    QVERIFY(Finden<QToolButton>(BrowserOffen(), QStringLiteral("cmdBreite"))->isChecked());
-    const double breit = (flaeche->viewport()->width() - 16) / (595.0 * 96 / 72);
-    QVERIFY(qAbs(ansicht->Groesse() - breit) < 0.01);
-    Klick("cmdGanzeSeite");
-    QCOMPARE(ansicht->Einpassung(), Passung::Seite);
-    QVERIFY(ansicht->Groesse() * 842 * 96 / 72 <= flaeche->viewport()->height());
-    const double ganz = ansicht->Groesse();
-    Klick("cmdGroesser");
-    QVERIFY(qAbs(ansicht->Groesse() - ganz * 1.25) < 0.01);
-    QVERIFY(!Finden<QToolButton>(BrowserOffen(), QStringLiteral("cmdGanzeSeite"))->isChecked());
-    for (int i = 0; i < 30; ++i) {
-        Klick("cmdGroesser");
-    }
-    QVERIFY(qAbs(ansicht->Groesse() - 4.0) < 0.01);
-    QTRY_VERIFY(flaeche->horizontalScrollBar()->isVisible());
-    QVERIFY(!flaeche->grab().isNull()); // a page larger than its picture may be is drawn all the same
-    for (int i = 0; i < 40; ++i) {
-        Klick("cmdKleiner");
-    }
-    QVERIFY(qAbs(ansicht->Groesse() - 0.25) < 0.01);
-    QTest::keyClick(flaeche, Qt::Key_0, Qt::ControlModifier);
-    QCOMPARE(ansicht->Einpassung(), Passung::Breite);
-}
-
-void FrmBrowserTest::aSearchFindsEveryPlaceWhateverItsCase() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(4));
-    Zeigen(programm);
-    QCOMPARE(Bildpunkte(QColor(255, 170, 60)), 0);
-    auto* txtSuche = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
-    QTest::keyClicks(txtSuche, QStringLiteral("kranzfeld"));
-    QTRY_VERIFY2(Stand().endsWith(QStringLiteral("  -  Fundstelle 1 von 3")), qPrintable(Stand()));
-    QCOMPARE(Ansicht()->Seite(), 1);
-    QVERIFY(Bildpunkte(QColor(255, 170, 60)) > 200);
-    QTest::keyClick(txtSuche, Qt::Key_Return);
-    QVERIFY2(Stand().endsWith(QStringLiteral("  -  Fundstelle 2 von 3")), qPrintable(Stand()));
-    QCOMPARE(Ansicht()->Seite(), 3);
-    QVERIFY(Bildpunkte(QColor(255, 170, 60)) > 200);
-    QVERIFY(Bildpunkte(QColor(255, 236, 120)) > 200); // the third place, on the same page
-    Klick("cmdFundWeiter");
-    Klick("cmdFundWeiter");
-    QVERIFY2(Stand().endsWith(QStringLiteral("  -  Fundstelle 1 von 3")), qPrintable(Stand()));
-    Klick("cmdFundZurueck");
-    QVERIFY2(Stand().endsWith(QStringLiteral("  -  Fundstelle 3 von 3")), qPrintable(Stand()));
-    txtSuche->setText(QStringLiteral("Glück"));
-    QTest::keyClick(Ansicht()->Steuerelement(), Qt::Key_F3);
-    QVERIFY2(Stand().endsWith(QStringLiteral(" von 2")), qPrintable(Stand()));
-}
-
-void FrmBrowserTest::ctrlFBeginsASearchAndEscEndsIt() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(1));
-    Zeigen(programm);
-    QWidget* seiten = Ansicht()->Steuerelement();
-    QTRY_VERIFY(seiten->hasFocus());
-    auto* txtSuche = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
-    maus::Taste(QStringLiteral("ctrl+f"));
-    QTRY_VERIFY(txtSuche->hasFocus());
-    maus::Tippen(QStringLiteral("Kranz"));
-    QTRY_VERIFY2(Stand().endsWith(QStringLiteral("  -  Fundstelle 1 von 1")), qPrintable(Stand()));
-    maus::Taste(QStringLiteral("Escape"));
-    QTRY_VERIFY(seiten->hasFocus());
-    QCOMPARE(txtSuche->text(), QString());
-    QVERIFY2(Stand().startsWith(QStringLiteral(" Seite 1 von 1")) && Stand().endsWith(u'%'),
-             qPrintable(Stand()));
-    QCOMPARE(Bildpunkte(QColor(255, 170, 60)), 0);
-    QVERIFY(BrowserOffen()->isVisible());
-}
-
-void FrmBrowserTest::whatIsNowhereIsSaidBelow() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(1));
-    Zeigen(programm);
-    auto* txtSuche = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
-    txtSuche->setText(QStringLiteral("Krümel"));
-    QTest::keyClick(txtSuche, Qt::Key_Return);
-    QVERIFY2(Stand().endsWith(QStringLiteral("  -  [ Krümel ] kommt nicht vor.")), qPrintable(Stand()));
-    QTest::keyClick(txtSuche, Qt::Key_Return); // nothing to go to
-    Klick("cmdFundZurueck");
-    QCOMPARE(Ansicht()->Seite(), 1);
-}
-
 void FrmBrowserTest::aSecondCallUsesTheSameWindow() {
     const Zusatzordner zusatz;
     Programm programm;
@@ -412,19 +165,6 @@ void FrmBrowserTest::withoutThePlugInTheWindowSaysSo() {
     QTest::keyClick(BrowserOffen(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClick(BrowserOffen(), Qt::Key_PageDown, Qt::ControlModifier);
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("txtSuche"))->isEnabled());
-}
-
-void FrmBrowserTest::aLongDocumentKeepsFewPicturesAndScrollsToItsEnd() {
-    const Zusatzordner zusatz;
-    Programm programm;
-    programm.ordner().schreiben(regel, Dokument(60));
-    Zeigen(programm);
-    for (int seite = 1; seite <= 60; ++seite) {
-        Ansicht()->SeiteZeigen(seite);
-        QVERIFY(!Ansicht()->Steuerelement()->grab().isNull());
-    }
-    QCOMPARE(Ansicht()->Seite(), 60);
-    QCOMPARE(Ansicht()->Suchen(QStringLiteral("Nummer")), 60);
 }
 
 void FrmBrowserTest::fromASettingsDialogTheRulesCanBeReadBesideIt() {
