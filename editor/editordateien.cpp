@@ -14,6 +14,7 @@
 #include "persistence/speichern.h"
 #include "persistence/wartezeiger.h"
 
+#include <functional>
 #include <new>
 #include <optional>
 
@@ -36,6 +37,19 @@ Dateiauswahl Auswahl(std::string_view titel, bool backupBenutzbar, std::vector<s
             false};
 }
 
+// Runs a step; a run-time error is told, and the result is false then.
+bool Gelungen(const std::function<void()>& schritt) {
+    try {
+        schritt();
+        return true;
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden(ortDatei, fehler);
+    } catch (const std::bad_alloc&) {
+        FehlerMelden(ortDatei, Laufzeitfehler(Fehler::SpeicherVoll));
+    }
+    return false;
+}
+
 // --- Loading ---
 
 // The chosen path in DateiName; false for none.
@@ -49,30 +63,31 @@ bool DateiWaehlen() {
 
 // The text of DateiName, or nothing after the user was told why not.
 std::optional<Katalogtext> Gelesen() {
-    try {
+    std::optional<Katalogtext> gelesen;
+    bool istText = true;
+    Gelungen([&] {
         const Wartezeiger warten;
         const std::string bytes = DateiLesen(DateiName, groessterKatalogtext);
-        if (IstTextdatei(bytes)) {
-            return KatalogtextLesen(bytes);
+        istText = IstTextdatei(bytes);
+        if (istText) {
+            gelesen = KatalogtextLesen(bytes);
         }
-    } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden(ortDatei, fehler);
-        return std::nullopt;
-    } catch (const std::bad_alloc&) {
-        FehlerMelden(ortDatei, Laufzeitfehler(Fehler::SpeicherVoll));
-        return std::nullopt;
+    });
+    if (!istText) {
+        Meldung(keinText, {NurDateiname(DateiName)});
     }
-    Meldung(keinText, {NurDateiname(DateiName)});
-    return std::nullopt;
+    return gelesen;
 }
 
+// While a part of the text stands in the field, it belongs to no file: nothing could be saved over the whole.
 void Zeigen(frmEditor& editor, Katalogtext gelesen) {
     const Wartezeiger warten;
+    EditorpfadVergessen();
     BemerkungMarke = std::move(gelesen.marke);
     Bemerkung = std::move(gelesen.text);
     DateiAlt = DateiName;
-    EditorpfadMerken();
     editor.TextZeigen(Bemerkung, DateiAlt);
+    EditorpfadMerken();
     DateiAlt.clear();
     EditorStatusSetzen(0);
 }
@@ -128,16 +143,10 @@ bool NameGefunden() {
 // is told.
 bool Geschrieben() {
     SicherungAnlegenKatalog();
-    try {
+    return Gelungen([] {
         const Wartezeiger warten;
         DateiSchreiben(DateiName, KatalogtextBytes(BemerkungMarke, Bemerkung));
-        return true;
-    } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden(ortDatei, fehler);
-    } catch (const std::bad_alloc&) {
-        FehlerMelden(ortDatei, Laufzeitfehler(Fehler::SpeicherVoll));
-    }
-    return false;
+    });
 }
 
 } // namespace
@@ -150,7 +159,7 @@ void KatalogLaden(frmEditor& editor) {
     if (!DateiWaehlen()) {
         Meldung(keineDatei);
     } else if (std::optional<Katalogtext> gelesen = Gelesen(); gelesen) {
-        Zeigen(editor, std::move(*gelesen));
+        Gelungen([&] { Zeigen(editor, std::move(*gelesen)); });
         return;
     }
     DateiName = vorher;
@@ -158,7 +167,9 @@ void KatalogLaden(frmEditor& editor) {
 
 bool KatalogSpeichern(frmEditor& editor, int mitDialog) {
     SpeichernMitDialog = static_cast<std::int16_t>(mitDialog);
-    Bemerkung = editor.txtNotiz->text();
+    if (!Gelungen([&] { Bemerkung = editor.txtNotiz->text(); })) {
+        return false;
+    }
     EditorpfadEinsetzen();
     if (!NameGefunden() || !Geschrieben()) {
         EditorpfadEinsetzen(); // the editor keeps the file it had
@@ -187,4 +198,8 @@ bool TextGesichert(frmEditor& editor) {
         return true;
     }
     return KatalogSpeichern(editor, 0); // a save that did not come about counts as Abbrechen
+}
+
+bool DarfSchliessen(frmEditor& editor) {
+    return Gelungen([&] { EditorText = editor.txtNotiz->text(); }) && TextGesichert(editor);
 }

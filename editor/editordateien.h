@@ -15,3 +15,6 @@ bool KatalogSpeichern(frmEditor& editor, int mitDialog);
 // Asks about unsaved text, if there is any. False when the user cancelled or the save did not come about: the
 // text has to stay.
 [[nodiscard]] bool TextGesichert(frmEditor& editor);
+
+// The check before the window goes: keeps a copy of the text in EditorText and asks as above.
+[[nodiscard]] bool DarfSchliessen(frmEditor& editor);

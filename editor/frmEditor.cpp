@@ -136,8 +136,7 @@ void frmEditor::SicherungZeigen() {
 }
 
 void frmEditor::closeEvent(QCloseEvent* ereignis) {
-    EditorText = txtNotiz->text();
-    if (!TextGesichert(*this)) {
+    if (!DarfSchliessen(*this)) {
         ereignis->ignore();
         return;
     }

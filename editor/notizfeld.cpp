@@ -4,6 +4,7 @@
 #include "core/oberflaeche.h"
 
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QTextBlock>
 
 namespace {
@@ -15,21 +16,14 @@ constexpr qsizetype stueck = qsizetype{1} << 18;
 constexpr float voll = 38.0F;
 
 // Inserts behind the end, piece by piece.
-void Anhaengen(QTextDocument& dokument, const QString& text, std::string_view meldung) {
-    const bool lang = text.size() > stueck;
-    if (lang) {
-        FortschrittStart(meldung);
-    }
+void Anhaengen(QTextDocument& dokument, const QString& text) {
     QTextCursor ende(&dokument);
     for (qsizetype stelle = 0; stelle < text.size(); stelle += stueck) {
         ende.movePosition(QTextCursor::End);
         ende.insertText(text.mid(stelle, stueck));
-        if (lang) {
+        if (text.size() > stueck) {
             FortschrittSchritt(voll * static_cast<float>(stueck) / static_cast<float>(text.size()));
         }
-    }
-    if (lang) {
-        FortschrittEnde();
     }
 }
 
@@ -40,15 +34,25 @@ Notizfeld::Notizfeld(QWidget* eltern) : Textfeld(eltern, QStringLiteral("txtNoti
 }
 
 void Notizfeld::Fuellen(std::string_view text, std::string_view meldung) {
+    const QString zeilen = Anzeige(text);
+    const bool lang = zeilen.size() > stueck;
     setUpdatesEnabled(false);
     setUngeprueft(true);
+    const auto danach = qScopeGuard([this, lang] {
+        setUndoRedoEnabled(true);
+        setUngeprueft(false);
+        moveCursor(QTextCursor::Start);
+        setUpdatesEnabled(true);
+        if (lang) {
+            FortschrittEnde();
+        }
+    });
+    if (lang) {
+        FortschrittStart(meldung);
+    }
     clear();
     setUndoRedoEnabled(false);
-    Anhaengen(*document(), Anzeige(text), meldung);
-    setUndoRedoEnabled(true);
-    setUngeprueft(false);
-    moveCursor(QTextCursor::Start);
-    setUpdatesEnabled(true);
+    Anhaengen(*document(), zeilen);
 }
 
 QString Notizfeld::Markiert() const {

@@ -1,4 +1,5 @@
 // Which file is the editor's own, and the questions before its text goes.
+#include "quizform/frmFKFragen.h"
 #include "tests/editor/editorlauf.h"
 
 #include <QLabel>
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void theEditorSavesToItsOwnFileWhateverWasChosenSince();
     void filesThatDifferInCaseOnlyStayApart();
     void aFormsFileIsNeverTakenForTheEditors();
+    void aFormAndTheEditorSaveEachToItsOwnFile();
     void theFormsDialogStartsWhereTheFormsWere();
     void aClosedEditorForgetsItsFile();
 
@@ -72,6 +74,34 @@ void EditorschliessenTest::aFormsFileIsNeverTakenForTheEditors() {
     Druecken(editor, cmdDatei0);
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.programm().ordner().lesen(QStringLiteral("KRANZ/FORM.FKR")), QByteArray("ein Formular"));
+}
+
+void EditorschliessenTest::aFormAndTheEditorSaveEachToItsOwnFile() {
+    frmFKFragen* form = lauf.programm().NeuesQuizformular();
+    const auto formSichern = [&](const QString& text, bool erstes) {
+        form->txtFrage.at(1)->setText(text.toStdString());
+        Dialogfolge dialoge;
+        if (erstes) {
+            DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("F.FKR"), speichern);
+        }
+        dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ F.FKR ]"), QStringLiteral("Schön"));
+        QTest::mouseClick(Finden(lauf.haupt(), QStringLiteral("cmdDateiFK(3)")), Qt::LeftButton);
+    };
+    const auto formdatei = [this] { return lauf.programm().ordner().lesen(QStringLiteral("KRANZ/F.FKR")); };
+    formSichern(QStringLiteral("Eins"), true);
+    QVERIFY(formdatei().contains("\"Eins\""));
+    QCOMPARE(lauf.Oeffnen(), editor);
+    Geladen();
+    Tippen(editor, QStringLiteral("x"));
+    Sichern(editor, QStringLiteral("KN.TXT"));
+    formSichern(QStringLiteral("Zwei"), false);
+    QVERIFY(formdatei().contains("\"Zwei\""));
+    QVERIFY(lauf.Lesen(QStringLiteral("KN.TXT")).startsWith("Knoten\r\nx1\r\n"));
+    QCOMPARE(lauf.Oeffnen(), editor);
+    Tippen(editor, QStringLiteral("y"));
+    Sichern(editor, QStringLiteral("KN.TXT"));
+    QVERIFY(lauf.Lesen(QStringLiteral("KN.TXT")).startsWith("Knoten\r\nxy1\r\n"));
+    QVERIFY(formdatei().contains("\"Zwei\""));
 }
 
 void EditorschliessenTest::theFormsDialogStartsWhereTheFormsWere() {
