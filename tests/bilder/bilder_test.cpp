@@ -1,13 +1,8 @@
-// The pictures: each control that needs one has it, in the right size, and none is told by its colour alone.
+// The pictures themselves: sizes, doubles, and that none is told by its colour alone.
 #include "core/bilder.h"
 #include "core/frmMDI.h"
-#include "core/oberflaeche.h"
-#include "core/schaltflaechen.h"
 #include "core/ziehbilder.h"
-#include "dialogs/eingabe.h"
-#include "dialogs/meldung.h"
-#include "dialogs/sinnbilder.h"
-#include "tests/hilfe/dialogfolge.h"
+#include "tests/bilder/bildvergleich.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
 
@@ -15,31 +10,12 @@
 #include <QFile>
 #include <QImageReader>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
-#include <QToolButton>
 #include <QtEndian>
 
-#include <array>
 #include <cstdlib>
 
 namespace {
-
-// Everything that has a picture of its own on a screen of a certain resolution.
-QImage Abbild(std::string_view name, double aufloesung) {
-    return Bild(name, aufloesung).toImage().convertToFormat(QImage::Format_ARGB32);
-}
-
-bool Leer(const QImage& bild) {
-    for (int y = 0; y < bild.height(); ++y) {
-        for (int x = 0; x < bild.width(); ++x) {
-            if (qAlpha(bild.pixel(x, y)) > 128) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
 
 // How many points of two pictures of one size differ clearly when there are no colours, on the windows' grey.
 int UnterschiedOhneFarbe(const QImage& eins, const QImage& zwei) {
@@ -72,16 +48,9 @@ class BilderTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyButtonOfTheToolbarsHasAPictureInBothSizes();
-    void captionsGiveWayToTheRoomAndComeBack_data();
-    void captionsGiveWayToTheRoomAndComeBack();
     void everyPictureHasADoubleOfTwiceItsSize();
     void noTwoPicturesOfAFolderAreToldByColourAlone_data();
     void noTwoPicturesOfAFolderAreToldByColourAlone();
-    void everyNumberOfAMessageShowsItsPicture();
-    void everyNumberOfAQuestionShowsItsPicture();
-    void everyNumberOfTheInputDialogShowsItsPicture();
-    void theAnswersCarryTheirWordInThePictureAndTheKeyInTheCaption();
     void theBackgroundsHaveTheSizesOfTheirWindows_data();
     void theBackgroundsHaveTheSizesOfTheirWindows();
     void aFineBackgroundServesOnlyWhereItFits();
@@ -90,69 +59,6 @@ private Q_SLOTS:
     void thePointerHasFourPicturesAndTheBasketSevenSheets();
     void anUnknownNameIsANullPicture();
 };
-
-void BilderTest::everyButtonOfTheToolbarsHasAPictureInBothSizes() {
-    const Programm programm;
-    for (const Schaltflaeche& zeile : Schaltflaechen()) {
-        const auto* taste = Finden<QToolButton>(programm.haupt(), Anzeige(zeile.name));
-        QVERIFY2(!taste->icon().isNull(), zeile.name.data());
-        QCOMPARE(taste->iconSize(), QSize(16, 16));
-        for (const double aufloesung : {1.0, 2.0}) {
-            const QPixmap gezeigt = taste->icon().pixmap(QSize(16, 16), aufloesung);
-            QCOMPARE(gezeigt.size(), QSize(16, 16) * aufloesung);
-            QCOMPARE(gezeigt.toImage().convertToFormat(QImage::Format_ARGB32),
-                     Abbild(zeile.bild, aufloesung));
-            QVERIFY2(!Leer(gezeigt.toImage()), zeile.name.data());
-        }
-    }
-}
-
-void BilderTest::captionsGiveWayToTheRoomAndComeBack_data() {
-    QTest::addColumn<bool>("quiz");
-    QTest::addColumn<QString>("auswahl");
-    QTest::addColumn<QString>("speichern");
-    QTest::newRow("quiz form") << true << QStringLiteral("cmdAuswahl(0)") << QStringLiteral("cmdDateiFK(3)");
-    QTest::newRow("test form") << false << QStringLiteral("cmdAuswahl(1)") << QStringLiteral("cmdDateiHB(3)");
-}
-
-void BilderTest::captionsGiveWayToTheRoomAndComeBack() {
-    QFETCH(const bool, quiz);
-    QFETCH(const QString, auswahl);
-    QFETCH(const QString, speichern);
-    Programm programm;
-    if (quiz) {
-        programm.NeuesQuizformular();
-    } else {
-        programm.NeuesTestformular();
-    }
-    programm.haupt()->showNormal();
-    const QWidget* kranz = Finden(programm.haupt(), QStringLiteral("pnlKranz"));
-    for (const int breite : {1024, 1280, 1800, 1024}) {
-        programm.haupt()->resize(breite, 700);
-        QTRY_COMPARE(programm.haupt()->width(), breite);
-        QList<QRect> flaechen;
-        bool alleWorte = true;
-        for (const auto* taste : kranz->findChildren<QToolButton*>()) {
-            if (!taste->isVisible()) {
-                continue;
-            }
-            const QRect flaeche(taste->mapTo(kranz, QPoint(0, 0)), taste->size());
-            QVERIFY2(kranz->rect().contains(flaeche), qPrintable(taste->objectName()));
-            for (const QRect& andere : flaechen) {
-                QVERIFY2(!andere.intersects(flaeche), qPrintable(taste->objectName()));
-            }
-            flaechen.append(flaeche);
-            const int wort = taste->fontMetrics().horizontalAdvance(taste->text());
-            QVERIFY2(tastenbildKante + wort < taste->width(), qPrintable(taste->objectName()));
-            QVERIFY2(!taste->accessibleName().isEmpty(), qPrintable(taste->objectName()));
-            alleWorte = alleWorte && wort > 0;
-        }
-        QVERIFY(flaechen.size() > 20);
-        QCOMPARE(alleWorte, breite == 1800);
-        QCOMPARE(Finden<QToolButton>(kranz, auswahl)->text(), QStringLiteral("Auswahl"));
-        QCOMPARE(Finden<QToolButton>(kranz, speichern)->text().isEmpty(), breite < 1800);
-    }
-}
 
 void BilderTest::everyPictureHasADoubleOfTwiceItsSize() {
     int anzahl = 0;
@@ -199,100 +105,6 @@ void BilderTest::noTwoPicturesOfAFolderAreToldByColourAlone() {
             }
         }
     }
-}
-
-void BilderTest::everyNumberOfAMessageShowsItsPicture() {
-    const Programmordner ordner;
-    QSet<qint64> verschiedene;
-    for (int i = 0; i <= 11; ++i) {
-        Dialogfolge dialoge;
-        dialoge.erwarte({QStringLiteral("frmMeldung"),
-                         std::nullopt,
-                         std::nullopt,
-                         {QStringLiteral("cmdKenntnis")},
-                         [&](QDialog& dialog) {
-                             for (int k = 0; k <= 11; ++k) {
-                                 const auto* bild = Finden<QLabel>(&dialog, QStringLiteral("picMeldung"), k);
-                                 QCOMPARE(bild->isVisible(), k == i);
-                                 QCOMPARE(bild->pixmap().deviceIndependentSize(), QSizeF(32, 32));
-                                 verschiedene.insert(bild->pixmap().cacheKey());
-                             }
-                         }});
-        Meldung(0, i, "Text", "1", "Schön");
-        QVERIFY(dialoge.fertig());
-    }
-    QCOMPARE(verschiedene.size(), 12);
-}
-
-void BilderTest::everyNumberOfAQuestionShowsItsPicture() {
-    const Programmordner ordner;
-    for (int i = 1; i <= 12; ++i) {
-        Dialogfolge dialoge;
-        dialoge.erwarte({QStringLiteral("frmNachricht"),
-                         std::nullopt,
-                         std::nullopt,
-                         {QStringLiteral("cmdAntwort(4)")},
-                         [&](QDialog& dialog) {
-                             const auto* bild = Finden<QLabel>(&dialog, QStringLiteral("picSymbol"), i);
-                             QVERIFY(bild->isVisible());
-                             QCOMPARE(bild->pixmap().toImage().convertToFormat(QImage::Format_ARGB32),
-                                      Abbild(sinnbilder::nachricht.at(static_cast<std::size_t>(i)).bild,
-                                             bild->devicePixelRatioF()));
-                             QVERIFY(!bild->accessibleName().isEmpty());
-                         }});
-        Nachricht(i, "Titel", "Text", 0, 1111);
-        QVERIFY(dialoge.fertig());
-    }
-}
-
-void BilderTest::everyNumberOfTheInputDialogShowsItsPicture() {
-    const Programmordner ordner;
-    for (int i = 1; i <= 8; ++i) {
-        Dialogfolge dialoge;
-        dialoge.erwarte({QStringLiteral("frmInput"),
-                         std::nullopt,
-                         std::nullopt,
-                         {QStringLiteral("cmdAbbruch")},
-                         [&](QDialog& dialog) {
-                             const auto* bild = Finden<QLabel>(&dialog, QStringLiteral("picSymbol"), i);
-                             QVERIFY(bild->isVisible());
-                             QVERIFY(!Leer(bild->pixmap().toImage()));
-                             QCOMPARE(bild->pixmap().deviceIndependentSize(), QSizeF(32, 32));
-                         }});
-        Eingabe(i, "Titel", "Text", "Vorgabe", 1111);
-        QVERIFY(dialoge.fertig());
-    }
-}
-
-void BilderTest::theAnswersCarryTheirWordInThePictureAndTheKeyInTheCaption() {
-    const Programmordner ordner;
-    Dialogfolge dialoge;
-    dialoge.erwarte({QStringLiteral("frmNachricht"),
-                     std::nullopt,
-                     std::nullopt,
-                     {QStringLiteral("cmdAntwort(2)")},
-                     [](QDialog& dialog) {
-                         const std::array<QString, 5> worte{QStringLiteral("Ja"), QStringLiteral("Nein"),
-                                                            QStringLiteral("Abbrechen"),
-                                                            QStringLiteral("Hilfe"), QStringLiteral("OK")};
-                         for (int i = 0; i < 5; ++i) {
-                             const auto* taste =
-                                 Finden<QPushButton>(&dialog, QStringLiteral("cmdAntwort"), i);
-                             const QString& wort = worte.at(static_cast<std::size_t>(i));
-                             QCOMPARE(taste->accessibleName(), wort);
-                             QCOMPARE(taste->text().trimmed(), QStringLiteral("&") + wort.front());
-                             QVERIFY(taste->text().endsWith(QLatin1Char(' ')));
-                             QCOMPARE(taste->icon()
-                                          .pixmap(taste->iconSize(), 1.0)
-                                          .toImage()
-                                          .convertToFormat(QImage::Format_ARGB32),
-                                      Abbild("wort/" + wort.toLower().toStdString(), 1.0));
-                             QVERIFY(taste->iconSize().width() < taste->width() &&
-                                     taste->iconSize().height() < taste->height());
-                         }
-                     }});
-    Nachricht(7, "Titel", "Text", 2, 1111);
-    QVERIFY(dialoge.fertig());
 }
 
 void BilderTest::theBackgroundsHaveTheSizesOfTheirWindows_data() {
