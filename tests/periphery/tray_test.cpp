@@ -5,6 +5,7 @@
 #include "core/hauptfenster.h"
 #include "core/programmende.h"
 #include "core/zustand.h"
+#include "filetools/formularliste.h"
 #include "periphery/tray.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/bild.h"
@@ -181,7 +182,10 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     frmFKFragen* form = programm.NeuesQuizformular();
     AuswahlZeigen();
     QVERIFY(QTest::qWaitForWindowExposed(AuswahlOffen()));
+    FormularlisteZeigen();
+    QWidget* liste = FensterAbwarten(QStringLiteral("frmFKformulare"));
     AuswahlOffen()->move(800, 600); // clear of the cell
+    liste->move(300, 700);
     maus::Klicken(form->txtFrage.at(7));
     QTRY_VERIFY(form->txtFrage.at(7)->hasFocus());
     const QRect platz = AuswahlOffen()->geometry();
@@ -189,11 +193,13 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     AbInDenTray();
     QVERIFY(!programm.haupt()->isVisible());
     QVERIFY(!AuswahlOffen()->isVisible());
+    QVERIFY(!liste->isVisible());
     QTRY_VERIFY(ZeichenFenster() != nullptr);
     maus::Klicken(ZeichenFenster());
     QTRY_VERIFY(programm.haupt()->isVisible());
     QTRY_VERIFY(AuswahlOffen() != nullptr && AuswahlOffen()->isVisible());
     QTRY_COMPARE(AuswahlOffen()->geometry(), platz);
+    QVERIFY(liste->isVisible());
     QCOMPARE(form->txtFrage.at(7)->toPlainText(), QStringLiteral("halb getippt"));
     QCOMPARE(FormGeaendert, 1);
     QVERIFY(form->isVisible());
