@@ -70,13 +70,13 @@ void DokumentleserTest::thePagesAreFittedToWidthShownWholeAndSized() {
     Klick("cmdGroesser");
     QVERIFY(qAbs(ansicht->Groesse() - ganz * 1.25) < 0.01);
     QVERIFY(!Finden<QToolButton>(BrowserOffen(), QStringLiteral("cmdGanzeSeite"))->isChecked());
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < 12; ++i) {
         Klick("cmdGroesser");
     }
     QVERIFY(qAbs(ansicht->Groesse() - 4.0) < 0.01);
     QTRY_VERIFY(flaeche->horizontalScrollBar()->isVisible());
     QVERIFY(!flaeche->grab().isNull()); // a page larger than its picture may be is drawn all the same
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 14; ++i) {
         Klick("cmdKleiner");
     }
     QVERIFY(qAbs(ansicht->Groesse() - 0.25) < 0.01);
