@@ -20,6 +20,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -65,7 +66,7 @@ double Tippen(QPlainTextEdit* feld) {
 
 class Schlicht {
 public:
-    explicit Schlicht(const QString& datei) : datei_(datei) {
+    explicit Schlicht(QString datei) : datei_(std::move(datei)) {
         feld_.resize(1000, 800);
         feld_.show();
         QApplication::processEvents();
