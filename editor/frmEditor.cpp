@@ -80,8 +80,10 @@ QAbstractButton* frmEditor::Taste(const QString& name) const {
 }
 
 void frmEditor::TextZeigen(std::string_view text, std::string_view pfad) {
-    txtNotiz->Fuellen(text, std::string(editortexte::ichLade) + NurDateiname(pfad));
     NamenZeigen(pfad);
+    pnlLaufname->repaint(); // a long text takes its time
+    pnlDatei->repaint();
+    txtNotiz->Fuellen(text, std::string(editortexte::ichLade) + NurDateiname(pfad));
     TastenFreigeben();
 }
 

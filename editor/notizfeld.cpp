@@ -5,7 +5,6 @@
 
 #include <QMimeData>
 #include <QScopeGuard>
-#include <QTextBlock>
 
 namespace {
 
@@ -14,18 +13,6 @@ constexpr qsizetype stueck = qsizetype{1} << 18;
 
 // The progress bar is full at this value.
 constexpr float voll = 38.0F;
-
-// Inserts behind the end, piece by piece.
-void Anhaengen(QTextDocument& dokument, const QString& text) {
-    QTextCursor ende(&dokument);
-    for (qsizetype stelle = 0; stelle < text.size(); stelle += stueck) {
-        ende.movePosition(QTextCursor::End);
-        ende.insertText(text.mid(stelle, stueck));
-        if (text.size() > stueck) {
-            FortschrittSchritt(voll * static_cast<float>(stueck) / static_cast<float>(text.size()));
-        }
-    }
-}
 
 } // namespace
 
@@ -36,7 +23,6 @@ Notizfeld::Notizfeld(QWidget* eltern) : Textfeld(eltern, QStringLiteral("txtNoti
 void Notizfeld::Fuellen(std::string_view text, std::string_view meldung) {
     const QString zeilen = Anzeige(text);
     const bool lang = zeilen.size() > stueck;
-    setUpdatesEnabled(false);
     setUngeprueft(true);
     const auto danach = qScopeGuard([this, lang] {
         setUndoRedoEnabled(true);
@@ -52,7 +38,24 @@ void Notizfeld::Fuellen(std::string_view text, std::string_view meldung) {
     }
     clear();
     setUndoRedoEnabled(false);
-    Anhaengen(*document(), zeilen);
+    QTextCursor ende(document());
+    for (qsizetype stelle = 0; stelle < zeilen.size(); stelle += stueck) {
+        ende.movePosition(QTextCursor::End);
+        ende.insertText(zeilen.mid(stelle, stueck));
+        if (lang) {
+            StueckZeigen(stelle, zeilen.size());
+        }
+    }
+}
+
+// The bar moves on. The beginning of the text shows at once, the rest only when it is whole.
+void Notizfeld::StueckZeigen(qsizetype stelle, qsizetype groesse) {
+    if (stelle == 0) {
+        moveCursor(QTextCursor::Start);
+        viewport()->repaint();
+        setUpdatesEnabled(false);
+    }
+    FortschrittSchritt(voll * static_cast<float>(stueck) / static_cast<float>(groesse));
 }
 
 QString Notizfeld::Markiert() const {

@@ -22,4 +22,7 @@ public:
 protected:
     // A protected blank is none to be replaced by a plain one.
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+
+private:
+    void StueckZeigen(qsizetype stelle, qsizetype groesse);
 };
