@@ -26,15 +26,16 @@ bool Gewoehnlich(QChar zeichen) {
 }
 
 // What of a text may stay: the same text, or with equivalents for what code page 1252 can't hold. The first
-// character that had to stay outside without an equivalent, or got one, is named in draussen.
-QString Erlaubt(const QString& text, QString& draussen) {
+// character that had to stay outside without an equivalent, or got one, is named in draussen. A form file
+// keeps zero bytes; ohneNull leaves them outside as well.
+QString Erlaubt(const QString& text, QString& draussen, bool ohneNull = false) {
     if (std::ranges::all_of(text, Gewoehnlich)) {
         return text;
     }
     QString erlaubt;
     erlaubt.reserve(text.size());
     for (const char32_t zeichen : text.toUcs4()) {
-        if (Zeilenwechsel(zeichen) || (zeichen != 0 && InCp1252(zeichen))) {
+        if (Zeilenwechsel(zeichen) || (InCp1252(zeichen) && !(ohneNull && zeichen == 0))) {
             erlaubt += QString::fromUcs4(&zeichen, 1);
             continue;
         }
@@ -180,7 +181,7 @@ void Textfeld::mousePressEvent(QMouseEvent* ereignis) {
 
 // The new text, which the cursor has selected, without what is beyond the limit.
 QString Textfeld::Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const {
-    if (grenzeJeZeile_) {
+    if (ganzeDatei_) {
         return HatLangeZeile(neues) ? ZeilenGekuerzt(erlaubt, neues) : erlaubt;
     }
     return erlaubt.chopped(std::clamp<qsizetype>(Ueberlaenge(*document()), 0, erlaubt.size()));
@@ -196,7 +197,7 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     cursor.setPosition(ende, QTextCursor::KeepAnchor);
     cursor.setKeepPositionOnInsert(true); // what is typed behind it meanwhile stays
     QString draussen;
-    const QString ganz = Erlaubt(cursor.selectedText(), draussen);
+    const QString ganz = Erlaubt(cursor.selectedText(), draussen, ganzeDatei_);
     const QString erlaubt = Gekuerzt(ganz, cursor);
     const bool zuLang = erlaubt.size() < ganz.size();
     if (draussen.isEmpty() && !zuLang) {

@@ -20,8 +20,10 @@ public:
     void setGrund(const QColor& farbe);
     void setZentriert(bool zentriert);
 
-    // From now on each line may be as long as a form file's reader takes a text, and the text has no limit.
-    void setGrenzeJeZeile() { grenzeJeZeile_ = true; }
+    // From now on the text is that of a whole text file: each line may be as long as a form file's reader
+    // takes a text, and the text has no limit; a zero byte, with which it wouldn't be opened again, stays
+    // outside.
+    void setGanzeDatei() { ganzeDatei_ = true; }
 
 Q_SIGNALS:
     // The focus has moved here from another control, or from here to another one.
@@ -42,7 +44,7 @@ private:
     void NurErlaubteZeichen(int stelle, int neu);
     [[nodiscard]] QString Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const;
 
-    bool grenzeJeZeile_ = false;
+    bool ganzeDatei_ = false;
     bool ungeprueft_ = false;
 };
 

@@ -17,7 +17,7 @@ constexpr float voll = 38.0F;
 } // namespace
 
 Notizfeld::Notizfeld(QWidget* eltern) : Textfeld(eltern, QStringLiteral("txtNotiz")) {
-    setGrenzeJeZeile();
+    setGanzeDatei();
 }
 
 void Notizfeld::Fuellen(std::string_view text, std::string_view meldung) {
