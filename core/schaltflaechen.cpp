@@ -63,9 +63,10 @@ constexpr std::array schaltflaechen{
     Schaltflaeche{Leiste::FK, "cmdFKSLaden", "leiste/spezial_zurueck", "Spezial +",
                   "Gelöschte Spezialfelder wieder einfügen.", fk,
                   " Spezialfelder in das Feldkranz-Formular schreiben"},
+    // Meant: the tips of all deleting buttons end in the same words, whatever is deleted.
     Schaltflaeche{Leiste::FK, "cmdFKSLoeschen", "leiste/spezial_weg", "Spezial −",
                   "Spezialfelder aus dem Formular löschen.\r\n"
-                  "(Die Spezialfelder werden zwischengespeichert "
+                  "(Die Fragen und Antworten werden zwischengespeichert "
                   "und können wieder eingefügt werden.)",
                   "Löschen", " Spezialfelder aus dem Feldkranz-Formular loeschen"},
     Schaltflaeche{Leiste::FK, "cmdIni", "leiste/vorgaben", "Vorgaben",
@@ -110,7 +111,7 @@ constexpr std::array schaltflaechen{
                   "Gelöschte Punkte wieder einfügen.", hb, " Punkte in das Testformular schreiben"},
     Schaltflaeche{Leiste::HB, "cmdHBPLoeschen", "leiste/punkte_weg", "Punkte −",
                   "Punkte aus dem Testformular löschen.\r\n"
-                  "(Die Punkte werden zwischengespeichert "
+                  "(Die Fragen und Antworten werden zwischengespeichert "
                   "und können wieder eingefügt werden.)",
                   "Löschen", " Punkte aus dem Testformular loeschen"},
     Schaltflaeche{Leiste::HB, "cmdHBSchliessen", "leiste/schliessen_test", "Schließen", hbSchliessenTipp, hb,
