@@ -12,7 +12,7 @@ cmake --preset lint >build/lint.log 2>&1 || { cat build/lint.log; exit 1; }
 # by name, the build would first make the libraries that the programs link.
 mapfile -t erzeugt < <(ninja -C build/lint -t targets all | grep -oE '^[^/: ][^: ]*(_autogen/timestamp|\.moc):' |
   tr -d : | sort -u)
-printf '%s\n' "${erzeugt[@]}" | xargs -P "$jobs" -I{} sh -c 'ninja -C build/lint -t commands -s "$1" | grep -v "^ninja:" |
+printf '%s\n' "${erzeugt[@]}" | xargs -P "$jobs" -I{} sh -c 'mkdir -p "build/lint/$(dirname "$1")"; ninja -C build/lint -t commands -s "$1" | grep -v "^ninja:" |
   sh >/dev/null' sh {} 2>build/lint.log || { cat build/lint.log; exit 1; }
 
 if [ $# -gt 0 ]; then
