@@ -12,6 +12,8 @@
 #include "core/texte.h"
 #include "core/werkzeugleisten.h"
 #include "core/zustand.h"
+#include "editor/editor.h"
+#include "editor/frmEditor.h"
 #include "filetools/formularliste.h"
 #include "periphery/hinweise.h"
 #include "periphery/tray.h"
@@ -27,6 +29,8 @@
 #include <QMdiSubWindow>
 #include <QPointer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -112,11 +116,24 @@ void frmMDI::resizeEvent(QResizeEvent* ereignis) {
 }
 
 void frmMDI::closeEvent(QCloseEvent* ereignis) {
-    // Each child's own closing question runs, and can keep the window; nothing else is asked.
-    kindflaeche_->closeAllSubWindows();
-    const bool allesZu = kindflaeche_->subWindowList().isEmpty();
-    ereignis->setAccepted(allesZu);
-    if (allesZu) {
+    // Each child's own closing question runs, and can keep the window; nothing else is asked. The editor goes
+    // last, and asks first: a form that stays would come too late for a text that has gone.
+    ereignis->ignore();
+    if (!EditorTextGesichert()) {
+        return;
+    }
+    const QWidget* editor = EditorFenster();
+    const auto bleibt = [editor](const QMdiSubWindow* kind) { return kind->widget() == editor; };
+    const QList<QMdiSubWindow*> kinder = kindflaeche_->subWindowList();
+    for (QMdiSubWindow* kind : kinder) {
+        if (!bleibt(kind)) {
+            kind->close();
+        }
+    }
+    const QList<QMdiSubWindow*> rest = kindflaeche_->subWindowList();
+    if (std::ranges::all_of(rest, bleibt)) {
+        EditorEntladen();
+        ereignis->accept();
         QCoreApplication::quit();
     }
 }

@@ -92,6 +92,16 @@ void Zeigen(frmEditor& editor, Katalogtext gelesen) {
     EditorStatusSetzen(0);
 }
 
+// A part of a text under the name of its file would be taken for the whole.
+void Leeren(frmEditor& editor) {
+    BemerkungMarke.clear();
+    Bemerkung.clear();
+    DateiName.clear();
+    editor.txtNotiz->clear();
+    editor.NamenZeigen("");
+    EditorStatusSetzen(0);
+}
+
 // --- Saving ---
 
 // A name in DateiName; false when the dialog was cancelled.
@@ -159,7 +169,9 @@ void KatalogLaden(frmEditor& editor) {
     if (!DateiWaehlen()) {
         Meldung(keineDatei);
     } else if (std::optional<Katalogtext> gelesen = Gelesen(); gelesen) {
-        Gelungen([&] { Zeigen(editor, std::move(*gelesen)); });
+        if (!Gelungen([&] { Zeigen(editor, std::move(*gelesen)); })) {
+            Leeren(editor);
+        }
         return;
     }
     DateiName = vorher;
@@ -170,9 +182,15 @@ bool KatalogSpeichern(frmEditor& editor, int mitDialog) {
     if (!Gelungen([&] { Bemerkung = editor.txtNotiz->text(); })) {
         return false;
     }
+    std::erase(Bemerkung, '\0'); // one pasted just now: the file wouldn't be opened again
     EditorpfadEinsetzen();
-    if (!NameGefunden() || !Geschrieben()) {
+    if (!NameGefunden()) {
         EditorpfadEinsetzen(); // the editor keeps the file it had
+        return false;
+    }
+    if (!Geschrieben()) {
+        EditorpfadEinsetzen();
+        EditorStatusSetzen(1); // what the field shows may stand in no file by now
         return false;
     }
     EditorpfadMerken();

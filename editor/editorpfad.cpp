@@ -1,5 +1,6 @@
 #include "editor/editorpfad.h"
 
+#include "core/datei.h"
 #include "core/pfad.h"
 #include "core/zustand.h"
 
@@ -23,6 +24,9 @@ void EditorpfadEinsetzen() {
     DateiName = gemerkt.pfad;
     if (!DateiName.empty()) {
         AuswahlMerken(DateiName, gemerkt.nativ);
+        if (NativerPfad(DateiName) != gemerkt.nativ && DateiDa(DateiName)) {
+            DateiName.clear(); // the file has gone and another one answers to its name: a save asks for one
+        }
     }
 }
 

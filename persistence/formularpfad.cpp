@@ -1,5 +1,6 @@
 #include "persistence/formularpfad.h"
 
+#include "core/datei.h"
 #include "core/pfad.h"
 #include "core/zustand.h"
 #include "quizform/formdaten.h"
@@ -32,5 +33,8 @@ void FormularpfadEinsetzen(std::string_view tag) {
     DateiName = PfadVon(tag);
     if (!DateiName.empty() && DateiName == gemerkt.pfad) {
         AuswahlMerken(DateiName, gemerkt.nativ);
+        if (NativerPfad(DateiName) != gemerkt.nativ && DateiDa(DateiName)) {
+            DateiName.clear(); // the file has gone and another one answers to its name: a save asks for one
+        }
     }
 }

@@ -54,6 +54,7 @@ bool FormularSpeichern(std::string_view tag) {
         FormularSchreiben(tag);
     } catch (const Laufzeitfehler& fehler) {
         FehlerMelden("DATEI : FormularSpeichern", fehler);
+        FormStatusSetzen(1); // what the form shows may stand in no file by now
         return false;
     }
     FormularpfadMerken(tag);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void theFramesCloseBoxAsksTheSame();
     void theEndOfTheProgramAsksAboutTheText();
     void theMainWindowsFrameAsksAboutTheText();
+    void aFormThatStaysKeepsTheTextThatWasLetGo();
 };
 
 // --- The editor's own file ---
@@ -234,6 +235,23 @@ void EditorschliessenTest::theMainWindowsFrameAsksAboutTheText() {
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.haupt()->isVisible());
     Unveraendert(QStringLiteral("x"), QStringLiteral(" "));
+}
+
+void EditorschliessenTest::aFormThatStaysKeepsTheTextThatWasLetGo() {
+    Tippen(editor, QStringLiteral("x"));
+    frmFKFragen* form = lauf.programm().NeuesQuizformular();
+    form->txtFrage.at(1)->setText("Bleibt");
+    FormStatusSetzen(1);
+    Dialogfolge dialoge;
+    SpeichernFrageErwarten(dialoge, antwortNein);
+    dialoge.meldung(QStringLiteral("Text nicht gespeichert !"), QStringLiteral("Damit kann ich leben"));
+    dialoge.frage(QStringLiteral("Neues Test-Formular"),
+                  QStringLiteral("Soll ich das vorhandene Formular vorher speichern ?"), antwortAbbrechen);
+    lauf.haupt()->close();
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.haupt()->isVisible());
+    Unveraendert(QStringLiteral("x"), QStringLiteral(" "));
+    QCOMPARE(form->txtFrage.at(1)->text(), std::string("Bleibt"));
 }
 
 QTEST_MAIN(EditorschliessenTest)
