@@ -61,6 +61,7 @@ private Q_SLOTS:
     void aCancelledDialogSavesNothingAndKeepsTheFormsFile();
     void anEmptyNameSavesNothing();
     void aFailedSaveIsReportedAndClaimsNothing();
+    void aFailedSaveOfAnUnchangedFormCountsAsUnsaved();
     void aSaveGoesToTheFormsOwnFileAfterARefusedOne();
     void filesThatDifferInCaseOnlyStayApart();
     void theQuestionBeforeOpeningSavesOnJa();
@@ -307,6 +308,22 @@ void SpeichernTest::aFailedSaveIsReportedAndClaimsNothing() {
     QCOMPARE(FormGeaendert, 1);
     QCOMPARE(FKDateiName, std::string());
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral(" Neues Feldkranz-Formular"));
+}
+
+void SpeichernTest::aFailedSaveOfAnUnchangedFormCountsAsUnsaved() {
+    lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
+    lauf.Oeffnen(QStringLiteral("A.FKR"));
+    QCOMPARE(FormGeaendert, 0);
+    const QString nativ = lauf.programm().ordner().nativ(QStringLiteral("KRANZ/A.FKR"));
+    QVERIFY(QFile::remove(nativ) && QDir().mkdir(nativ));
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("DATEI : FormularSpeichern :\n75 : Fehler beim Zugriff auf Pfad oder Datei"),
+        QStringLiteral("Grrr.. *~§§°"));
+    lauf.Druecken(speichernTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(QDir().rmdir(nativ));
 }
 
 void SpeichernTest::aSaveGoesToTheFormsOwnFileAfterARefusedOne() {
