@@ -8,6 +8,7 @@
 #include "persistence/oeffnen.h"
 #include "quizform/fkformular.h"
 #include "quizform/formdaten.h"
+#include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
 
 #include <QClipboard>
@@ -77,6 +78,10 @@ QByteArray Kopf(const QByteArray& rest) {
     return "\"Feldkranz\"\r\n\"FK\"\r\n" + rest;
 }
 
+QByteArray Testkopf(const QByteArray& rest) {
+    return "\"Feldkranz\"\r\n\"Test\"\r\n" + rest;
+}
+
 QByteArray MitForm(const QByteArray& gesamt, const QByteArray& fragen, const QByteArray& gebiete) {
     return Kopf("\"[FKINI]\"\r\n\"FK\"\r\n" + gesamt + "\r\n" + fragen + "\r\n" + gebiete + "\r\n\"\"\r\n");
 }
@@ -94,6 +99,8 @@ private Q_SLOTS:
 
     void aBrokenFileIsAnsweredAndTheNextFormCanBeMade_data();
     void aBrokenFileIsAnsweredAndTheNextFormCanBeMade();
+    void aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade_data();
+    void aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade();
     void whatIsNoRegularFileIsABadName_data();
     void whatIsNoRegularFileIsABadName();
     void aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWants();
@@ -177,6 +184,48 @@ void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade() {
     QCoreApplication::processEvents(); // what a text box mends comes behind
     QCOMPARE(FormGeaendert, 0);
     NeuesFormularGeht();
+}
+
+void FormularzooFensterTest::aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<Erwartung>("erwartung");
+    const auto zeile = [](const char* name, const QByteArray& bytes, const Erwartung& erwartung) {
+        QTest::newRow(name) << bytes << erwartung;
+    };
+    const QByteArray ganz = Formlauf::Test("Herbst");
+    const Erwartung still{Folge::Still};
+    zeile("cut behind the tag", Testkopf(""), still);
+    zeile("cut inside the head", Testkopf("\"[HB-ALLGEMEINES]\"\r\n\" T\"\r\n"), {Folge::ZuKurz, 5});
+    zeile("cut inside the questions", Testkopf("\"[HB-FRAGEN]\"\r\n\" T\"\r\n\"Was ?\"\r\n"),
+          {Folge::ZuKurz, 6});
+    zeile("a quote that never closes", Testkopf("[HB-FRAGEN]\r\n\"A\r\nB\r\n"), {Folge::ZuKurz, 6});
+    QByteArray nul = ganz;
+    zeile("NUL bytes in a text", nul.replace("Herbst", QByteArray("H\0rbst", 6)), still);
+    zeile("four megabytes of one text",
+          Testkopf("[HB-FRAGEN]\r\n\"W\"\r\n\"" + QByteArray(4'000'000, 'x') + "\"\r\n"),
+          {Folge::ZuKurz, 6, 7, 5});
+    zeile("a hundred megabytes of line ends", Testkopf(QByteArray(100'000'000, '\n')), {Folge::ZuGross});
+}
+
+void FormularzooFensterTest::aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade() {
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const Erwartung, erwartung);
+    lauf.Schreiben(QStringLiteral("KAPUTT.FKR"), bytes);
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), QStringLiteral("KAPUTT.FKR"),
+                        QStringLiteral("cmdLaden"));
+    FolgeErwarten(dialoge, erwartung);
+    lauf.Druecken(QStringLiteral("cmdLaden"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("KAPUTT.FKR")) == bytes);
+    QCoreApplication::processEvents();
+    QCOMPARE(FormGeaendert, 0);
+    HB_Entladen();
+    ModusHaupt();
+    QVERIFY(lauf.programm().NeuesTestformular() != nullptr);
+    QCOMPARE(HB_Frage(1), std::string());
+    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(DateiNr, 0);
 }
 
 void FormularzooFensterTest::whatIsNoRegularFileIsABadName_data() {

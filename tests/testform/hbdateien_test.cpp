@@ -7,6 +7,8 @@
 #include "settings/einstellungen.h"
 #include "tests/testform/testhilfe.h"
 
+#include <QDir>
+#include <QFile>
 #include <QMdiSubWindow>
 
 namespace {
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void jaBeforeANewFormSavesTheOldOne();
     void aCancelledSaveKeepsTheFormThatWasToBeReplaced();
     void aFileWithHugePointsIsShownAndItsTotalNeverWraps();
+    void aFailedSaveOfATestFormIsReportedAndClaimsNothing();
     void saveKeysOfTheMenuSaveTheTestForm();
 
 private:
@@ -234,6 +237,27 @@ void HbDateienTest::aFileWithHugePointsIsShownAndItsTotalNeverWraps() {
     Drehen(form, 1, "hoch");
     QCOMPARE(form->pnlPunkte.at(1)->caption(), QStringLiteral("0")); // above 20 it begins again
     QCOMPARE(Summenfeld(lauf.programm()), QStringLiteral("6"));
+}
+
+void HbDateienTest::aFailedSaveOfATestFormIsReportedAndClaimsNothing() {
+    lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
+    lauf.Oeffnen(QStringLiteral("T.FKR"));
+    const QString nativ = lauf.programm().ordner().nativ(QStringLiteral("KRANZ/T.FKR"));
+    QVERIFY(QFile::remove(nativ) && QDir().mkdir(nativ));
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("DATEI : FormularSpeichern :\n75 : Fehler beim Zugriff auf Pfad oder Datei"),
+        QStringLiteral("Grrr.. *~§§°"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QCOMPARE(HB_Frage(1), std::string("Knoten"));
+    QVERIFY(QDir().rmdir(nativ));
+    GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("T.FKR")), Knoten());
+    QCOMPARE(FormGeaendert, std::int16_t(0));
 }
 
 void HbDateienTest::saveKeysOfTheMenuSaveTheTestForm() {
