@@ -2,7 +2,9 @@
 
 #include "periphery/webseite.h"
 
+#include <QChildEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 #include <QWebEngineDownloadRequest>
@@ -25,6 +27,22 @@ void OhneTreiberZeichnen() {
     }
     qt_gl_set_global_share_context(new QOpenGLContext(QCoreApplication::instance()));
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+// Whether an event may follow a link. Only the window system makes such events, no page.
+bool FolgtVerweis(const QEvent& ereignis) {
+    switch (ereignis.type()) {
+    case QEvent::MouseButtonRelease:
+    case QEvent::TouchEnd:
+        return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: {
+        const int taste = static_cast<const QKeyEvent&>(ereignis).key();
+        return taste == Qt::Key_Return || taste == Qt::Key_Enter || taste == Qt::Key_Space;
+    }
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -58,6 +76,20 @@ Webansicht::~Webansicht() = default;
 
 void Webansicht::Zeigen(const QUrl& adresse) {
     load(adresse);
+}
+
+void Webansicht::childEvent(QChildEvent* ereignis) {
+    if (ereignis->added()) {
+        ereignis->child()->installEventFilter(this);
+    }
+    QWebEngineView::childEvent(ereignis);
+}
+
+bool Webansicht::eventFilter(QObject* ziel, QEvent* ereignis) {
+    if (FolgtVerweis(*ereignis)) {
+        seite_->Eingegeben();
+    }
+    return QWebEngineView::eventFilter(ziel, ereignis);
 }
 
 Netzansicht* Webzusatz::Bauen(QWidget* eltern, Netzregeln regeln) {

@@ -34,6 +34,11 @@ public:
 
     QWidget* Steuerelement() override { return this; }
     void Zeigen(const QUrl& adresse) override;
+    // Sees the user's input before the page's own control, which comes and goes with the pages.
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+
+protected:
+    void childEvent(QChildEvent* ereignis) override;
 
 private:
     // The page goes before its profile, and that before its gatekeeper.

@@ -1,9 +1,9 @@
 #include "periphery/webseite.h"
 
-#include <QAuthenticator>
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
@@ -37,14 +37,35 @@ constexpr std::array abgeschaltet{
     QWebEngineSettings::NavigateOnDropEnabled,
 };
 
+constexpr qint64 eingabefrist = 2000; // ms from an input to the link that it follows
+
 } // namespace
 
 Webseite::Webseite(QWebEngineProfile* profil, Netzregeln regeln)
     : QWebEnginePage(profil), regeln_(std::move(regeln)) {
     Einschraenken();
     WuenscheAblehnen();
-    connect(this, &QWebEnginePage::loadFinished, this, [this](bool gelungen) { regeln_.geladen(gelungen); });
-    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { regeln_.geladen(false); });
+    connect(this, &QWebEnginePage::loadingChanged, this, &Webseite::LadenVerfolgen);
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { Melden(false); });
+    connect(this, &QWebEnginePage::newWindowRequested, this, &Webseite::FensterErsetzen);
+}
+
+void Webseite::Melden(bool gelungen) {
+    steht_ = gelungen;
+    regeln_.geladen(gelungen);
+}
+
+// A link that is refused here, or a file, stops a load as well; the page that stands stays in sight then.
+void Webseite::LadenVerfolgen(const QWebEngineLoadingInfo& stand) {
+    const bool abgebrochen = stand.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
+    if (stand.status() == QWebEngineLoadingInfo::LoadStartedStatus || (abgebrochen && steht_)) {
+        return;
+    }
+    const bool gelungen = stand.status() == QWebEngineLoadingInfo::LoadSucceededStatus;
+    if (gelungen) {
+        gefolgt_.clear();
+    }
+    Melden(gelungen);
 }
 
 void Webseite::Einschraenken() {
@@ -72,21 +93,33 @@ void Webseite::WuenscheAblehnen() {
             [](QWebEngineFileSystemAccessRequest wunsch) { wunsch.reject(); });
     connect(this, &QWebEnginePage::selectClientCertificate, this,
             [](QWebEngineClientCertificateSelection wunsch) { wunsch.selectNone(); });
-    connect(this, &QWebEnginePage::newWindowRequested, this,
-            [this](const QWebEngineNewWindowRequest& wunsch) {
-                // A link that wants a window of its own is a link like any other; nobody else gets a window.
-                if (!wunsch.isUserInitiated()) {
-                    return;
-                }
-                if (regeln_.ziel(wunsch.requestedUrl()) == Netzziel::Hier) {
-                    setUrl(wunsch.requestedUrl());
-                } else {
-                    Abgeben(wunsch.requestedUrl());
-                }
-            });
 }
 
-void Webseite::Abgeben(const QUrl& adresse) const {
+// A link that wants a window of its own is a link like any other; nobody else gets a window.
+void Webseite::FensterErsetzen(const QWebEngineNewWindowRequest& wunsch) {
+    if (!wunsch.isUserInitiated() || !EingabeVerbrauchen()) {
+        return;
+    }
+    if (regeln_.ziel(wunsch.requestedUrl()) == Netzziel::Hier) {
+        verlangt_ = wunsch.requestedUrl();
+        setUrl(verlangt_);
+    } else {
+        Abgeben(wunsch.requestedUrl());
+    }
+}
+
+void Webseite::Eingegeben() {
+    eingabe_.start();
+}
+
+bool Webseite::EingabeVerbrauchen() {
+    const bool frisch = eingabe_.isValid() && !eingabe_.hasExpired(eingabefrist);
+    eingabe_.invalidate();
+    return frisch;
+}
+
+void Webseite::Abgeben(const QUrl& adresse) {
+    gefolgt_.clear();
     if (regeln_.ziel(adresse) == Netzziel::Aussen) {
         regeln_.nachAussen(adresse);
     }
@@ -98,14 +131,24 @@ void Webseite::DateiAbgeben(const QUrl& adresse) {
     }
 }
 
+// Where a followed link is sent on to is followed by the user as well.
+bool Webseite::VomBenutzer(const QUrl& adresse, NavigationType art) {
+    if (art == NavigationTypeRedirect) {
+        return !gefolgt_.isEmpty();
+    }
+    const bool verlangt = !verlangt_.isEmpty() && adresse == std::exchange(verlangt_, {});
+    return verlangt || (art == NavigationTypeLinkClicked && EingabeVerbrauchen());
+}
+
 bool Webseite::acceptNavigationRequest(const QUrl& adresse, NavigationType art, bool hauptrahmen) {
-    const bool gefolgt = art == NavigationTypeLinkClicked;
     const bool hier = regeln_.ziel(adresse) == Netzziel::Hier;
-    if (gefolgt && hauptrahmen) {
+    if (VomBenutzer(adresse, art)) {
         gefolgt_ = adresse;
         if (!hier) {
             Abgeben(adresse);
         }
+    } else if (hauptrahmen) {
+        gefolgt_.clear();
     }
     return hier;
 }

@@ -4,7 +4,11 @@
 
 #include "periphery/netzansicht.h"
 
+#include <QElapsedTimer>
 #include <QWebEnginePage>
+
+class QWebEngineLoadingInfo;
+class QWebEngineNewWindowRequest;
 
 class Webseite : public QWebEnginePage {
     Q_OBJECT
@@ -12,8 +16,9 @@ class Webseite : public QWebEnginePage {
 public:
     Webseite(QWebEngineProfile* profil, Netzregeln regeln);
 
-    // What a link leads to that isn't shown here: to the system's browser, if the user followed it.
-    void Abgeben(const QUrl& adresse) const;
+    // The user has clicked or pressed a key that follows links. Only that proves it: to the library, a script
+    // that clicks a link looks the same. Each input lets one link be followed, shortly after it.
+    void Eingegeben();
     // A file that the page would have stored: the user's own browser may, if he followed a link to it.
     void DateiAbgeben(const QUrl& adresse);
 
@@ -31,7 +36,18 @@ protected:
 private:
     void Einschraenken();
     void WuenscheAblehnen();
+    void Melden(bool gelungen);
+    void LadenVerfolgen(const QWebEngineLoadingInfo& stand);
+    void FensterErsetzen(const QWebEngineNewWindowRequest& wunsch);
+    // Whether the user's own input is behind what happens now; uses it up.
+    bool EingabeVerbrauchen();
+    bool VomBenutzer(const QUrl& adresse, NavigationType art);
+    // What the user followed and isn't shown here: to the system's browser, or nowhere.
+    void Abgeben(const QUrl& adresse);
 
     Netzregeln regeln_;
-    QUrl gefolgt_; // the link that the user followed last
+    bool steht_ = false;    // a page is shown
+    QElapsedTimer eingabe_; // since the user's last input; invalid once that is used up
+    QUrl gefolgt_;          // where the link has led that the user followed last, while that isn't settled
+    QUrl verlangt_;         // the followed link that wanted a window of its own and is loaded here
 };

@@ -19,9 +19,12 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+
+#include <memory>
 
 // A web server on this machine alone. It answers with the page that stands under the path, and notes who
 // asked for what.
@@ -74,10 +77,21 @@ inline QWidget* Netz() {
     return Finden(HomepageOffen(), QStringLiteral("WebBrowser1"));
 }
 
-// Colour in the middle of the page, as the user sees it.
+// Whether the word that there is no page covers the page.
+inline bool Verdeckt() {
+    return Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible();
+}
+
+// Counts the loads that have ended, well or badly. The page's control is known by its signals' names alone.
+inline std::unique_ptr<QSignalSpy> Ladezaehler() {
+    return std::make_unique<QSignalSpy>(Netz(), SIGNAL(loadFinished(bool)));
+}
+
+// Colour in the middle of the window, as the user sees it: with what covers the page.
 inline QColor Mitte() {
-    const QImage bild = Netz()->grab().toImage();
-    return bild.pixelColor(bild.width() / 2, bild.height() / 2);
+    const QImage bild = HomepageOffen()->grab().toImage();
+    const QRect seite = Netz()->geometry();
+    return bild.pixelColor(seite.left() + seite.width() / 2, seite.top() + seite.height() / 2);
 }
 
 inline bool IstGruen() {
