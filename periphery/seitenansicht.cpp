@@ -1,5 +1,6 @@
 #include "periphery/seitenansicht.h"
 
+#include <QFile>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -31,12 +32,25 @@ Seitenansicht::~Seitenansicht() {
     suche_.setDocument(nullptr);
 }
 
+bool Seitenansicht::Lesen(const QString& datei) {
+    dokument_.close();
+    quelle_.close();
+    QFile leser(datei);
+    if (!leser.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    bytes_ = leser.readAll();
+    quelle_.setBuffer(&bytes_);
+    quelle_.open(QIODevice::ReadOnly);
+    dokument_.load(&quelle_); // at once, since all of it is there
+    return dokument_.status() == QPdfDocument::Status::Ready;
+}
+
 bool Seitenansicht::Laden(const QString& datei) {
     Suchen({});
     bilder_.clear();
     masse_.clear();
-    dokument_.close();
-    if (dokument_.load(datei) == QPdfDocument::Error::None) {
+    if (Lesen(datei)) {
         for (int seite = 0; seite < dokument_.pageCount(); ++seite) {
             // A page that can't be read keeps its place, as an empty sheet.
             const QSizeF mass = dokument_.pagePointSize(seite);

@@ -6,6 +6,8 @@
 #include "periphery/seitenlage.h"
 
 #include <QAbstractScrollArea>
+#include <QBuffer>
+#include <QByteArray>
 #include <QImage>
 #include <QPdfDocument>
 #include <QPdfSearchModel>
@@ -43,6 +45,8 @@ protected:
     void wheelEvent(QWheelEvent* ereignis) override;
 
 private:
+    [[nodiscard]] bool Lesen(const QString& datei);
+
     struct Fund {
         int seite = 0; // from 0
         QList<QRectF> flaechen;
@@ -56,6 +60,9 @@ private:
     void SeiteMalen(QPainter& maler, int seite);
     void FundeMalen(QPainter& maler, int seite, const QRect& platz) const;
 
+    // The whole file, for as long as it is read: it may vanish meanwhile, or be replaced.
+    QByteArray bytes_;
+    QBuffer quelle_;
     QPdfDocument dokument_;
     QPdfSearchModel suche_;
     std::vector<QSizeF> masse_; // of the pages, in points

@@ -5,7 +5,13 @@
 namespace {
 
 constexpr double pixelJePunkt = 96.0 / 72.0;
-constexpr int laengste = 20000; // no page gets longer than this many pixels, whatever its file claims
+constexpr int laengste = 20000;  // no page gets longer than this many pixels, whatever its file claims
+constexpr int tiefste = 1 << 30; // no page begins below: a document of tens of thousands of the longest
+
+// Bounded before it becomes a whole number: what a file claims may go beyond all of these.
+int Kante(double laenge) {
+    return static_cast<int>(std::clamp(laenge, 1.0, static_cast<double>(laengste)));
+}
 
 QSize Seitengroesse(QSizeF mass, QSize flaeche, Passung passung, double groesse) {
     const QSizeF frei(flaeche.width() - 2 * seitenabstand, flaeche.height() - 2 * seitenabstand);
@@ -15,8 +21,7 @@ QSize Seitengroesse(QSizeF mass, QSize flaeche, Passung passung, double groesse)
     } else if (passung == Passung::Seite) {
         ziel = mass.scaled(frei, Qt::KeepAspectRatio);
     }
-    return QSize(std::clamp(static_cast<int>(ziel.width()), 1, laengste),
-                 std::clamp(static_cast<int>(ziel.height()), 1, laengste));
+    return {Kante(ziel.width()), Kante(ziel.height())};
 }
 
 } // namespace
@@ -38,7 +43,7 @@ Seitenlage SeitenLegen(std::span<const QSizeF> masse, QSize flaeche, Passung pas
     int oben = seitenabstand;
     for (QRect& platz : lage.plaetze) {
         platz.moveTopLeft(QPoint((breite - platz.width()) / 2, oben));
-        oben += platz.height() + seitenabstand;
+        oben = std::min(oben + platz.height() + seitenabstand, tiefste);
     }
     lage.gesamt = QSize(breite, oben);
     return lage;

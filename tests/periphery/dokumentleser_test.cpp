@@ -11,6 +11,8 @@ private Q_SLOTS:
     void ctrlFBeginsASearchAndEscEndsIt();
     void whatIsNowhereIsSaidBelow();
     void aLongDocumentKeepsFewPicturesAndScrollsToItsEnd();
+    void aDocumentThatVanishesWhileItIsReadStaysLegible();
+    void aPageOfMonstrousSizeIsShown();
 };
 
 void DokumentleserTest::pagesAreTurnedByButtonsKeysAndNumber() {
@@ -156,6 +158,36 @@ void DokumentleserTest::aLongDocumentKeepsFewPicturesAndScrollsToItsEnd() {
     }
     QCOMPARE(Ansicht()->Seite(), 60);
     QCOMPARE(Ansicht()->Suchen(QStringLiteral("Nummer")), 60);
+}
+
+void DokumentleserTest::aDocumentThatVanishesWhileItIsReadStaysLegible() {
+    const Zusatzordner zusatz;
+    Programm programm;
+    programm.ordner().schreiben(regel, Dokument(40));
+    Zeigen(programm);
+    programm.ordner().schreiben(regel, QByteArray(100, 'x')); // in place, as a copy over it would
+    QVERIFY(QFile::remove(programm.ordner().nativ(regel)));
+    Ansicht()->SeiteZeigen(33);
+    QTRY_VERIFY(Bildpunkte(Qt::black) > 100);
+    QCOMPARE(Ansicht()->Suchen(QStringLiteral("Seite Nummer 40")), 1);
+}
+
+void DokumentleserTest::aPageOfMonstrousSizeIsShown() {
+    const Zusatzordner zusatz;
+    Programm programm;
+    const QByteArray seite = "%PDF-1.4\n"
+                             "1 0 obj <</Type /Catalog /Pages 2 0 R>> endobj\n"
+                             "2 0 obj <</Type /Pages /Kids [3 0 R] /Count 1>> endobj\n"
+                             "3 0 obj <</Type /Page /Parent 2 0 R /MediaBox [0 0 1 1000000000]>> endobj\n"
+                             "trailer <</Root 1 0 R /Size 4>>\n%%EOF\n";
+    programm.ordner().schreiben(regel, seite);
+    Zeigen(programm);
+    QCOMPARE(Ansicht()->Seiten(), 1);
+    QVERIFY(Bildpunkte(Qt::white) > 100);
+    for (const Passung passung : {Passung::Seite, Passung::Breite}) {
+        Ansicht()->Einpassen(passung);
+        QVERIFY(!Ansicht()->Steuerelement()->grab().isNull());
+    }
 }
 
 QTEST_MAIN(DokumentleserTest)

@@ -10,6 +10,7 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -106,7 +107,15 @@ TEST(Seitenlage, NoAreaAndMonstrousPagesAreBounded) {
             }
         }
     }
+    EXPECT_EQ(SeitenLegen(seiten, QSize(600, 400), Passung::Breite, 1.0).plaetze[0].height(), 20000);
     EXPECT_EQ(SeitenLegen({}, QSize(600, 400), Passung::Breite, 1.0).SeiteBei(0), -1);
+}
+
+TEST(Seitenlage, MoreLongPagesThanAHeightCanCountStayBelowEachOther) {
+    const std::vector<QSizeF> seiten(120000, QSizeF(1, 1e9));
+    const Seitenlage lage = SeitenLegen(seiten, QSize(600, 400), Passung::Breite, 1.0);
+    EXPECT_TRUE(std::ranges::is_sorted(lage.plaetze, {}, [](const QRect& platz) { return platz.top(); }));
+    EXPECT_GE(lage.gesamt.height(), 1 << 30);
 }
 
 TEST(Seitenlage, AHeightBelongsToTheLastPageThatBeginsAboveIt) {
