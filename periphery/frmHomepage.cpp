@@ -65,9 +65,15 @@ void frmHomepage::NetzBauen() {
     };
     regeln.nachAussen = NachAussen;
     regeln.geladen = [this](bool gelungen) { SeiteDaZeigen(gelungen); };
-    Netzansicht* ansicht = zusatz->Bauen(this, std::move(regeln));
-    WebBrowser1_ = ansicht->Steuerelement();
-    ansicht->Zeigen(seite_);
+    ansicht_ = zusatz->Bauen(this, std::move(regeln));
+    WebBrowser1_ = ansicht_->Steuerelement();
+    ansicht_->Zeigen(seite_);
+}
+
+void frmHomepage::NeuVersuchen() {
+    if (ansicht_ != nullptr && !pnlErsatz_->isHidden()) {
+        ansicht_->Zeigen(seite_);
+    }
 }
 
 QWidget* frmHomepage::ErsatzBauen() {
@@ -117,6 +123,8 @@ void HomepageZeigen() {
             kind->show();
         }
         fenster->show();
+    } else {
+        offen->NeuVersuchen();
     }
     KindNachVorn("Homepage");
 }

@@ -15,6 +15,9 @@ class frmHomepage : public QWidget {
 public:
     explicit frmHomepage(QUrl seite, QWidget* eltern = nullptr);
 
+    // Asks for the page once more, where it couldn't be shown.
+    void NeuVersuchen();
+
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
@@ -25,6 +28,7 @@ private:
     void SeiteDaZeigen(bool da);
 
     QUrl seite_;
+    Netzansicht* ansicht_ = nullptr; // behind WebBrowser1_; none without the plug-in
     QWidget* WebBrowser1_ = nullptr;
     QWidget* pnlErsatz_ = nullptr;
 };

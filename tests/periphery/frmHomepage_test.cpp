@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theMenuEntryShowsTheSameWindow();
     void linksOfTheMakersStayInTheWindow();
     void aServerThatIsNotThereReportsNothing();
+    void aSecondCallTriesAPageAgainThatFailed();
     void aPageWithAnErrorReportsNothing();
     void asTheAdministratorNoPageIsShownWithoutItsWalls();
     void theWindowClosesWhileItsPageIsLoading();
@@ -86,6 +87,28 @@ void FrmHomepageTest::aServerThatIsNotThereReportsNothing() {
     Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"))->click();
     QTRY_VERIFY_WITH_TIMEOUT(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible(), 20000);
     QVERIFY(HomepageOffen()->isVisible());
+    HomepageServerVorgeben({});
+}
+
+void FrmHomepageTest::aSecondCallTriesAPageAgainThatFailed() {
+    Server server(gruen.arg(QStringLiteral("Weiter")));
+    const quint16 anschluss = server.serverPort();
+    server.close();
+    HomepageServerVorgeben(QStringLiteral("http://127.0.0.1:%1").arg(anschluss));
+    const Zusatzordner zusatz;
+    const Programm programm;
+    auto* cmdHomepage = Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"));
+    cmdHomepage->click();
+    QTRY_VERIFY_WITH_TIMEOUT(Verdeckt(), 20000);
+    QVERIFY(server.listen(QHostAddress::LocalHost, anschluss));
+    cmdHomepage->click();
+    QTRY_VERIFY_WITH_TIMEOUT(!Verdeckt(), 20000);
+    QTRY_VERIFY(IstGruen());
+    QCOMPARE(server.Anfragen(QStringLiteral("/modules.php")), 1);
+    // A page that stands isn't loaded again.
+    cmdHomepage->click();
+    QVERIFY(!Verdeckt());
+    QCOMPARE(server.Anfragen(QStringLiteral("/modules.php")), 1);
     HomepageServerVorgeben({});
 }
 

@@ -82,6 +82,27 @@ bool PasstInsHilfepanel(const QString& status) {
     return flaeche.contains(QFontMetrics(Schrift(7.5)).boundingRect(flaeche, umbruch, status));
 }
 
+// Whether the keyboard or a click may lead the user there: inner parts of a control follow their control.
+bool Erreichbar(const QWidget& teil, const QWidget& fenster) {
+    return teil.focusPolicy() != Qt::NoFocus && teil.isVisibleTo(&fenster) &&
+           EigenesFenster(&teil) == &fenster;
+}
+
+// Controls that the user can reach, whatever their name, and that neither they nor what is around them tells
+// about.
+QStringList StummeImWeg(const QWidget& fenster) {
+    QStringList stumme;
+    for (QWidget* teil : fenster.findChildren<QWidget*>()) {
+        const QString name = teil->objectName();
+        if (Erreichbar(*teil, fenster) && HinweisstelleVon(teil).element == nullptr &&
+            !Ausgenommen(fenster, name, Fehlt::Alles)) {
+            stumme << QStringLiteral("%1.%2 (%3): reached, and nothing to tell")
+                          .arg(fenster.objectName(), name, QLatin1String(teil->metaObject()->className()));
+        }
+    }
+    return stumme;
+}
+
 } // namespace
 
 namespace rundgang {
@@ -118,7 +139,7 @@ QStringList Maengel(const QWidget& fenster) {
             fehlt("the description for screen readers isn't the tip");
         }
     }
-    return maengel;
+    return maengel + StummeImWeg(fenster);
 }
 
 int Anzahl(const QWidget& fenster) {

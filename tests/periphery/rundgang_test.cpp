@@ -12,6 +12,7 @@
 #include "tests/hilfe/programm.h"
 #include "tests/periphery/rundgang.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void theEditor();
     void theDialogsThatTellAndAsk();
     void everyMenuEntryHasAStatusText();
+    void theWalkMeetsAControlWithoutAName();
 };
 
 void RundgangTest::theStartWindow() {
@@ -136,6 +138,19 @@ void RundgangTest::everyMenuEntryHasAStatusText() {
         }
     }
     QVERIFY(eintraege >= 50);
+}
+
+void RundgangTest::theWalkMeetsAControlWithoutAName() {
+    QWidget fenster;
+    fenster.setObjectName(QStringLiteral("frmProbe"));
+    auto* feld = new QLineEdit(&fenster);
+    const QStringList stumm{QStringLiteral("frmProbe. (QLineEdit): reached, and nothing to tell")};
+    QCOMPARE(rundgang::Maengel(fenster), stumm);
+    feld->hide();
+    QCOMPARE(rundgang::Maengel(fenster), QStringList());
+    feld->show();
+    feld->setToolTip(QStringLiteral("Tipp"));
+    QCOMPARE(rundgang::Maengel(fenster), QStringList());
 }
 
 QTEST_MAIN(RundgangTest)
