@@ -60,8 +60,9 @@ void frmHomepage::NetzBauen() {
         return;
     }
     Netzregeln regeln;
-    regeln.ziel = [eigener = seite_.host().toStdString()](const QUrl& adresse) {
-        return NetzzielFuer(adresse.scheme().toStdString(), adresse.host().toStdString(), eigener);
+    regeln.ziel = [schema = seite_.scheme().toStdString(),
+                   host = seite_.host().toStdString()](const QUrl& adresse) {
+        return NetzzielFuer(adresse.scheme().toStdString(), adresse.host().toStdString(), schema, host);
     };
     regeln.nachAussen = NachAussen;
     regeln.geladen = [this](bool gelungen) { SeiteDaZeigen(gelungen); };

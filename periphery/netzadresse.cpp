@@ -18,9 +18,12 @@ std::string Downloadseite(std::string_view server) {
     return std::string(server) + "/modules.php?op=modload&name=Downloads&file=index&req=viewsdownload&sid=18";
 }
 
-Netzziel NetzzielFuer(std::string_view schema, std::string_view host, std::string_view eigenerHost) {
-    if (host.empty() || (!Gleich(schema, "http") && !Gleich(schema, "https"))) {
+Netzziel NetzzielFuer(std::string_view schema, std::string_view host, std::string_view eigenesSchema,
+                      std::string_view eigenerHost) {
+    const bool verschluesselt = Gleich(schema, "https");
+    if (host.empty() || (!verschluesselt && !Gleich(schema, "http"))) {
         return Netzziel::Nirgends;
     }
-    return Gleich(host, eigenerHost) ? Netzziel::Hier : Netzziel::Aussen;
+    const bool sicher = verschluesselt || !Gleich(eigenesSchema, "https");
+    return sicher && Gleich(host, eigenerHost) ? Netzziel::Hier : Netzziel::Aussen;
 }

@@ -10,7 +10,7 @@
 // Where an address is shown: in the homepage's window, in the system's own browser, or nowhere.
 enum class Netzziel { Hier, Aussen, Nirgends };
 
-// Only http and https lead anywhere, and only the makers' own host stays in the window. Upper and lower case
-// of scheme and host make no difference.
+// Only http and https lead anywhere, and only the makers' own host stays in the window; where their page came
+// encrypted, a plain address of theirs doesn't. Upper and lower case of scheme and host make no difference.
 [[nodiscard]] Netzziel NetzzielFuer(std::string_view schema, std::string_view host,
-                                    std::string_view eigenerHost);
+                                    std::string_view eigenesSchema, std::string_view eigenerHost);

@@ -52,7 +52,7 @@ TEST(Homepage, OnlyTheMakersHostOverTheWebStaysInTheWindow) {
     constexpr const char* eigener = "www.feldkranz.example";
     for (const Zeile& zeile : std::array{
              Zeile{"https", "www.feldkranz.example", Netzziel::Hier},
-             Zeile{"http", "www.feldkranz.example", Netzziel::Hier},
+             Zeile{"http", "www.feldkranz.example", Netzziel::Aussen}, // no longer encrypted
              Zeile{"HTTPS", "WWW.Feldkranz.Example", Netzziel::Hier},
              Zeile{"https", "feldkranz.example", Netzziel::Aussen},
              Zeile{"https", "www.feldkranz.example.anderswo.example", Netzziel::Aussen},
@@ -70,9 +70,13 @@ TEST(Homepage, OnlyTheMakersHostOverTheWebStaysInTheWindow) {
              Zeile{"mailto", "", Netzziel::Nirgends},
              Zeile{"", "www.feldkranz.example", Netzziel::Nirgends},
          }) {
-        EXPECT_EQ(NetzzielFuer(zeile.schema, zeile.host, eigener), zeile.soll)
+        EXPECT_EQ(NetzzielFuer(zeile.schema, zeile.host, "https", eigener), zeile.soll)
             << zeile.schema << "://" << zeile.host;
     }
+    // A plain page may lead to plain and encrypted ones.
+    EXPECT_EQ(NetzzielFuer("http", eigener, "http", eigener), Netzziel::Hier);
+    EXPECT_EQ(NetzzielFuer("https", eigener, "http", eigener), Netzziel::Hier);
+    EXPECT_EQ(NetzzielFuer("http", eigener, "HTTPS", eigener), Netzziel::Aussen);
 }
 
 TEST(Tray, TheRecordHasItsNumbersAndItsTip) {
