@@ -5,7 +5,8 @@
 class frmEditor;
 
 // Asks about unsaved text, then for a file, and shows it. Whatever fails is told. A file that
-// can't be read changes nothing on the screen; a text that the field can't take leaves it empty, without a file.
+// can't be read changes nothing on the screen; a text that the field can't take leaves it empty, without a
+// file.
 void KatalogLaden(frmEditor& editor);
 
 // Saves the field's text. mitDialog: 1 asks for a name; 0 goes to the file that the editor has, and asks for
