@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -122,6 +123,10 @@ void HomepageZeigen() {
         if (kind != nullptr) {
             kind->resize(Pixel(breite), Pixel(hoehe));
             kind->show();
+            // In the middle: the child area's own choice is where the fewest windows are, even if out of
+            // sight.
+            const QSize rest = kind->parentWidget()->size() - kind->size();
+            kind->move(std::max(0, rest.width() / 2), std::max(0, rest.height() / 2));
         }
         fenster->show();
     } else {

@@ -20,6 +20,7 @@ class HomepageOhneTest : public QObject {
 private Q_SLOTS:
     void withoutThePlugInNothingIsReported();
     void aDamagedPlugInIsNone();
+    void theWindowIsInSightBesideTheEditor();
 };
 
 void HomepageOhneTest::withoutThePlugInNothingIsReported() {
@@ -55,6 +56,16 @@ void HomepageOhneTest::aDamagedPlugInIsNone() {
     Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"))->click();
     QVERIFY(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible());
     QCOMPARE(rundgang::Maengel(*HomepageOffen()), QStringList());
+}
+
+void HomepageOhneTest::theWindowIsInSightBesideTheEditor() {
+    const Zusatzordner zusatz(QStringLiteral("/nirgendwo"));
+    const Programm programm;
+    Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdEdit"))->click();
+    Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"))->click();
+    const QWidget* kind = HomepageOffen()->parentWidget();
+    QTRY_VERIFY(kind->isVisible());
+    QVERIFY(kind->parentWidget()->rect().contains(kind->geometry()));
 }
 
 QTEST_MAIN(HomepageOhneTest)
