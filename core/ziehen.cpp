@@ -4,9 +4,11 @@
 #include "core/ziehbilder.h"
 #include "core/zug.h"
 
+#include <QAbstractScrollArea>
 #include <QCoreApplication>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QWindow>
 
 #include <utility>
@@ -132,6 +134,25 @@ void Markieren(QWidget* element, ZiehBild bild, std::function<void()> ablegen) {
     element->setAcceptDrops(true);
 }
 
+// Listens to the presses on the text area of a box, and belongs to the box.
+class Druckwaechter : public QObject {
+public:
+    Druckwaechter(QAbstractScrollArea* feld, std::function<bool(Qt::KeyboardModifiers)> druck)
+        : QObject(feld), druck_(std::move(druck)) {
+        feld->viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
+        if (ereignis->type() == QEvent::MouseButtonPress) {
+            return druck_(static_cast<QMouseEvent*>(ereignis)->modifiers());
+        }
+        return QObject::eventFilter(objekt, ereignis);
+    }
+
+private:
+    std::function<bool(Qt::KeyboardModifiers)> druck_;
+};
+
 } // namespace
 
 Zug& AktuellerZug() {
@@ -178,6 +199,10 @@ void Ziehen(QWidget* quelle, const std::string& frage) {
 void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen) {
     Markieren(ziel, bild, std::move(ablegen));
     ZieltastenEinrichten(ziel);
+}
+
+void DruckEinrichten(QAbstractScrollArea* feld, std::function<bool(Qt::KeyboardModifiers)> druck) {
+    new Druckwaechter(feld, std::move(druck)); // belongs to the box it listens to
 }
 
 void KeinZiel(QWidget* steuerelement) {

@@ -9,6 +9,7 @@
 
 #include <QtCore/qnamespace.h>
 
+class QAbstractScrollArea;
 class QWidget;
 
 // 0 a drag from the selection dialog, 1 a move, 2 a copy, 27 the test form's copy.
@@ -37,6 +38,10 @@ void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen)
 // Makes a control, and what lies in it and isn't a target, one that takes nothing. Controls without either
 // take nothing as well.
 void KeinZiel(QWidget* steuerelement);
+
+// Runs druck at each press on the text area of a box, with the keys held. True of it: the press was more than
+// an ordinary click, and the box doesn't get it.
+void DruckEinrichten(QAbstractScrollArea* feld, std::function<bool(Qt::KeyboardModifiers)> druck);
 
 // The way without a mouse. A source hands in what a press on it does; Shift+F8 and Ctrl+F8 then do what a
 // press with that key does, and the question is held where the press would have begun a drag. F8 on a target

@@ -11,8 +11,6 @@
 #include "quizform/texte.h"
 #include "quizform/ziehregeln.h"
 
-#include <QMouseEvent>
-
 namespace {
 
 std::size_t Stelle(int n) {
@@ -41,31 +39,12 @@ bool Druck(frmFKFragen& form, int n, Qt::KeyboardModifiers tasten) {
     return true;
 }
 
-// Listens to the presses on the text area of a question.
-class Druckwaechter : public QObject {
-public:
-    Druckwaechter(frmFKFragen& form, int n) : QObject(form.txtFrage.at(Stelle(n))), form_(form), n_(n) {
-        form.txtFrage.at(Stelle(n))->viewport()->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
-        if (ereignis->type() == QEvent::MouseButtonPress) {
-            return Druck(form_, n_, static_cast<QMouseEvent*>(ereignis)->modifiers());
-        }
-        return QObject::eventFilter(objekt, ereignis);
-    }
-
-private:
-    frmFKFragen& form_;
-    int n_;
-};
-
 } // namespace
 
 void ZiehenVerbinden(frmFKFragen& form) {
     for (int n = 1; n <= anzahlFelder; ++n) {
-        new Druckwaechter(form, n); // belongs to the box it listens to
         Textfeld* frage = form.txtFrage.at(Stelle(n));
+        DruckEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { return Druck(form, n, tasten); });
         ZielEinrichten(frage, ZiehBild::Ablegen, [n] { FK_Ablegen(n, GezogeneFrage()); });
         TastenEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { Druck(form, n, tasten); });
         KeinZiel(form.txtAntwort.at(Stelle(n)));

@@ -11,8 +11,6 @@
 #include "testform/hbformular.h"
 #include "testform/texte.h"
 
-#include <QMouseEvent>
-
 namespace {
 
 // Meant: a copy bears this number and not that of the quiz form's copy, so that its drop takes the answer
@@ -44,31 +42,12 @@ bool Druck(frmHBFragen& form, int n, Qt::KeyboardModifiers tasten) {
     return true;
 }
 
-// Listens to the presses on the text area of a question.
-class Druckwaechter : public QObject {
-public:
-    Druckwaechter(frmHBFragen& form, int n) : QObject(form.txtFrage.at(Stelle(n))), form_(form), n_(n) {
-        form.txtFrage.at(Stelle(n))->viewport()->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override {
-        if (ereignis->type() == QEvent::MouseButtonPress) {
-            return Druck(form_, n_, static_cast<QMouseEvent*>(ereignis)->modifiers());
-        }
-        return QObject::eventFilter(objekt, ereignis);
-    }
-
-private:
-    frmHBFragen& form_;
-    int n_;
-};
-
 } // namespace
 
 void TestziehenVerbinden(frmHBFragen& form) {
     for (int n = 1; n <= anzahlTestfragen; ++n) {
-        new Druckwaechter(form, n); // belongs to the box it listens to
         Textfeld* frage = form.txtFrage.at(Stelle(n));
+        DruckEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { return Druck(form, n, tasten); });
         ZielEinrichten(frage, ZiehBild::Ablegen, [n] { HB_Ablegen(n, GezogeneFrage()); });
         TastenEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { Druck(form, n, tasten); });
         KeinZiel(form.txtAntwort.at(Stelle(n)));
