@@ -1,11 +1,11 @@
 // What the windows show of the pictures: toolbars, dialogs, answers, and a background that is missing.
 #include "core/bilder.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/schaltflaechen.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/schaltflaechen.h"
 #include "tests/bilder/bildvergleich.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"

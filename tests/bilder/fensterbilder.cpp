@@ -3,19 +3,19 @@
 // BILDER_ORDNER names the folder where the pictures go.
 #include "catalogue/katalogladen.h"
 #include "catalogue/themen.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/hauptfenster.h"
-#include "core/texte.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
+#include "mainwindow/texte.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
 #include "quizform/frmFKFragen.h"
-#include "testform/formdaten.h"
+#include "quizform/quizformular.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -72,9 +72,10 @@ Fragenliste Fragen(const Gebiet& gebiet) {
     UnterthemenLaden(gebiet.thema);
     Fragenliste liste;
     std::string unter = gebiet.unterthema;
-    if (std::find(UnterthemenListe.begin(), UnterthemenListe.end(), unter) == UnterthemenListe.end() ||
+    if (std::find(Katalog.UnterthemenListe.begin(), Katalog.UnterthemenListe.end(), unter) ==
+            Katalog.UnterthemenListe.end() ||
         unter.empty()) {
-        unter = UnterthemenListe.at(1);
+        unter = Katalog.UnterthemenListe.at(1);
     }
     FragenLaden(gebiet.thema, unter, liste);
     return liste;
@@ -84,29 +85,29 @@ void QuizFuellen() {
     for (int a = 1; a <= anzahlGebiete; ++a) {
         const Gebiet& gebiet = gebiete.at(a - 1);
         const Thema* thema = ThemaSuchen(gebiet.thema);
-        WissenTitel.at(Nr(a)) = thema != nullptr ? gebiet.thema : ThemenListe.at(Nr(a));
-        const Fragenliste liste = Fragen({WissenTitel.at(Nr(a)).c_str(), gebiet.unterthema});
+        FKForm.WissenTitel.at(Nr(a)) = thema != nullptr ? gebiet.thema : Katalog.ThemenListe.at(Nr(a));
+        const Fragenliste liste = Fragen({FKForm.WissenTitel.at(Nr(a)).c_str(), gebiet.unterthema});
         for (int r = 0; r < fragenJeGebiet && Nr(r) < liste.anzahl(); ++r) {
             const std::size_t n = Nr(fragenJeGebiet * (a - 1) + r + 1);
-            FrageText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Frage);
-            AntwortText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Antwort);
+            FKForm.FrageText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Frage);
+            FKForm.AntwortText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Antwort);
         }
     }
     for (const auto& [n, buchstabe] :
          {std::pair{4, "J"}, {9, "G"}, {12, "R"}, {20, "A"}, {23, "E"}, {26, "G"}}) {
-        FeldSpezial.at(Nr(n)) = buchstabe;
+        FKForm.FeldSpezial.at(Nr(n)) = buchstabe;
     }
-    FormNr = "1";
-    FormDatum = "20.11.2026";
-    FormZeit = "45 min";
+    FKForm.FormNr = "1";
+    FKForm.FormDatum = "20.11.2026";
+    FKForm.FormZeit = "45 min";
 }
 
 void TestFuellen() {
     const Fragenliste liste = Fragen({"Tiere", "Haustiere"});
     for (int n = 1; n <= anzahlTestfragen; ++n) {
-        HBFrageText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Frage);
-        HBAntwortText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Antwort);
-        HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(n % 3 + 1);
+        HBForm.HBFrageText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Frage);
+        HBForm.HBAntwortText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Antwort);
+        HBForm.HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(n % 3 + 1);
     }
 }
 
@@ -149,7 +150,7 @@ void Fensterbilder::quizformular() {
     ThemenLaden();
     QuizFuellen();
     FK_FormularZeigen(" Feldkranz-Formular");
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     Bild(programm.haupt(), QStringLiteral("feldkranz"));
     Kindbild(FKFragenOffen(), QStringLiteral("frmFKFragen"));
 }
@@ -158,7 +159,7 @@ void Fensterbilder::testformular() {
     Programm programm;
     programm.NeuesTestformular();
     TestFuellen();
-    HBGesamtpunkte = 20;
+    HBForm.HBGesamtpunkte = 20;
     HB_FormularZeigen(" Test-Formular");
     Bild(programm.haupt(), QStringLiteral("testformular"));
     Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));

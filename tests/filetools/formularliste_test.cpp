@@ -62,7 +62,7 @@ void FormularlisteTest::theMainWindowOpensWithTheListShown() {
     QCOMPARE(Listenlauf::Fenster()->property("tag").toString(), QStringLiteral("FKFragen"));
     QVERIFY(Finden<QRadioButton>(Listenlauf::Fenster(), QStringLiteral("optPattern(0)"))->isChecked());
     QCOMPARE(Listenlauf::Info(), QStringLiteral("Datei mit Linksklick auswählen."));
-    QCOMPARE(FormTyp, std::string()); // any form can be opened
+    QCOMPARE(Stand.FormTyp, Formart::Keine); // any form can be opened
     QVERIFY(InGebrauch("cmdNeuFK"));
     QVERIFY(InGebrauch("cmdNeuHB"));
 }
@@ -115,13 +115,13 @@ void FormularlisteTest::theButtonsChooseFolderColourAndMode() {
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Knoten.FKR")});
     QCOMPARE(Listengrund(), QColor(191, 255, 191));
     QCOMPARE(MDIFenster()->property("tag").toString(), QStringLiteral("HBFragen"));
-    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(Finden<QRadioButton>(Listenlauf::Fenster(), QStringLiteral("optPattern(0)"))->isChecked());
     Listenlauf::Druecken("cmdNeuFK");
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Herbst.FKR")});
     QCOMPARE(Listengrund(), QColor(255, 255, 191));
     QCOMPARE(MDIFenster()->property("tag").toString(), QStringLiteral("FKFragen"));
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
     QVERIFY(Finden(MDIFenster(), QStringLiteral("picKranz"))->isVisible()); // the toolbars stay
 }
 
@@ -142,11 +142,11 @@ void FormularlisteTest::aClickTakesTheFileAndShowsItsNumbers() {
     lauf.Anlegen(QStringLiteral("KRANZ/Herbst.FKR"), Quizdatei("Was fällt ?", 20, 5, 4));
     Listenlauf::Anklicken(QStringLiteral("Herbst.FKR"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(20, 4, 5));
-    QCOMPARE(DateiName, AppPfad + "\\KRANZ\\Herbst.FKR");
+    QCOMPARE(Stand.DateiName, Stand.AppPfad + "\\KRANZ\\Herbst.FKR");
     QCOMPARE(Listenlauf::Markiert(), QStringLiteral("Herbst.FKR"));
     QVERIFY(Listenlauf::Status().startsWith(QStringLiteral(" Ich lade ...  Z\\Herbst.FKR")));
-    QCOMPARE(FormTyp, std::string("FK")); // no form is open: the values are those of the file
-    QCOMPARE(FelderGesamt, std::int16_t(20));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz); // no form is open: the values are those of the file
+    QCOMPARE(Spiel.FelderGesamt, std::int16_t(20));
     QVERIFY(FKFragenOffen() == nullptr);
 }
 
@@ -161,7 +161,7 @@ void FormularlisteTest::theArrowKeysMarkAndShowToo() {
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     maus::Taste(QStringLiteral("Down"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(20, 5, 4));
-    QCOMPARE(DateiName, AppPfad + "\\KRANZ\\B.FKR");
+    QCOMPARE(Stand.DateiName, Stand.AppPfad + "\\KRANZ\\B.FKR");
 }
 
 void FormularlisteTest::thePreviewOfATestFormKeepsTheNumbersOfTheFileBefore() {
@@ -175,7 +175,7 @@ void FormularlisteTest::thePreviewOfATestFormKeepsTheNumbersOfTheFileBefore() {
         Listenlauf::Anklicken(QStringLiteral("Q.FKR"));
         QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
         Listenlauf::Anklicken(QStringLiteral("T.FKR"));
-        QTRY_COMPARE(DateiName, AppPfad + "\\KRANZ\\T.FKR");
+        QTRY_COMPARE(Stand.DateiName, Stand.AppPfad + "\\KRANZ\\T.FKR");
         QTRY_VERIFY(Listenlauf::Status().contains(QStringLiteral("T.FKR")));
         QCOMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     }
@@ -205,12 +205,12 @@ void FormularlisteTest::aDoubleClickOpensTheForm() {
     QTRY_VERIFY(FKFragenOffen() != nullptr);
     QTRY_COMPARE(Quizfrage(), QStringLiteral("Eine andere ?"));
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral("herbst.fkr "));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QTRY_VERIFY(MDIFenster()->isActiveWindow());
     QVERIFY(Listenlauf::Fenster()->isVisible());             // the list stays
     Listenlauf::Doppelklicken(QStringLiteral("Herbst.FKR")); // an unchanged form gives way without a word
     QTRY_COMPARE(Quizfrage(), QStringLiteral("Welche Frucht ?"));
-    QCOMPARE(FKDateiName, AppPfad + "\\KRANZ\\Herbst.FKR");
+    QCOMPARE(Stand.FKDateiName, Stand.AppPfad + "\\KRANZ\\Herbst.FKR");
 }
 
 void FormularlisteTest::aDoubleClickOnABackupLoadsItAsAForm() {
@@ -231,8 +231,8 @@ void FormularlisteTest::aTestFormIsOpenedFromItsOwnFolder() {
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Knoten.FKR")});
     Listenlauf::Doppelklicken(QStringLiteral("Knoten.FKR"));
     QTRY_VERIFY(HBFragenOffen() != nullptr);
-    QCOMPARE(HBFrageText[1], std::string("Welcher Knoten ?"));
-    QCOMPARE(HBDateiName, AppPfad + "\\TEST\\Knoten.FKR");
+    QCOMPARE(HBForm.HBFrageText[1], std::string("Welcher Knoten ?"));
+    QCOMPARE(Stand.HBDateiName, Stand.AppPfad + "\\TEST\\Knoten.FKR");
     QVERIFY(InGebrauch("cmdNeuHB"));
     QVERIFY(!InGebrauch("cmdNeuFK"));
 }
@@ -332,8 +332,8 @@ void FormularlisteTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(HBFragenOffen(), form);
     QCOMPARE(HB_Frage(1), std::string("mein Test"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(FormTyp, std::string("Test"));
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(lauf.Lesen(QStringLiteral("TEST/UNGESICHERT.BAK")).isNull());
 }
 
@@ -341,7 +341,7 @@ void FormularlisteTest::theModeOfTheListBindsTheListAndNotTheFileDialog() {
     const Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/T.FKR"), Testdatei("t"));
     Listenlauf::Druecken("cmdNeuFK");
-    QTRY_COMPARE(FormTyp, std::string("FK"));
+    QTRY_COMPARE(Stand.FormTyp, std::string("FK"));
     Dialogfolge dialoge;
     dialoge.meldung(quizOffen, QStringLiteral("Den Gefallen kann ich dir tun !"));
     Listenlauf::Doppelklicken(QStringLiteral("T.FKR"));

@@ -2,7 +2,7 @@
 // meant to be.
 #include "listenhilfe.h"
 
-#include "quizform/spezialfelder.h"
+#include "rules/spezialfelder.h"
 
 #include <algorithm>
 
@@ -99,7 +99,7 @@ void VorlagenTest::theQuizFormsOpenComplete() {
         QCOMPARE(FK_Antwort(n).empty(), FK_Frage(n).empty());
         QCOMPARE(FK_FrageSichtbar(n), !FK_Frage(n).empty());
     }
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     BildVon(MDIFenster(), QStringLiteral("vorlage-") + name);
     qInfo().noquote() << name << "questions" << Gefuellt() << "special fields" << Buchstaben();
 }
@@ -135,10 +135,10 @@ void VorlagenTest::theTestFormsOpenComplete() {
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         QVERIFY(!HB_Frage(n).empty());
         QVERIFY(!HB_Antwort(n).empty());
-        summe += HBPunkte.at(static_cast<std::size_t>(n));
+        summe += HBForm.HBPunkte.at(static_cast<std::size_t>(n));
     }
     QCOMPARE(summe, punkte);
-    QCOMPARE(int{HBGesamtpunkte}, punkte);
+    QCOMPARE(int{HBForm.HBGesamtpunkte}, punkte);
     BildVon(MDIFenster(), QStringLiteral("vorlage-") + name);
     qInfo().noquote() << name << "points" << summe;
 }

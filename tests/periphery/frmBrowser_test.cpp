@@ -25,7 +25,7 @@ void FrmBrowserTest::aMissingRuleDocumentGivesTheMessageWithTheFullPathAndNoWind
     QFile::remove(programm.ordner().nativ(regel));
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("Die Datei\n%1/REGEL/Feldkranz.pdf\nscheint nicht vorhanden zu sein.")
-                        .arg(Anzeige(AppPfad)),
+                        .arg(Anzeige(Stand.AppPfad)),
                     QStringLiteral("Dann brich ab !"));
     Zeigen(programm);
     QVERIFY(dialoge.fertig());
@@ -54,9 +54,9 @@ void FrmBrowserTest::theTitleTakesTheDocumentsLocation() {
     programm.ordner().schreiben(regel, Dokument(1));
     QCOMPARE(frmBrowser().windowTitle(), QStringLiteral(" Spielregel"));
     Zeigen(programm);
-    QCOMPARE(BrowserOffen()->windowTitle(), Anzeige(AppPfad + "\\REGEL\\Feldkranz.pdf"));
+    QCOMPARE(BrowserOffen()->windowTitle(), Anzeige(Stand.AppPfad + "\\REGEL\\Feldkranz.pdf"));
     QCOMPARE(Anzeige(SpielregelAdresse()),
-             QStringLiteral("file://") + Anzeige(AppPfad) + QStringLiteral("/REGEL/Feldkranz.pdf"));
+             QStringLiteral("file://") + Anzeige(Stand.AppPfad) + QStringLiteral("/REGEL/Feldkranz.pdf"));
 }
 
 void FrmBrowserTest::theWindowIsLowerThanTheScreenAndInTheProportionOfAPage() {

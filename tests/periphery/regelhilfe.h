@@ -1,10 +1,10 @@
 // What the tests of the rule document share: documents to read, and ways to the window and its parts.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/dokumentansicht.h"
 #include "periphery/frmBrowser.h"
 #include "periphery/spielregel.h"

@@ -1,11 +1,11 @@
 // Opens every window and finds no control that has nothing to tell.
 #include "catalogue/auswahl.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "quizform/frmFKFragen.h"
 #include "testform/frmHBFragen.h"
 #include "tests/filetools/dateifenster.h"

@@ -1,13 +1,13 @@
 // Broken form files in the running program: each is answered as it deserves, no file changes, and the program
 // makes the next new form.
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "formlauf.h"
-#include "persistence/oeffnen.h"
+#include "forms/oeffnen.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
+#include "quizform/quizformular.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
 
@@ -117,8 +117,8 @@ private:
 void FormularzooFensterTest::NeuesFormularGeht() const {
     const frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Danach"));
     QCOMPARE(form->txtFrage.at(1)->text(), std::string("Danach"));
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FKDateiName, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QCOMPARE(Stand.FKDateiName, std::string());
     QCOMPARE(DateiNr, 0);
 }
 
@@ -182,7 +182,7 @@ void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade() {
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("KAPUTT.FKR")) == bytes);
     QCoreApplication::processEvents(); // what a text box mends comes behind
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     NeuesFormularGeht();
 }
 
@@ -219,12 +219,12 @@ void FormularzooFensterTest::aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade() 
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("KAPUTT.FKR")) == bytes);
     QCoreApplication::processEvents();
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     HB_Entladen();
     ModusHaupt();
     QVERIFY(lauf.programm().NeuesTestformular() != nullptr);
     QCOMPARE(HB_Frage(1), std::string());
-    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QCOMPARE(DateiNr, 0);
 }
 
@@ -244,7 +244,7 @@ void FormularzooFensterTest::whatIsNoRegularFileIsABadName() {
     QFile::link(QStringLiteral("/dev/zero"), ordner.filePath(QStringLiteral("NULL.FKR")));
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::NameFalsch});
-    DateiName = AppPfad + "\\KRANZ\\" + name.toStdString();
+    Stand.DateiName = Stand.AppPfad + "\\KRANZ\\" + name.toStdString();
     FormularLaden();
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
@@ -269,7 +269,7 @@ void FormularzooFensterTest::aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWant
         StelleErwarten(dialoge, 57, 0);
         dialoge.erwarte({QStringLiteral("QMessageBox"), fehlerTitel, laufwerk, {taste}, vorher});
     };
-    DateiName = AppPfad + "\\KRANZ\\PLATTE.FKR";
+    Stand.DateiName = Stand.AppPfad + "\\KRANZ\\PLATTE.FKR";
     versuch(ok, {});
     versuch(ok, {});
     versuch(QStringLiteral("Abbrechen"), {});
@@ -294,14 +294,14 @@ void FormularzooFensterTest::aRefusedFileLeavesTheOpenFormAlone() {
     const QByteArray gross = Kopf(QByteArray(9'000'000, '\n'));
     lauf.Schreiben(QStringLiteral("GROSS.FKR"), gross);
     lauf.Oeffnen(QStringLiteral("GUT.FKR"));
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::ZuGross});
-    DateiName = lauf.Pfad("GROSS.FKR");
+    Stand.DateiName = lauf.Pfad("GROSS.FKR");
     FormularLaden();
     QVERIFY(dialoge.fertig());
     QCOMPARE(FKFragenOffen()->txtFrage.at(1)->text(), std::string("Gut 1"));
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
     GespeichertErwarten(dialoge, QStringLiteral("GUT.FKR"));
     lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
     QVERIFY(dialoge.fertig());
@@ -333,7 +333,7 @@ void FormularzooFensterTest::aTextThatTheReaderWouldRefuseIsCutWhenItIsPasted() 
                         QStringLiteral("cmdLaden"));
     lauf.Druecken(QStringLiteral("cmdDateiFK(2)"));
     QVERIFY(dialoge.fertig());
-    QVERIFY(FrageText[1] == text);
+    QVERIFY(FKForm.FrageText[1] == text);
 }
 
 QTEST_MAIN(FormularzooFensterTest)
