@@ -3,8 +3,8 @@
 #include "abbildinhalt.h"
 #include "abbildzeile.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
-#include "periphery/tooltip.h"
+#include "core/programmstand.h"
+#include "tooltips/tooltip.h"
 
 #include <QAction>
 #include <QCursor>
@@ -171,7 +171,7 @@ void Menue(const QList<QAction*>& eintraege, int tiefe, QStringList& zeilen) {
 
 // The tests' folders have another name each time, and the program turns some paths into capitals.
 QString OhneOrte(QString text) {
-    const QString pfad = Anzeige(AppPfad);
+    const QString pfad = Anzeige(Stand.AppPfad);
     QString nativ = pfad;
     nativ.replace(u'\\', u'/');
     for (const QString& ort : {pfad, nativ}) {

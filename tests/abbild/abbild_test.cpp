@@ -2,8 +2,8 @@
 // dialogs are dialogabbild_test.cpp.
 #include "abbildschritte.h"
 #include "abbildvergleich.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
+#include "mainwindow/frmStart.h"
 #include "tests/hilfe/finden.h"
 #include "tests/periphery/zusatzordner.h"
 

@@ -1,7 +1,7 @@
 #include "abbildlauf.h"
 
 #include "abbildschritte.h"
-#include "core/frmMDI.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/frmFKFragen.h"
 #include "testform/frmHBFragen.h"
 #include "tests/hilfe/finden.h"

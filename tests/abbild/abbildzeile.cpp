@@ -1,7 +1,7 @@
 #include "abbildzeile.h"
 
 #include "abbildinhalt.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QCursor>
 #include <QFrame>

@@ -2,7 +2,7 @@
 // the settings.
 #include "abbildschritte.h"
 #include "abbildvergleich.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "tests/hilfe/finden.h"
 
 #include <QAbstractButton>
@@ -158,7 +158,7 @@ void DateiabbildTest::theSettings() {
         Abbildlauf::Druecken(&dialog, QStringLiteral("cmdIniSpeichern"));
     });
     QByteArray bytes = lauf.programm().ordner().lesen(QStringLiteral("CONFIG/Feldkranz.INI"));
-    const QByteArray ordner = QByteArray::fromStdString(AppPfad);
+    const QByteArray ordner = QByteArray::fromStdString(Stand.AppPfad);
     bytes.replace(ordner, "<AppPfad>").replace(ordner.toUpper(), "<AppPfad>");
     BytesVergleichen(bytes, QStringLiteral("Feldkranz.INI"));
 }

@@ -81,8 +81,8 @@ void DialogabbildTest::theMessages() {
     dialoge.erwarte(Gezeigt("frmMeldung", "cmdKenntnis", QStringLiteral("frmMeldung_hilfe")));
     lauf.Druecken(QStringLiteral("cmdHilfe"));
     dialoge.erwarte(Gezeigt("frmMeldung", "cmdKenntnis", QStringLiteral("frmMeldung_lang")));
-    Meldung(0, 5, "Ein Text,\r\nder so lang ist, daß er nicht mehr in das Feld paßt.\r\n3\r\n4\r\n5\r\n6",
-            "12", "Eine recht lange Aufschrift & noch ein Wort mehr, damit sie klein wird");
+    Meldung({5, "Ein Text,\r\nder so lang ist, daß er nicht mehr in das Feld paßt.\r\n3\r\n4\r\n5\r\n6", "12",
+             "Eine recht lange Aufschrift & noch ein Wort mehr, damit sie klein wird"});
     QVERIFY(dialoge.fertig());
 }
 
@@ -92,10 +92,10 @@ void DialogabbildTest::theQuestions() {
     Dialogfolge dialoge;
     const auto fragen = [&dialoge](int tasten, const char* taste) {
         dialoge.erwarte(Gezeigt("frmNachricht", taste, QStringLiteral("frmNachricht_%1").arg(tasten)));
-        Nachricht(tasten + 1, "Titel", "Die Frage,\r\nin zwei Zeilen ?", tasten, 1111);
+        Nachricht({tasten + 1, "Titel", "Die Frage,\r\nin zwei Zeilen ?", tasten, 1111});
     };
     dialoge.erwarte(Irgendeiner("frmNachricht", "cmdAntwort(0)"));
-    Nachricht(1, "Titel", "Frage", 2, 1111);
+    Nachricht({1, "Titel", "Frage", 2, 1111});
     fragen(3, "cmdAntwort(4)");
     fragen(2, "cmdAntwort(1)");
     fragen(0, "cmdAntwort(4)");
@@ -110,7 +110,7 @@ void DialogabbildTest::theInputLine() {
     const Abbildlauf lauf;
     Dialogfolge dialoge;
     dialoge.erwarte(Gezeigt("frmInput", "cmdOK", QStringLiteral("frmInput")));
-    Eingabe(1, "Titel", "Wie soll es heißen ?", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Wie soll es heißen ?", "Vorgabe");
     QVERIFY(dialoge.fertig());
 }
 

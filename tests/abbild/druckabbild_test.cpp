@@ -2,13 +2,13 @@
 // are read back from what the print commands leave.
 #include "abbildschritte.h"
 #include "abbildvergleich.h"
+#include "printing/druckdaten.h"
 #include "printing/druckseite.h"
 #include "printing/seitenlayout.h"
 #include "printing/testseite.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "quizform/quizformular.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/finden.h"
 #include "zeichnungstext.h"
 
@@ -17,39 +17,22 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include <tuple>
-
 using abbild::BytesVergleichen;
 
 namespace {
 
-// What the print command takes from the open quiz form and the settings.
+// What the print command takes from the open quiz form and the settings, without shading and frames.
 FKDruckdaten Quizdaten() {
-    FK_Merken();
-    FK_KopfMerken();
-    FKDruckdaten daten;
-    daten.datum = FormDatum;
-    daten.zeit = FormZeit;
-    daten.nummer = FormNr;
-    for (int a = 1; a <= anzahlGebiete; ++a) {
-        daten.gebiete.at(static_cast<std::size_t>(a)) = {WissenTitel.at(static_cast<std::size_t>(a)),
-                                                         FK_GebietBenutzbar(a)};
-    }
-    for (int n = 1; n <= anzahlFelder; ++n) {
-        const auto i = static_cast<std::size_t>(n);
-        daten.felder.at(i) = {FrageText.at(i), AntwortText.at(i), FeldSpezial.at(i), FK_FrageSichtbar(n),
-                              FK_AntwortSichtbar(n)};
-    }
-    std::tie(daten.punkteA, daten.punkteE, daten.punkteG, daten.punkteJ, daten.punkteR) =
-        std::tie(PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR);
-    return daten;
+    Spielwerte schlicht = Spiel;
+    schlicht.OptionTitel = schlicht.OptionWissen = schlicht.OptionJoker = schlicht.OptionRahmen = false;
+    return DruckdatenAus(FK_Ablesen(), schlicht, false);
 }
 
 QByteArray Quizseite(const FKDruckdaten& daten, Papier papier) {
     const Druckseite seite(papier == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait, "",
                            "Abbild");
     const Druckgeometrie geometrie =
-        GeometrieRechnen(papier, Zwischenabstand, seite.masse().links, seite.masse().oben);
+        GeometrieRechnen(papier, Spiel.Zwischenabstand, seite.masse().links, seite.masse().oben);
     return abbild::Zeichnungstext(FormularZeichnen(daten, geometrie, seite.schriftmass()));
 }
 
@@ -69,7 +52,7 @@ Testdruckdaten Testdaten(const QWidget* form) {
     daten.gruppe = Finden<QLabel>(form, QStringLiteral("lblGruppe"))->text().toStdString();
     daten.name = aufschrift(QStringLiteral("pnlName"));
     daten.dateiname = "Erste-Hilfe.FKR";
-    daten.gesamtpunkte = HBGesamtpunkte;
+    daten.gesamtpunkte = HBForm.HBGesamtpunkte;
     for (int i = 1; i <= anzahlTestfragen; ++i) {
         daten.zeilen.at(static_cast<std::size_t>(i)) = {text("txtFrage", i), text("txtAntwort", i),
                                                         aufschrift(QStringLiteral("pnlPunkte(%1)").arg(i))};

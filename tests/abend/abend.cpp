@@ -102,9 +102,7 @@ void Abend::initTestCase() {
     for (const QString& rest : reste) {
         QVERIFY(QFile::remove(zielordner + QLatin1Char('/') + rest));
     }
-    const std::string pfad = Stand.AppPfad;
     ZustandZuruecksetzen();
-    Stand.AppPfad = pfad;
     OberflaecheEinrichten();
     QApplication::setQuitOnLastWindowClosed(false);
 }

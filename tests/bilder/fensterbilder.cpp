@@ -7,6 +7,8 @@
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
+#include "forms/quizformulare.h"
+#include "forms/testformulare.h"
 #include "mainwindow/frmMDI.h"
 #include "mainwindow/frmStart.h"
 #include "mainwindow/texte.h"
@@ -149,7 +151,7 @@ void Fensterbilder::quizformular() {
     programm.NeuesQuizformular();
     ThemenLaden();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
+    FK_GelesenesZeigen(" Feldkranz-Formular");
     FormStatusSetzen(false);
     Bild(programm.haupt(), QStringLiteral("feldkranz"));
     Kindbild(FKFragenOffen(), QStringLiteral("frmFKFragen"));
@@ -160,7 +162,7 @@ void Fensterbilder::testformular() {
     programm.NeuesTestformular();
     TestFuellen();
     HBForm.HBGesamtpunkte = 20;
-    HB_FormularZeigen(" Test-Formular");
+    HB_GelesenesZeigen(" Test-Formular");
     Bild(programm.haupt(), QStringLiteral("testformular"));
     Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));
 }
@@ -229,14 +231,17 @@ void Fensterbilder::meldungen() {
     mitBild("frmNachricht", "cmdAntwort(2)", QStringLiteral("frmNachricht"));
     Nachricht(kerntexte::schliessenGeaendert);
     mitBild("frmInput", "cmdAbbruch", QStringLiteral("frmInput"));
-    Eingabe(dateitexte::kopierBild, dateitexte::kopierTitel, dateitexte::kopierFrage, "LAGER", 1111);
+    Eingabe(dateitexte::kopierBild, dateitexte::kopierTitel, dateitexte::kopierFrage, "LAGER");
     for (int i = 0; i <= 11; ++i) {
         mitBild("frmMeldung", "cmdKenntnis", QStringLiteral("alle/frmMeldung-%1").arg(i));
-        Meldung(0, i, "Bild Nummer " + std::to_string(i), std::to_string(i), "Schön");
+        const std::string nummer = std::to_string(i);
+        const std::string text = "Bild Nummer " + nummer;
+        Meldung(MeldungsText{i, text, nummer, "Schön"});
     }
     for (int i = 1; i <= 12; ++i) {
         mitBild("frmNachricht", "cmdAntwort(2)", QStringLiteral("alle/frmNachricht-%1").arg(i));
-        Nachricht(i, "Bild", "Bild Nummer " + std::to_string(i), i % 3 + 2, 1111);
+        const std::string text = "Bild Nummer " + std::to_string(i);
+        Nachricht(NachrichtText{i, "Bild", text, i % 3 + 2, 1111});
     }
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aHugeFileIsReportedAndNotSearched();
     void aFileThatVanishesBetweenMarkingAndOpeningChangesNothing();
     void anUnreadableFileInThePreviewIsReportedAndChangesNoNumber();
+    void aFileCutShortInThePreviewIsReportedAndChangesNoNumber();
     void aLongListIsReadAndWalkedThroughWithoutAWait();
     void theListIsClearOfToolbarsAndPanels_data();
     void theListIsClearOfToolbarsAndPanels();
@@ -171,6 +172,7 @@ void FormularlisteDateienTest::anUnreadableFileInThePreviewIsReportedAndChangesN
     Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a", 12, 4, 3));
     lauf.Anlegen(QStringLiteral("KRANZ/B.FKR"), Quizdatei("b"));
+    const Spielwerte vorher = Spiel;
     Listenlauf::Anklicken(QStringLiteral("A.FKR"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     // A link that leads nowhere can be opened by nobody, the super-user included.
@@ -184,8 +186,27 @@ void FormularlisteDateienTest::anUnreadableFileInThePreviewIsReportedAndChangesN
     QTest::mouseClick(Listenlauf::Liste()->viewport(), Qt::LeftButton, {},
                       ort); // before the list hears of it
     QTRY_VERIFY(dialoge.fertig());
-    QCOMPARE(Spiel.FelderGesamt, std::int16_t(12));
-    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(3));
+    QCOMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
+    QVERIFY(Spiel == vorher);
+}
+
+void FormularlisteDateienTest::aFileCutShortInThePreviewIsReportedAndChangesNoNumber() {
+    const Listenlauf lauf;
+    lauf.Anlegen(QStringLiteral("KRANZ/KURZ.FKR"), "\"Feldkranz\"\r\n\"FK\"\r\n[FKINI]\r\nFK\r\n30\r\n5\r\n");
+    Spiel.FelderGesamt = 12;
+    Spiel.AnzahlWissen = 3;
+    Spiel.FragenProWissen = 4;
+    const Spielwerte vorher = Spiel;
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("DATEI : Oeffnen_Vorschau :\nIch müsste noch Daten einlesen, aber die Datei ist "
+                       "zu Ende !?"),
+        QStringLiteral("Grrr.. *~§§°"));
+    Listenlauf::Anklicken(QStringLiteral("KURZ.FKR"));
+    QTRY_VERIFY(dialoge.fertig());
+    QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
+    QVERIFY(Spiel == vorher);
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
 }
 
 void FormularlisteDateienTest::aLongListIsReadAndWalkedThroughWithoutAWait() {

@@ -2,6 +2,7 @@
 // meant to be.
 #include "listenhilfe.h"
 
+#include "quizform/feldregeln.h"
 #include "rules/spezialfelder.h"
 
 #include <algorithm>
@@ -95,9 +96,12 @@ void VorlagenTest::theQuizFormsOpenComplete() {
     QCOMPARE(Gefuellt(), gebiete * jeGebiet);
     QCOMPARE(Buchstaben(), buchstaben);
     QCOMPARE(Titel(), titel);
+    const Feldsichten sichten = BrettSichten(Spiel);
     for (int n = 1; n <= anzahlFelder; ++n) {
+        const auto i = static_cast<std::size_t>(n);
         QCOMPARE(FK_Antwort(n).empty(), FK_Frage(n).empty());
-        QCOMPARE(FK_FrageSichtbar(n), !FK_Frage(n).empty());
+        QCOMPARE(sichten.at(i).frage, !FK_Frage(n).empty());
+        QCOMPARE(!FKFragenOffen()->txtFrage.at(i)->isHidden(), sichten.at(i).frage);
     }
     QVERIFY(!Stand.FormGeaendert);
     BildVon(MDIFenster(), QStringLiteral("vorlage-") + name);

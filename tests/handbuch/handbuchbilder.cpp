@@ -2,6 +2,8 @@
 // test: it proves nothing, it shows. BILDER_ORDNER names the folder where pictures and PDF files go.
 #include "catalogue/katalogladen.h"
 #include "mainwindow/frmMDI.h"
+#include "forms/quizformulare.h"
+#include "forms/testformulare.h"
 #include "periphery/zusatz.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
@@ -158,7 +160,7 @@ void Handbuchbilder::feldkranz() {
     Programm programm;
     programm.NeuesQuizformular();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
+    FK_GelesenesZeigen(" Feldkranz-Formular");
     Dialogfolge dialoge;
     dialoge.frage(
         QStringLiteral("Formular drucken"),
@@ -171,7 +173,7 @@ void Handbuchbilder::test() {
     Programm programm;
     programm.NeuesTestformular();
     TestFuellen();
-    HB_FormularZeigen(" Test-Formular");
+    HB_GelesenesZeigen(" Test-Formular");
     Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));
     Dialogfolge dialoge;
     const QString titel = QStringLiteral("Testformular ausdrucken");
@@ -208,9 +210,9 @@ void Handbuchbilder::formularliste() {
     Programm programm;
     programm.NeuesQuizformular();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
+    FK_GelesenesZeigen(" Feldkranz-Formular");
     Spiel.FelderGesamt = 30;
-    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("FKFragen"));
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes(FKForm, Spiel));
     for (const char* name : {"Nachtwanderung", "Sommerfest"}) {
         programm.ordner().schreiben(QStringLiteral("KRANZ/%1.FKR").arg(QLatin1String(name)), bytes);
     }

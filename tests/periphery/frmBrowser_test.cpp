@@ -139,7 +139,7 @@ void FrmBrowserTest::aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord() {
     QVERIFY(BrowserOffen()->isVisible());
     QCOMPARE(Ansicht()->Seiten(), 0);
     QCOMPARE(BrowserOffen()->windowTitle(), QStringLiteral(" Spielregel"));
-    QCOMPARE(Stand(),
+    QCOMPARE(Regelstand(),
              QStringLiteral(" Diese Datei kann ich nicht lesen: sie ist beschädigt oder verschlüsselt."));
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("cmdSeiteWeiter"))->isEnabled());
     QWidget* seiten = Ansicht()->Steuerelement();
@@ -161,7 +161,7 @@ void FrmBrowserTest::withoutThePlugInTheWindowSaysSo() {
     const Dialogfolge dialoge;
     Zeigen(programm);
     QVERIFY(BrowserOffen()->isVisible());
-    QCOMPARE(Stand(), QStringLiteral(" Ich kann hier leider keine PDF-Datei zeigen."));
+    QCOMPARE(Regelstand(), QStringLiteral(" Ich kann hier leider keine PDF-Datei zeigen."));
     QTest::keyClick(BrowserOffen(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClick(BrowserOffen(), Qt::Key_PageDown, Qt::ControlModifier);
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("txtSuche"))->isEnabled());

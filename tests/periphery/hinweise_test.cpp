@@ -413,7 +413,7 @@ void HinweiseTest::theInputDialogWarnsAtItsCancelButton() {
                           QStringLiteral("Wenn erforderlich, wird hier ein Hilfesystem implementiert."));
              QVERIFY(stil() == tipp::stilHilfe);
          }});
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
 }
 

@@ -82,7 +82,7 @@ inline Dokumentansicht* Ansicht() {
     return dynamic_cast<Dokumentansicht*>(Finden(BrowserOffen(), QStringLiteral("seitenansicht")));
 }
 
-inline QString Stand() {
+inline QString Regelstand() {
     return Finden<QLabel>(BrowserOffen(), QStringLiteral("lblStand"))->text();
 }
 

@@ -317,7 +317,7 @@ void TooltipTest::afterADialogTheCurrentObjectIsTheDialogs() {
                          QCOMPARE(ToolTip.data(), &Tippobjekt(dialog));
                          QCOMPARE(ToolTip->breite(), 300);
                      }});
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
     QCOMPARE(ToolTip->parent()->objectName(), QStringLiteral("frmInput"));
     ToolTipHilfe();

@@ -13,7 +13,7 @@ const QString ini = QStringLiteral("CONFIG/Feldkranz.INI");
 
 TEST(Einstellungen, TheFactoryFileReadsAndWritesBackByteForByte) {
     const Programmordner ordner;
-    AllesLeeren();
+    Spiel = {};
     const QByteArray vorher = ordner.lesen(ini);
     EXPECT_EQ(Zeilenzahl(vorher.toStdString()), 88);
     EinstellungenLesen();
@@ -31,7 +31,7 @@ TEST(Einstellungen, TheFactoryFileReadsAndWritesBackByteForByte) {
 
 TEST(Einstellungen, WithoutAFileEverySettingIsZeroOrEmpty) {
     const Programmordner ordner;
-    AllesLeeren();
+    Spiel = {};
     ordner.schreiben(ini, "");
     EinstellungenLesen();
     Stand.AppPfad += "\\NICHTDA";
@@ -44,7 +44,7 @@ TEST(Einstellungen, WithoutAFileEverySettingIsZeroOrEmpty) {
 
 TEST(Einstellungen, AFileCutShortLeavesWhatWasRead) {
     const Programmordner ordner;
-    AllesLeeren();
+    Spiel = {};
     ordner.schreiben(ini, ordner.lesen(ini).left(40));
     EXPECT_THROW(EinstellungenLesen(), Laufzeitfehler);
     EXPECT_EQ(Spiel.Punkte[Spezialart::Aktion], 5);

@@ -119,7 +119,6 @@ void FormularzooFensterTest::NeuesFormularGeht() const {
     QCOMPARE(form->txtFrage.at(1)->text(), std::string("Danach"));
     QCOMPARE(Stand.FormTyp, Formart::Quiz);
     QCOMPARE(Stand.FKDateiName, std::string());
-    QCOMPARE(DateiNr, 0);
 }
 
 void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade_data() {
@@ -225,7 +224,6 @@ void FormularzooFensterTest::aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade() 
     QVERIFY(lauf.programm().NeuesTestformular() != nullptr);
     QCOMPARE(HB_Frage(1), std::string());
     QCOMPARE(Stand.FormTyp, Formart::Test);
-    QCOMPARE(DateiNr, 0);
 }
 
 void FormularzooFensterTest::whatIsNoRegularFileIsABadName_data() {
@@ -244,8 +242,7 @@ void FormularzooFensterTest::whatIsNoRegularFileIsABadName() {
     QFile::link(QStringLiteral("/dev/zero"), ordner.filePath(QStringLiteral("NULL.FKR")));
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::NameFalsch});
-    Stand.DateiName = Stand.AppPfad + "\\KRANZ\\" + name.toStdString();
-    FormularLaden();
+    FormularLaden(Stand.AppPfad + "\\KRANZ\\" + name.toStdString());
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
     NeuesFormularGeht();
@@ -269,11 +266,11 @@ void FormularzooFensterTest::aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWant
         StelleErwarten(dialoge, 57, 0);
         dialoge.erwarte({QStringLiteral("QMessageBox"), fehlerTitel, laufwerk, {taste}, vorher});
     };
-    Stand.DateiName = Stand.AppPfad + "\\KRANZ\\PLATTE.FKR";
+    const std::string pfad = Stand.AppPfad + "\\KRANZ\\PLATTE.FKR";
     versuch(ok, {});
     versuch(ok, {});
     versuch(QStringLiteral("Abbrechen"), {});
-    FormularLaden();
+    FormularLaden(pfad);
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
 
@@ -283,7 +280,7 @@ void FormularzooFensterTest::aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWant
         QFile::remove(weg);
         lauf.Schreiben(QStringLiteral("PLATTE.FKR"), wieder);
     });
-    FormularLaden();
+    FormularLaden(pfad);
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() != nullptr);
     QCOMPARE(FKFragenOffen()->txtFrage.at(1)->text(), std::string("Wieder 1"));
@@ -297,8 +294,7 @@ void FormularzooFensterTest::aRefusedFileLeavesTheOpenFormAlone() {
     FormStatusSetzen(true);
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::ZuGross});
-    Stand.DateiName = lauf.Pfad("GROSS.FKR");
-    FormularLaden();
+    FormularLaden(lauf.Pfad("GROSS.FKR"));
     QVERIFY(dialoge.fertig());
     QCOMPARE(FKFragenOffen()->txtFrage.at(1)->text(), std::string("Gut 1"));
     QVERIFY(Stand.FormGeaendert);
