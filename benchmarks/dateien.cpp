@@ -3,10 +3,7 @@
 #include "catalogue/katalogdatei.h"
 #include "core/datei.h"
 #include "core/pfad.h"
-#include "core/programmstand.h"
 #include "persistence/formulardatei.h"
-#include "quizform/quizformular.h"
-#include "testform/testformular.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,6 +11,7 @@
 
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <fcntl.h>
@@ -39,42 +37,51 @@ std::string Eigen(const std::string& name) {
 }
 
 // A board with every cell full. The texts are `mal` times as long as a usual one.
-std::string VollesFormular(int mal) {
+Formularwerte VollesFormular(int mal) {
     std::string frage;
     std::string antwort;
     for (int i = 0; i < mal; ++i) {
         frage += "Wie heißt der größte Fluß, der über die Grenzen von fünf Ländern fließt ? ";
         antwort += "Donau (Österreich, Ungarn ...) ";
     }
-    Stand.FormTyp = Formart::Quiz;
-    FKForm.WissenTitel.fill("Länder und Flüsse");
-    FKForm.FrageText.fill(frage);
-    FKForm.AntwortText.fill(antwort);
-    FKForm.FeldSpezial.fill("J");
-    FKForm.FormNr = "17";
-    return FormularBytes("FKFragen");
+    Formularwerte werte;
+    werte.art = Formart::Quiz;
+    werte.quiz.WissenTitel.fill("Länder und Flüsse");
+    werte.quiz.FrageText.fill(frage);
+    werte.quiz.AntwortText.fill(antwort);
+    werte.quiz.FeldSpezial.fill("J");
+    werte.quiz.FormNr = "17";
+    return werte;
 }
 
 // A test with its ten rows full.
-std::string VollerTest() {
-    Stand.FormTyp = Formart::Test;
-    HBForm.HBFach = HBForm.HBKopf2 = " Knoten und Bünde";
-    HBForm.HBKopf1 = " Lernzielkontrolle Häuptlingsfreizeit";
-    HBForm.HBKopf3 = " III";
-    HBForm.HBFrageText.fill("Wie heißt der größte Knoten, mit dem man zwei gleich dicke Taue verbindet ? ");
-    HBForm.HBAntwortText.fill("Kreuzknoten (Weberknoten, wenn die Taue ungleich sind)");
-    HBForm.HBPunkte.fill(10);
-    HBForm.HBGesamtpunkte = 100;
-    return FormularBytes("HBFragen");
+Formularwerte VollerTest() {
+    Formularwerte werte;
+    werte.art = Formart::Test;
+    werte.test.HBFach = werte.test.HBKopf2 = " Knoten und Bünde";
+    werte.test.HBKopf1 = " Lernzielkontrolle Häuptlingsfreizeit";
+    werte.test.HBKopf3 = " III";
+    werte.test.HBFrageText.fill(
+        "Wie heißt der größte Knoten, mit dem man zwei gleich dicke Taue verbindet ? ");
+    werte.test.HBAntwortText.fill("Kreuzknoten (Weberknoten, wenn die Taue ungleich sind)");
+    werte.test.HBPunkte.fill(10);
+    werte.test.HBGesamtpunkte = 100;
+    return werte;
 }
 
-// A kind of form: how its bytes are asked for, and a full one of it in the model and as bytes.
-struct Formart {
-    const char* tag;
-    std::string (*fuellen)();
-};
-constexpr Formart quiz{"FKFragen", [] { return VollesFormular(1); }};
-constexpr Formart test{"HBFragen", VollerTest};
+// A full form of a kind, and its bytes.
+using Fueller = Formularwerte (*)();
+constexpr Fueller quiz = [] { return VollesFormular(1); };
+constexpr Fueller test = VollerTest;
+
+std::string Bytes(const Formularwerte& werte) {
+    return FormularBytes(werte.art, werte);
+}
+
+// Reads over the values, as over those of a form of the same kind that is open.
+bool Gelesen(std::string_view bytes, Formularwerte& werte) {
+    return FormularAusBytes(bytes, werte.art, werte, {}).ende == Leseende::Ganz;
+}
 
 std::string Fragendatei(std::int64_t anzahl) {
     std::string bytes = "Fragen\r\n";
@@ -87,20 +94,20 @@ std::string Fragendatei(std::int64_t anzahl) {
 
 // --- Form files
 
-void FormularLesenUndSpeichern(benchmark::State& lauf, const Formart& art) {
-    DateiSchreiben(Eigen("form.FKR"), art.fuellen());
+void FormularLesenUndSpeichern(benchmark::State& lauf, Fueller fuellen) {
+    Formularwerte werte = fuellen();
+    DateiSchreiben(Eigen("form.FKR"), Bytes(werte));
     for ([[maybe_unused]] auto _ : lauf) {
-        const FormularErgebnis ergebnis = FormularAusBytes(DateiLesen(Eigen("form.FKR")), {});
-        if (ergebnis.code != 0) {
+        if (!Gelesen(DateiLesen(Eigen("form.FKR")), werte)) {
             lauf.SkipWithError("no form file");
         }
-        DateiSchreiben(Eigen("form.FKR"), FormularBytes(art.tag));
+        DateiSchreiben(Eigen("form.FKR"), Bytes(werte));
     }
 }
 
 // Copies the bytes to a new file, forces file and folder to the disk and renames it, as a save must.
-void BytesKopieren(benchmark::State& lauf, const Formart& art) {
-    DateiSchreiben(Eigen("roh.FKR"), art.fuellen());
+void BytesKopieren(benchmark::State& lauf, Fueller fuellen) {
+    DateiSchreiben(Eigen("roh.FKR"), Bytes(fuellen()));
     const std::string ziel = Nativ("roh.FKR");
     const std::string neben = Nativ("roh.neu");
     const int ordner = ::open(Ordner().path().toStdString().c_str(), O_RDONLY);
@@ -122,10 +129,11 @@ void BytesKopieren(benchmark::State& lauf, const Formart& art) {
 }
 
 // One way each, from or to a file on the disk.
-void FormulareLesen(benchmark::State& lauf, const Formart& art) {
-    DateiSchreiben(Eigen("lesen.FKR"), art.fuellen());
+void FormulareLesen(benchmark::State& lauf, Fueller fuellen) {
+    Formularwerte werte = fuellen();
+    DateiSchreiben(Eigen("lesen.FKR"), Bytes(werte));
     for ([[maybe_unused]] auto _ : lauf) {
-        if (FormularAusBytes(DateiLesen(Eigen("lesen.FKR")), {}).code != 0) {
+        if (!Gelesen(DateiLesen(Eigen("lesen.FKR")), werte)) {
             lauf.SkipWithError("no form file");
         }
     }
@@ -134,12 +142,13 @@ void FormulareLesen(benchmark::State& lauf, const Formart& art) {
 // As a save writes them, but for the forcing to the disk, which is the disk's affair and not the program's:
 // the bytes go over those of the same length, since cutting a file first makes some file systems force it as
 // well.
-void FormulareSchreiben(benchmark::State& lauf, const Formart& art) {
-    DateiSchreiben(Eigen("schreiben.FKR"), art.fuellen());
+void FormulareSchreiben(benchmark::State& lauf, Fueller fuellen) {
+    const Formularwerte werte = fuellen();
+    DateiSchreiben(Eigen("schreiben.FKR"), Bytes(werte));
     const std::string ziel = Nativ("schreiben.FKR");
     for ([[maybe_unused]] auto _ : lauf) {
         std::ofstream datei(ziel, std::ios::binary | std::ios::in | std::ios::out);
-        datei << FormularBytes(art.tag) << std::flush;
+        datei << Bytes(werte) << std::flush;
         if (!datei) {
             lauf.SkipWithError("not written");
         }
@@ -148,10 +157,10 @@ void FormulareSchreiben(benchmark::State& lauf, const Formart& art) {
 
 // Without the disk: bytes into the model and back.
 void FormularImSpeicher(benchmark::State& lauf) {
-    const std::string bytes = VollesFormular(static_cast<int>(lauf.range(0)));
+    Formularwerte werte = VollesFormular(static_cast<int>(lauf.range(0)));
+    const std::string bytes = Bytes(werte);
     for ([[maybe_unused]] auto _ : lauf) {
-        const FormularErgebnis ergebnis = FormularAusBytes(bytes, {});
-        if (ergebnis.code != 0 || FormularBytes("FKFragen") != bytes) {
+        if (!Gelesen(bytes, werte) || Bytes(werte) != bytes) {
             lauf.SkipWithError("not the same form");
         }
     }

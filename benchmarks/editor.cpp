@@ -4,7 +4,6 @@
 #include "benchmarks/kennzahl.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
-#include "core/programmstand.h"
 #include "dialogs/modal.h"
 #include "editor/editordateien.h"
 #include "editor/frmEditor.h"
@@ -15,7 +14,9 @@
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 #include <cstdlib>
 #include <iostream>
@@ -107,9 +108,11 @@ private:
 // Chooses the file in the file dialog, and confirms every message.
 bool Antworten(QDialog& dialog) {
     if (dialog.objectName() == QStringLiteral("frmDatei")) {
-        Stand.DateiName = Stand.AppPfad + "\\WISSEN\\GROSS.TXT";
+        dialog.findChild<QLineEdit*>(QStringLiteral("txtDateiname"))->setText(QStringLiteral("GROSS.TXT"));
+        dialog.findChild<QPushButton*>(QStringLiteral("cmdLaden"))->click();
+    } else {
+        dialog.accept();
     }
-    dialog.accept();
     return true;
 }
 
@@ -127,7 +130,7 @@ double Oeffnen() {
 
 double Speichern() {
     return Dauer([] {
-        if (!KatalogSpeichern(*EditorFenster(), 0)) {
+        if (!KatalogSpeichern(*EditorFenster(), Namensfrage::NurOhneDatei)) {
             Abbrechen("The editor didn't save");
         }
     });

@@ -2,8 +2,8 @@
 // controls for each of 30 cells.
 #include "benchmarks/kennzahl.h"
 #include "core/oberflaeche.h"
-#include "core/programmstand.h"
 #include "dialogs/modal.h"
+#include "forms/quizformulare.h"
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "tests/hilfe/programmordner.h"

@@ -7,6 +7,7 @@
 #include "mainwindow/frmMDI.h"
 #include "persistence/formulardatei.h"
 #include "quizform/quizformular.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/programmordner.h"
 
 #include <QApplication>
@@ -32,10 +33,11 @@ QString Name(int nr) {
 
 // A full board, as a leader's forms are.
 QByteArray Formular() {
-    FKForm.WissenTitel.fill("Länder und Flüsse");
-    FKForm.FrageText.fill("Welcher Fluss fließt durch die Stadt, in der das große Lager war ?");
-    FKForm.AntwortText.fill("Die Weser");
-    return QByteArray::fromStdString(FormularBytes("FKFragen"));
+    Quizformular form;
+    form.WissenTitel.fill("Länder und Flüsse");
+    form.FrageText.fill("Welcher Fluss fließt durch die Stadt, in der das große Lager war ?");
+    form.AntwortText.fill("Die Weser");
+    return QByteArray::fromStdString(FormularBytes(form, Spiel));
 }
 
 // Sees when a window has painted itself with all it holds.

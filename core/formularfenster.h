@@ -50,15 +50,3 @@ public:
 // Called by the form's window when it comes up and when it goes.
 void FormularAnmelden(Formularfenster& form);
 void FormularAbmelden(const Formularfenster& form);
-
-// Name of a form's window, by which the main window finds it among its child windows.
-[[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {
-    switch (art) {
-    case Formart::Quiz:
-        return "FKFragen";
-    case Formart::Test:
-        return "HBFragen";
-    default:
-        return "";
-    }
-}

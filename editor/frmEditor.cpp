@@ -1,14 +1,15 @@
 #include "editor/frmEditor.h"
 
+#include "core/fensterzeichen.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
-#include "editor/editorablage.h"
 #include "editor/editordateien.h"
 #include "editor/editordaten.h"
 #include "editor/texte.h"
+#include "editor/zwischenablage.h"
 #include "rules/spielwerte.h"
 #include "tooltips/hinweise.h"
 
@@ -20,7 +21,7 @@
 
 frmEditor::frmEditor() {
     setObjectName(QStringLiteral("frmEditor"));
-    setProperty("tag", QStringLiteral("Editor"));
+    setProperty("tag", Anzeige(Fensterzeichen(Kindfenster::Editor)));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
     ToolbarBauen();
@@ -41,8 +42,8 @@ void frmEditor::Verbinden() {
     connect(txtNotiz, &QPlainTextEdit::textChanged, this, [] { EditorStatusSetzen(true); });
     // The rule asks at each release of mouse or key; the selection can also change through the menu.
     connect(txtNotiz, &QPlainTextEdit::selectionChanged, this, &frmEditor::TastenFreigeben);
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &frmEditor::AblageLesen);
-    AblageLesen();
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &frmEditor::ZwischenablageLesen);
+    ZwischenablageLesen();
     const auto* speichern =
         new QShortcut(QKeySequence::Save, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(speichern, &QShortcut::activated, Taste(QStringLiteral("cmdDatei(0)")), &QAbstractButton::click);
@@ -51,7 +52,8 @@ void frmEditor::Verbinden() {
 void frmEditor::TastenVerbinden() {
     for (std::size_t i = 0; i < cmdCopy_.size(); ++i) {
         cmdCopy_.at(i) = Taste(QStringLiteral("cmdCopy(%1)").arg(i));
-        connect(cmdCopy_.at(i), &QAbstractButton::clicked, this, [this, i] { AblageBefehl(*this, i); });
+        connect(cmdCopy_.at(i), &QAbstractButton::clicked, this,
+                [this, i] { ZwischenablageBefehl(*this, i); });
     }
     const auto beiKlick = [this](const char* name, auto befehl) {
         connect(Taste(QLatin1String(name)), &QAbstractButton::clicked, this, befehl);
@@ -122,7 +124,7 @@ void frmEditor::TastenFreigeben() {
     }
 }
 
-void frmEditor::AblageLesen() {
+void frmEditor::ZwischenablageLesen() {
     const QMimeData* daten = QGuiApplication::clipboard()->mimeData();
     ablageHatText_ = daten != nullptr && daten->hasText();
     TastenFreigeben();
@@ -147,7 +149,7 @@ bool frmEditor::event(QEvent* ereignis) {
         SicherungZeigen(); // the settings and the file dialog have the same switch
     }
     if (ereignis->type() == QEvent::WindowActivate) {
-        AblageLesen(); // not every system tells of a change while another program is in front
+        ZwischenablageLesen(); // not every system tells of a change while another program is in front
     }
     return QWidget::event(ereignis);
 }

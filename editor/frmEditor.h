@@ -1,6 +1,6 @@
 // The window of the editor: a toolbar, two panels that name the file, the text field. It builds and places
 // its controls and passes their events on; loading, saving and the closing question are editordateien.h, the
-// clipboard commands editorablage.h, opening and unloading it editor.h.
+// clipboard commands zwischenablage.h, opening and unloading it editor.h.
 #pragma once
 
 #include "core/panel.h"
@@ -48,7 +48,7 @@ private:
     void Verbinden();
     void TastenVerbinden();
     void Sperren(bool gesperrt);
-    void AblageLesen();
+    void ZwischenablageLesen();
     [[nodiscard]] QAbstractButton* Taste(const QString& name) const;
 
     Panel* pnlToolbar_ = nullptr;

@@ -2,7 +2,7 @@ feldkranz_quellen(modell editor/katalogtext.cpp)
 feldkranz_quellen(rand editor/editorpfad.cpp)
 feldkranz_quellen(fenster
   editor/editor.cpp
-  editor/editorablage.cpp
+  editor/zwischenablage.cpp
   editor/editoraufbau.cpp
   editor/editordateien.cpp
   editor/frmEditor.cpp editor/frmEditor.h

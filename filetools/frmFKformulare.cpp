@@ -1,6 +1,7 @@
 #include "filetools/frmFKformulare.h"
 
 #include "core/bilder.h"
+#include "core/fensterzeichen.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"

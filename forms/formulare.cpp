@@ -7,7 +7,7 @@
 #include "forms/quizformulare.h"
 #include "forms/speichern.h"
 #include "forms/testformulare.h"
-#include "printing/drucken.h"
+#include "printing/druckerwahl.h"
 #include "printing/pdfpfad.h"
 
 #include <array>

@@ -5,7 +5,7 @@
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
 #include "forms/speichern.h"
-#include "printing/drucken.h"
+#include "printing/testdrucken.h"
 #include "testform/hbformular.h"
 #include "testform/texte.h"
 

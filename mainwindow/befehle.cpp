@@ -14,9 +14,7 @@
 #include "periphery/frmHomepage.h"
 #include "periphery/mail.h"
 #include "periphery/spielregel.h"
-#include "quizform/fkformular.h"
 #include "settings/vorgabendialog.h"
-#include "testform/hbformular.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -95,13 +93,13 @@ constexpr std::array zuordnungen{
     Zuordnung{"mDateiFK(8)", befehle::FKDrucken},
     Zuordnung{"mDateiFK(9)", befehle::FKBlankoDrucken},
     Zuordnung{"cmdFKFLoeschen", befehle::FKFragenLoeschen},
-    Zuordnung{"cmdFKFLaden", FK_FragenEinfuegen},
+    Zuordnung{"cmdFKFLaden", befehle::FKFragenEinfuegen},
     Zuordnung{"cmdFKSLoeschen", befehle::FKSpezialLoeschen},
-    Zuordnung{"cmdFKSLaden", FK_SpezialEinfuegen},
+    Zuordnung{"cmdFKSLaden", befehle::FKSpezialEinfuegen},
     Zuordnung{"mFKFragen(1)", befehle::FKFragenLoeschen},
-    Zuordnung{"mFKFragen(2)", FK_FragenEinfuegen},
+    Zuordnung{"mFKFragen(2)", befehle::FKFragenEinfuegen},
     Zuordnung{"mFKSpezial(1)", befehle::FKSpezialLoeschen},
-    Zuordnung{"mFKSpezial(2)", FK_SpezialEinfuegen},
+    Zuordnung{"mFKSpezial(2)", befehle::FKSpezialEinfuegen},
     Zuordnung{"cmdFKSchliessen", befehle::FKSchliessen},
     Zuordnung{"cmdFKZurueck", befehle::FKZurueck},
     Zuordnung{"mFKFormular", befehle::FKZurueck},
@@ -115,8 +113,8 @@ constexpr std::array zuordnungen{
     Zuordnung{"mHBAntworten(2)", befehle::HBAntwortenEinfuegen},
     Zuordnung{"cmdHBPLoeschen", befehle::HBPunkteLoeschen},
     Zuordnung{"mHBPunkte(1)", befehle::HBPunkteLoeschen},
-    Zuordnung{"cmdHBPLaden", HB_PunkteEinfuegen},
-    Zuordnung{"mHBPunkte(2)", HB_PunkteEinfuegen},
+    Zuordnung{"cmdHBPLaden", befehle::HBPunkteEinfuegen},
+    Zuordnung{"mHBPunkte(2)", befehle::HBPunkteEinfuegen},
     Zuordnung{"cmdHBSchliessen", befehle::HBSchliessen},
     Zuordnung{"cmdHBZurueck", befehle::HBZurueck},
     Zuordnung{"mHBFormular", befehle::HBZurueck},

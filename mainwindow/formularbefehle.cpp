@@ -102,10 +102,18 @@ void FKFragenLoeschen() {
     }
 }
 
+void FKFragenEinfuegen() {
+    FK_FragenEinfuegen();
+}
+
 void FKSpezialLoeschen() {
     if (Bestaetigt(kerntexte::fkSpezialLoeschen)) {
         FK_SpezialLoeschen();
     }
+}
+
+void FKSpezialEinfuegen() {
+    FK_SpezialEinfuegen();
 }
 
 void ThemenquelleUmschalten() {

@@ -18,7 +18,9 @@ void FKBlankoDrucken();
 void HBDrucken();
 
 void FKFragenLoeschen();
+void FKFragenEinfuegen();
 void FKSpezialLoeschen();
+void FKSpezialEinfuegen();
 
 // The list of titles follows the switch for its source, or the entry in the menu.
 void ThemenquelleUebernehmen();

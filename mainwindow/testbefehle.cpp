@@ -96,6 +96,10 @@ void HBPunkteLoeschen() {
     }
 }
 
+void HBPunkteEinfuegen() {
+    HB_PunkteEinfuegen();
+}
+
 void HBSicherungUmschalten() {
     Spiel.OptionDatei = !Spiel.OptionDatei;
 }

@@ -1,5 +1,5 @@
-// The main window's commands on the test form: making, saving, closing, going back, blanking. The work itself
-// is the form's and the services'.
+// The main window's commands on the test form alone: making, blanking, restoring. The work itself is the
+// form's.
 #pragma once
 
 namespace befehle {
@@ -11,6 +11,7 @@ void HBFragenEinfuegen();
 void HBAntwortenLoeschen();
 void HBAntwortenEinfuegen();
 void HBPunkteLoeschen();
+void HBPunkteEinfuegen();
 void HBSicherungUmschalten(); // the backup switch of the test form's menu
 
 } // namespace befehle

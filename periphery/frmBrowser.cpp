@@ -1,5 +1,6 @@
 #include "periphery/frmBrowser.h"
 
+#include "core/fensterzeichen.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
@@ -53,7 +54,7 @@ void UeberDialogZeigen(frmBrowser& fenster, QDialog& dialog) {
 frmBrowser::frmBrowser(QWidget* eltern) : QWidget(eltern) {
     offen = this;
     setObjectName(QStringLiteral("frmBrowser"));
-    setProperty("tag", QStringLiteral("Browser"));
+    setProperty("tag", Anzeige(Fensterzeichen(Kindfenster::Spielregel)));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(Anzeige(periphertexte::regelTitel));
     brwWebBrowser_ = new Dokumentleser(this);

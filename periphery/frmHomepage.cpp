@@ -1,5 +1,6 @@
 #include "periphery/frmHomepage.h"
 
+#include "core/fensterzeichen.h"
 #include "core/hauptfenster.h"
 #include "core/konfiguration.h"
 #include "core/meldungstext.h"
@@ -43,7 +44,7 @@ void NachAussen(const QUrl& adresse) {
 frmHomepage::frmHomepage(QUrl seite, QWidget* eltern) : QWidget(eltern), seite_(std::move(seite)) {
     offen = this;
     setObjectName(QStringLiteral("frmHomepage"));
-    setProperty("tag", QStringLiteral("Homepage"));
+    setProperty("tag", Anzeige(Fensterzeichen(Kindfenster::Homepage)));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(Anzeige(Einsetzen(periphertexte::homepageTitel, {konfiguration::homepageText})));
     NetzBauen();

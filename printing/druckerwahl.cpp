@@ -1,6 +1,7 @@
+#include "printing/druckerwahl.h"
+
 #include "core/hauptfenster.h"
 #include "dialogs/modal.h"
-#include "printing/drucken.h"
 #include "printing/drucker.h"
 
 #include <QPrintDialog>

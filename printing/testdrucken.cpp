@@ -1,10 +1,10 @@
-// Printing the test form as a command: the checks and questions before it, the sheet on its way to the paper.
+#include "printing/testdrucken.h"
+
 #include "core/hauptfenster.h"
 #include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "printing/druckauftrag.h"
-#include "printing/drucken.h"
 #include "printing/druckseite.h"
 #include "printing/pdfpfad.h"
 #include "printing/testseite.h"

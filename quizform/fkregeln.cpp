@@ -29,10 +29,10 @@ void SichtenAnwenden(frmFKFragen& form, const Feldsichten& sichten) {
     }
 }
 
-// A cell whose question doesn't show loses all its contents, in the stored copy as well, with no way back.
-void VerborgeneLeeren(frmFKFragen& form) {
+// A cell that is not in play loses all its contents, in the stored copy as well, with no way back.
+void VerborgeneLeeren(frmFKFragen& form, const Feldsichten& sichten) {
     for (int n = 1; n <= anzahlFelder; ++n) {
-        if (!form.txtFrage.at(Stelle(n))->isHidden()) {
+        if (sichten.at(Stelle(n)).frage) {
             continue;
         }
         FKForm.FeldSpezial.at(Stelle(n)).clear();
@@ -96,7 +96,7 @@ void FK_FragenRegel() {
     Feldsichten sichten;
     FragenRegelAnwenden(sichten, Spiel.FragenProWissen);
     SichtenAnwenden(*form, sichten);
-    VerborgeneLeeren(*form);
+    VerborgeneLeeren(*form, sichten);
 }
 
 void FK_WissenRegel() {
@@ -105,19 +105,16 @@ void FK_WissenRegel() {
         return;
     }
     for (int a = 1; a <= anzahlGebiete; ++a) {
-        const bool zu = Spiel.OptionMaxWissen && GebietGeschlossen(a, Spiel.AnzahlWissen);
+        const bool offen = GebietOffen(Spiel, a);
         Panel* titel = form->pnlWissen.at(Stelle(a));
-        titel->setEnabled(!zu);
-        if (zu) {
+        titel->setEnabled(offen);
+        if (!offen) {
             titel->setCaption(QStringLiteral("Wissen"));
         }
     }
-    if (Spiel.OptionMaxWissen) {
-        Feldsichten sichten;
-        WissenRegelAnwenden(sichten, Spiel.AnzahlWissen);
-        SichtenAnwenden(*form, sichten);
-    }
-    VerborgeneLeeren(*form);
+    const Feldsichten sichten = BrettSichten(Spiel);
+    SichtenAnwenden(*form, sichten);
+    VerborgeneLeeren(*form, sichten);
 }
 
 void FK_SpezialRegel() {

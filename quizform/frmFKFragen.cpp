@@ -2,7 +2,7 @@
 
 #include "catalogue/katalogladen.h"
 #include "core/bilder.h"
-#include "core/formularfenster.h"
+#include "core/fensterzeichen.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
 #include "quizform/fkereignisse.h"

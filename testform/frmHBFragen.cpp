@@ -1,7 +1,7 @@
 #include "testform/frmHBFragen.h"
 
 #include "catalogue/katalogladen.h"
-#include "core/formularfenster.h"
+#include "core/fensterzeichen.h"
 #include "core/oberflaeche.h"
 #include "rules/spielwerte.h"
 #include "testform/hbereignisse.h"

@@ -4,9 +4,8 @@
 #pragma once
 
 #include "core/ziehwert.h"
-#include "testform/testformular.h"
+#include "testform/testblatt.h"
 
-#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -55,16 +54,7 @@ std::string HB_Frage(int n);
 std::string HB_Antwort(int n);
 void HB_FeldLeeren(int n);
 
-// What the paper shows of the form on the screen: captions as they stand, with the screen's line ends, a
-// row's points "" where they are blanked. The stored copy stays as it is. An untouched form where none is
-// open.
-struct Testblatt {
-    std::string titel, fach, gruppenwort, gruppe, name;
-    struct Zeile {
-        std::string frage, antwort, punkte;
-    };
-    std::array<Zeile, anzahlTestfragen + 1> zeilen; // from 1
-};
+// The sheet of the form on the screen; the stored copy stays as it is. An untouched form where none is open.
 [[nodiscard]] Testblatt HB_Bildschirm();
 
 // Places a question in a row, as a drop does: asks where the row is occupied, and empties the place that a

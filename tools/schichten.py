@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Checks the layers: includes point downwards only, the model knows no toolkit, every source is in a list, and
-every header stands alone. With --bild PATH draws the dependencies between the subsystems instead."""
+"""Checks the layers and the folders' order: includes point downwards only in both, the model knows no toolkit, every
+source is in a list, and every header stands alone. With --bild PATH draws the dependencies between the folders
+instead."""
 
 import collections
 import concurrent.futures
@@ -24,6 +25,15 @@ def falsche_includes(schichtung):
             unter = SCHICHTEN.index(schichtung.schicht(ziel)) if eigen else schichtung.mindestens(ziel)
             if unter > hoehe:
                 yield f"{name} ({SCHICHTEN[hoehe]}) includes {ziel} ({SCHICHTEN[unter]})"
+
+
+def gegen_die_ordnung(schichtung):
+    """Folders stand in one order, and includes never go against it: so no two folders include each other."""
+    for pfad in schichtung.quellen:
+        for eigen, ziel in includes(str(pfad)):
+            ordner = ziel.split("/")[0]
+            if eigen and ordner in SUBSYSTEME and SUBSYSTEME.index(ordner) > SUBSYSTEME.index(pfad.parts[0]):
+                yield f"{pfad} includes {ziel}: {ordner} stands above {pfad.parts[0]}"
 
 
 def nicht_gelistete(schichtung):
@@ -71,35 +81,25 @@ def koepfe_ohne_quelle(schichtung):
 
 
 def bild(schichtung, ziel):
-    """One box a subsystem and layer; the strength of a line tells how many files stand behind it."""
+    """One box a folder, those that include it above it. A line that only shortens a way over others is left out, so
+    that one can read the picture; the number tells the includes that the line itself stands for."""
     kanten = collections.Counter()
-    knoten = set()
     for pfad in schichtung.quellen:
-        von = (schichtung.schicht(str(pfad)), pfad.parts[0])
-        knoten.add(von)
-        ziele = {
-            (schichtung.schicht(name), name.split("/")[0])
-            for eigen, name in includes(pfad) if eigen and name.split("/")[0] in SUBSYSTEME
-        }
-        kanten.update((von, nach) for nach in ziele if nach != von)
-    farben = {"fenster": "#dbe9f6", "rand": "#e5f2df", "modell": "#fbeed5"}
-    namen = {"fenster": "Windows", "rand": "Edge", "modell": "Model"}
-    zeilen = ["digraph {", "rankdir=TB; newrank=true; nodesep=0.25; ranksep=0.5; splines=true;",
-              'fontname="sans-serif"; node [shape=box style="filled,rounded" fontname="sans-serif" fontsize=11];',
-              'edge [color="#55555570" arrowsize=0.6];']
-    for schicht in reversed(SCHICHTEN):
-        zeilen.append(f'subgraph cluster_{schicht} {{ label="{namen[schicht]} ({schicht})"; style=rounded;')
-        for k in sorted(k for k in knoten if k[0] == schicht):
-            zeilen.append(f'"{k[0]}_{k[1]}" [label="{k[1]}/" fillcolor="{farben[schicht]}"];')
-        zeilen.append("}")
-    # Invisible lines keep the layers one below the other.
-    for ober, unter in (("fenster", "rand"), ("rand", "modell")):
-        zeilen.append(f'grenze_{unter} [style=invis shape=point];')
-        zeilen += [f'"{k[0]}_{k[1]}" -> grenze_{unter} [style=invis];' for k in sorted(knoten) if k[0] == ober]
-        zeilen += [f'grenze_{unter} -> "{k[0]}_{k[1]}" [style=invis];' for k in sorted(knoten) if k[0] == unter]
+        for eigen, name in includes(str(pfad)):
+            nach = name.split("/")[0]
+            if eigen and nach in SUBSYSTEME and nach != pfad.parts[0]:
+                kanten[pfad.parts[0], nach] += 1
+    direkt = {von: {n for v, n in kanten if v == von} for von in SUBSYSTEME}
+    erreichbar = {}
+    for ordner in SUBSYSTEME:  # from the bottom up, so that what lies below is known
+        erreichbar[ordner] = set(direkt[ordner]).union(*(erreichbar[n] for n in direkt[ordner]))
+    zeilen = ["digraph {", "rankdir=TB; nodesep=0.35; ranksep=0.35;",
+              'node [shape=box style="filled,rounded" fillcolor="#dbe9f6" fontname="sans-serif" fontsize=13];',
+              'edge [color="#555555" arrowsize=0.7 fontname="sans-serif" fontsize=9 fontcolor="#555555"];']
+    zeilen += [f'"{ordner}" [label="{ordner}/"];' for ordner in SUBSYSTEME]
     for (von, nach), zahl in sorted(kanten.items()):
-        dicke = min(4.0, 0.6 + 0.25 * zahl)
-        zeilen.append(f'"{von[0]}_{von[1]}" -> "{nach[0]}_{nach[1]}" [penwidth={dicke:.2f}];')
+        if not any(nach in erreichbar[ueber] for ueber in direkt[von] - {nach}):
+            zeilen.append(f'"{von}" -> "{nach}" [label=" {zahl}"];')
     zeilen.append("}")
     subprocess.run(["dot", "-Tsvg", "-o", ziel], input="\n".join(zeilen), text=True, check=True)
 
@@ -109,7 +109,8 @@ def main():
     if sys.argv[1:2] == ["--bild"]:
         bild(schichtung, sys.argv[2])
         return 0
-    klagen = [*falsche_includes(schichtung), *nicht_gelistete(schichtung), *eigener_kopf_zuerst(schichtung)]
+    klagen = [*falsche_includes(schichtung), *gegen_die_ordnung(schichtung), *nicht_gelistete(schichtung),
+              *eigener_kopf_zuerst(schichtung)]
     if "--schnell" not in sys.argv:
         subprocess.run(["cmake", "--preset", "lint"], cwd=WURZEL, stdout=subprocess.DEVNULL, check=True)
         klagen += koepfe_ohne_quelle(schichtung)

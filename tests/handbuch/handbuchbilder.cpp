@@ -1,9 +1,9 @@
 // Takes the handbook's pictures of windows at work, and prints a form of each kind for those of the paper. No
 // test: it proves nothing, it shows. BILDER_ORDNER names the folder where pictures and PDF files go.
 #include "catalogue/katalogladen.h"
-#include "mainwindow/frmMDI.h"
 #include "forms/quizformulare.h"
 #include "forms/testformulare.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/zusatz.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"

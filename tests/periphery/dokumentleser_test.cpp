@@ -141,7 +141,8 @@ void DokumentleserTest::whatIsNowhereIsSaidBelow() {
     auto* txtSuche = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
     txtSuche->setText(QStringLiteral("Krümel"));
     QTest::keyClick(txtSuche, Qt::Key_Return);
-    QVERIFY2(Regelstand().endsWith(QStringLiteral("  -  [ Krümel ] kommt nicht vor.")), qPrintable(Regelstand()));
+    QVERIFY2(Regelstand().endsWith(QStringLiteral("  -  [ Krümel ] kommt nicht vor.")),
+             qPrintable(Regelstand()));
     QTest::keyClick(txtSuche, Qt::Key_Return); // nothing to go to
     Klick("cmdFundZurueck");
     QCOMPARE(Ansicht()->Seite(), 1);

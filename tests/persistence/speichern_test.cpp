@@ -2,11 +2,12 @@
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
+#include "editor/editordaten.h"
 #include "formlauf.h"
 #include "forms/oeffnen.h"
 #include "forms/speichern.h"
-#include "persistence/sicherung.h"
 #include "mainwindow/frmMDI.h"
+#include "persistence/sicherung.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
 #include "tests/hilfe/finden.h"
@@ -84,6 +85,7 @@ void SpeichernTest::aFormWithoutANameAsksForOneAndTheSecondTimeNot() {
     QVERIFY(dialoge.fertig());
     QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(form->windowTitle(), QStringLiteral("Neu.FKR "));
+    QCOMPARE(Editor.DateiAlt, Stand.FKDateiName); // the editor's window names the file last named
     QCOMPARE(lauf.Lesen(QStringLiteral("Neu.FKR")).count('\n'), 125);
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
 

@@ -1,4 +1,4 @@
-#include "editor/editorablage.h"
+#include "editor/zwischenablage.h"
 
 #include "core/hauptfenster.h"
 #include "dialogs/meldung.h"
@@ -50,7 +50,7 @@ void Loeschen(frmEditor& editor) {
     editor.txtNotiz->Ersetzen(QString());
 }
 
-void AblageLeeren(frmEditor&) {
+void ZwischenablageLeeren(frmEditor&) {
     if (NachrichtJaNein(editortexte::ablageLeeren)) {
         QGuiApplication::clipboard()->clear();
     }
@@ -72,17 +72,17 @@ constexpr std::array<void (*)(frmEditor&), 8> befehle{
     [](frmEditor& editor) { Ausschneiden(editor, Anhaengen); },
     Einfuegen,
     Loeschen,
-    AblageLeeren,
+    ZwischenablageLeeren,
     TextLeeren,
 };
 
 } // namespace
 
-void AblageBefehl(frmEditor& editor, std::size_t index) {
+void ZwischenablageBefehl(frmEditor& editor, std::size_t index) {
     try {
         befehle.at(index)(editor);
     } catch (const std::bad_alloc&) {
-        FehlerMelden(editortexte::ortAblage, Laufzeitfehler(Fehler::SpeicherVoll));
+        FehlerMelden(editortexte::ortZwischenablage, Laufzeitfehler(Fehler::SpeicherVoll));
     }
     editor.TastenFreigeben();
     if (editor.txtNotiz->isEnabled()) {

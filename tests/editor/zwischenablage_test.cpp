@@ -244,4 +244,4 @@ void EditorablageTest::protectedBlanksSurviveTheClipboard() {
 }
 
 QTEST_MAIN(EditorablageTest)
-#include "editorablage_test.moc"
+#include "zwischenablage_test.moc"

@@ -6,4 +6,4 @@
 class frmEditor;
 
 // Runs cmdCopy(index); a run-time error is reported.
-void AblageBefehl(frmEditor& editor, std::size_t index);
+void ZwischenablageBefehl(frmEditor& editor, std::size_t index);

@@ -1,0 +1,10 @@
+// Printing the test form as its callers see it. What is printed is a value, and nothing is put back into a
+// window.
+#pragma once
+
+#include "testform/testblatt.h"
+
+#include <string>
+
+// Prints a test form after its checks and questions. datei: path of the form's file, "" for none.
+void TestFormularDrucken(const Testblatt& blatt, int gesamtpunkte, const std::string& datei);
