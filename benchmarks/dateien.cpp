@@ -4,6 +4,7 @@
 #include "core/datei.h"
 #include "core/pfad.h"
 #include "persistence/formulardatei.h"
+#include "rules/spezialarten.h"
 
 #include <benchmark/benchmark.h>
 
@@ -51,6 +52,13 @@ Formularwerte VollesFormular(int mal) {
     werte.quiz.AntwortText.fill(antwort);
     werte.quiz.FeldSpezial.fill("J");
     werte.quiz.FormNr = "17";
+    // Rule values as they are in the program: the reader has nothing to mend.
+    werte.spiel.FelderGesamt = 30;
+    werte.spiel.FragenProWissen = 5;
+    werte.spiel.AnzahlWissen = 6;
+    werte.spiel.Punkte = werkPunkte;
+    werte.spiel.Felder = werkFelder;
+    werte.spiel.FarbeHintergrund = 7;
     return werte;
 }
 

@@ -1,9 +1,10 @@
 // The list of forms: the files of one folder by name, with the numbers of the marked one. A double click or
+// Enter opens it, which is the affair of whoever made the list. A tool window that stays above the main
+// window.
+#pragma once
+
 #include "core/formart.h"
 #include "persistence/formulardatei.h"
-// Enter opens it. A tool window that stays above the main window. Reading and opening a form are
-// persistence/oeffnen.
-#pragma once
 
 #include <QWidget>
 

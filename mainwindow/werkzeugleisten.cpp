@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
+#include <span>
+#include <vector>
 
 namespace {
 
@@ -86,12 +88,15 @@ struct Leistenmass {
     std::bitset<verzicht.size()> ohneWort;
 };
 
-QString Aufschrift(const Schaltflaeche& zeile, const Leistenmass& mass) {
-    const auto* platz = std::find_if(verzicht.begin(), verzicht.end(),
-                                     [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
+bool OhneWort(const Schaltflaeche& zeile, const Leistenmass& mass) {
+    const auto* platz =
+        std::ranges::find_if(verzicht, [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
     const auto stelle = static_cast<std::size_t>(platz - verzicht.begin());
-    const bool weg = zeile.leiste != Leiste::Kranz && platz != verzicht.end() && mass.ohneWort.test(stelle);
-    return weg ? QString() : Anzeige(zeile.aufschrift);
+    return zeile.leiste != Leiste::Kranz && platz != verzicht.end() && mass.ohneWort.test(stelle);
+}
+
+QString Aufschrift(const Schaltflaeche& zeile, const Leistenmass& mass) {
+    return OhneWort(zeile, mass) ? QString() : Anzeige(zeile.aufschrift);
 }
 
 int Tastenbreite(const Schaltflaeche& zeile, const Leistenmass& mass) {
@@ -125,35 +130,54 @@ int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const Leistenma
     return x;
 }
 
-// Width that a toolbar, what stands behind it and the constant buttons need together.
-int Bedarf(const QWidget* pnlKranz, Leiste leiste, const Leistenmass& mass) {
-    int bedarf = Pixel(2 * leistenRand + 525 + 120) + 4 + 24 + 4;
+// A button as the choice of the captions needs it: looked up and measured once, not at each try.
+struct Gemessen {
+    const Schaltflaeche* zeile;
+    bool steht;
+    int wortbreite; // of its caption with the gap before it
+};
+
+std::vector<Gemessen> Messen(const QWidget* pnlKranz, const QFont& schrift) {
+    const QFontMetrics mass(schrift);
+    std::vector<Gemessen> gemessen;
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
-        if (Steht(pnlKranz, zeile, leiste) || Steht(pnlKranz, zeile, Leiste::Immer)) {
-            bedarf += Tastenbreite(zeile, mass) + (zeile.abstand ? mass.luecke : 0);
+        const QString wort = Anzeige(zeile.aufschrift);
+        gemessen.push_back({&zeile, Steht(pnlKranz, zeile, zeile.leiste),
+                            wort.isEmpty() ? 0 : bildluecke + mass.horizontalAdvance(wort)});
+    }
+    return gemessen;
+}
+
+// Width that a toolbar, what stands behind it and the constant buttons need together.
+int Bedarf(std::span<const Gemessen> tasten, Leiste leiste, const Leistenmass& mass) {
+    int bedarf = Pixel(2 * leistenRand + 525 + 120) + 4 + 24 + 4;
+    for (const auto& [zeile, steht, wortbreite] : tasten) {
+        if (steht && (zeile->leiste == leiste || zeile->leiste == Leiste::Immer)) {
+            bedarf += tastenbildKante + polster + (OhneWort(*zeile, mass) ? 0 : wortbreite) +
+                      (zeile->abstand ? mass.luecke : 0);
         }
     }
     return bedarf;
-}
-
-bool Passt(const QWidget* pnlKranz, const Leistenmass& mass) {
-    return std::all_of(leistennamen.begin(), leistennamen.end(), [&](const Leistenname& eintrag) {
-        const auto* traeger = pnlKranz->findChild<QWidget*>(QLatin1String(eintrag.name));
-        return traeger->isHidden() || Bedarf(pnlKranz, eintrag.leiste, mass) <= pnlKranz->width();
-    });
 }
 
 // As many captions as find their place beside the toolbar that stands: they go from the front of the list
 // until the rest fits, and what still has room then comes back.
 Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
     Leistenmass mass{Schrift(8.25), 7, {}};
+    const std::vector<Gemessen> tasten = Messen(pnlKranz, mass.schrift);
+    const auto passt = [&] {
+        return std::ranges::all_of(leistennamen, [&](const Leistenname& eintrag) {
+            const auto* traeger = pnlKranz->findChild<QWidget*>(QLatin1String(eintrag.name));
+            return traeger->isHidden() || Bedarf(tasten, eintrag.leiste, mass) <= pnlKranz->width();
+        });
+    };
     std::size_t weg = 0;
-    while (weg < verzicht.size() && !Passt(pnlKranz, mass)) {
+    while (weg < verzicht.size() && !passt()) {
         mass.ohneWort.set(weg++);
     }
     while (weg > 0) {
         mass.ohneWort.reset(--weg);
-        if (!Passt(pnlKranz, mass)) {
+        if (!passt()) {
             mass.ohneWort.set(weg);
         }
     }

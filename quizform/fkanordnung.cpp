@@ -31,10 +31,8 @@ void FeldAnordnen(frmFKFragen& form, int n, const FormMasse& masse) {
 }
 
 // The label stands at the left of its panel, the box takes the rest.
-void KopfzeileEinpassen(Panel* panel, QWidget* zeile, const QFont& schrift) {
-    panel->setFont(schrift);
-    zeile->setFont(schrift);
-    const int beschriftung = QFontMetrics(schrift).horizontalAdvance(panel->caption()) + 8;
+void KopfzeileEinpassen(Panel* panel, QWidget* zeile) {
+    const int beschriftung = panel->fontMetrics().horizontalAdvance(panel->caption()) + 8;
     zeile->setGeometry(beschriftung, 2, panel->width() - beschriftung - 3, panel->height() - 4);
 }
 
@@ -50,31 +48,21 @@ void frmFKFragen::Anordnen(const FormMasse& masse) {
         TwipsGeometrie(teil, FormMasse::links + spalte++ * raster, FormMasse::kopfOben, masse.TitelBreite(),
                        masse.kopfHoehe);
     }
-    const QFont schrift = Schrift(masse.schrift);
     pnlKranz->setFont(Schrift(12, true));
-    cmdFKSchliessen->setFont(schrift);
-    KopfzeileEinpassen(pnlDatum, txtDatum, schrift);
-    KopfzeileEinpassen(pnlZeit, txtZeit, schrift);
-    KopfzeileEinpassen(pnlNr, txtNr, schrift);
+    KopfzeileEinpassen(pnlDatum, txtDatum);
+    KopfzeileEinpassen(pnlZeit, txtZeit);
+    KopfzeileEinpassen(pnlNr, txtNr);
     for (int a = 1; a <= anzahlGebiete; ++a) {
         Panel* titel = pnlWissen.at(Stelle(a));
         TwipsGeometrie(titel, FormMasse::links + (a - 1) * raster, masse.TitelOben(), masse.TitelBreite(),
                        masse.titelHoehe);
-        titel->setFont(schrift);
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
         FeldAnordnen(*this, n, masse);
-        for (QWidget* teil :
-             std::initializer_list<QWidget*>{txtFrage.at(Stelle(n)), txtAntwort.at(Stelle(n)),
-                                             pnlPunkte.at(Stelle(n)), pnlSpezial.at(Stelle(n))}) {
-            teil->setFont(schrift);
-        }
         // Two lines of an answer fit its box only without the toolkit's own margin.
         txtFrage.at(Stelle(n))->document()->setDocumentMargin(1);
         txtAntwort.at(Stelle(n))->document()->setDocumentMargin(1);
     }
-    cmbWissen->setFont(schrift);
-    cmbSpezial->setFont(schrift);
 }
 
 QPoint frmFKFragen::Platz(QSize mitRahmen, QPoint wieGeoeffnet) const {

@@ -159,7 +159,9 @@ void FK_Leeren() {
     }
     FK_KopfLeeren();
     FK_TitelLeeren();
-    FK_FragenLoeschen();
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        FK_FeldLeeren(n); // what the cells look like comes with the letters
+    }
     FK_Merken();
     FK_KopfMerken();
     FK_SpezialLoeschen();

@@ -33,6 +33,13 @@ frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_
     setProperty("tag", Anzeige(Fensterzeichen(Formart::Quiz)));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
+    // Face and colours first: the controls take them over as they are made, all in one go.
+    const FormMasse& masse = FormMasseFuer(HolAuflösungX());
+    setFont(Schrift(masse.schrift));
+    if (Spiel.FarbeHintergrund == 0) {
+        Spiel.FarbeHintergrund = 7;
+    }
+    HintergrundMalen(Spiel.FarbeHintergrund);
     for (int n = 1; n <= anzahlFelder; ++n) {
         FKForm.FeldPunkte.at(Stelle(n)) = static_cast<std::int16_t>(ZeileVon(n));
     }
@@ -43,12 +50,8 @@ frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_
     }
     ListenBauen();
     BilderBauen();
-    Anordnen(FormMasseFuer(HolAuflösungX()));
+    Anordnen(masse);
     TabfolgeSetzen();
-    if (Spiel.FarbeHintergrund == 0) {
-        Spiel.FarbeHintergrund = 7;
-    }
-    HintergrundMalen(Spiel.FarbeHintergrund);
     HinweiseSetzen();
     EreignisseVerbinden();
 }
