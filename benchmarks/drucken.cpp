@@ -54,7 +54,7 @@ void FormularDrucken(benchmark::State& lauf) {
     for ([[maybe_unused]] auto _ : lauf) {
         Druckseite seite(QPageLayout::Landscape, ziel, "Messung");
         const Druckgeometrie g =
-            GeometrieRechnen(Papier::A4Quer, 1.0F, seite.masse().links, seite.masse().oben);
+            GeometrieRechnen(Papier::A4Quer, 1_mm, seite.masse().links, seite.masse().oben);
         if (seite.Drucken(FormularZeichnen(daten, g, seite.schriftmass()), [] {}) != ziel) {
             lauf.SkipWithError("no page");
         }

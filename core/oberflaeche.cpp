@@ -10,8 +10,6 @@
 #include <QTranslator>
 #include <QWidget>
 
-#include <cmath>
-
 namespace {
 
 QSize vorgegebeneGroesse;
@@ -69,9 +67,9 @@ QColor Systemflaeche() {
     return QGuiApplication::palette().color(QPalette::Active, QPalette::Button);
 }
 
-QFont Schrift(double punkt, bool fett) {
+QFont Schrift(Schriftpunkte groesse, bool fett) {
     QFont schrift(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-    schrift.setPixelSize(static_cast<int>(std::lround(punkt * 96.0 / 72.0)));
+    schrift.setPixelSize(Pixel(groesse));
     schrift.setBold(fett);
     return schrift;
 }
@@ -91,7 +89,7 @@ void NormalerZeiger() {
 void OberflaecheEinrichten() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(HellePalette());
-    QApplication::setFont(Schrift(9));
+    QApplication::setFont(Schrift(9_pt));
     QApplication::setWindowIcon(Programmzeichen(48));
     auto* uebersetzung = new QTranslator(qApp);
     // Without the toolkit's German texts its few own buttons speak English; nothing else is lost.
@@ -112,7 +110,7 @@ void BildschirmgroesseVorgeben(QSize groesse) {
     vorgegebeneGroesse = groesse;
 }
 
-void TwipsGeometrie(QWidget* steuerelement, double links, double oben, double breite, double hoehe) {
+void TwipsGeometrie(QWidget* steuerelement, Twips links, Twips oben, Twips breite, Twips hoehe) {
     const int x = Pixel(links);
     const int y = Pixel(oben);
     steuerelement->setGeometry(x, y, Pixel(links + breite) - x, Pixel(oben + hoehe) - y);

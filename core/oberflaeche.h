@@ -1,8 +1,9 @@
-// Small things that every window needs: twips to pixels, texts between model and toolkit, colours, the one
+// Small things that every window needs: places in twips, texts between model and toolkit, colours, the one
 // light palette, the size of the screen. Holds no state but the palette it sets.
 #pragma once
 
 #include "core/farbe.h"
+#include "core/laenge.h"
 
 #include <QColor>
 #include <QFont>
@@ -15,11 +16,6 @@
 
 class QWidget;
 
-// Logical pixels for twips, 15 to 1, to the nearest.
-[[nodiscard]] constexpr int Pixel(double twips) {
-    return static_cast<int>(twips < 0 ? twips / 15.0 - 0.5 : twips / 15.0 + 0.5);
-}
-
 // Texts of the toolkit (line feed) from texts of the model (UTF-8, CR LF), and back.
 [[nodiscard]] QString Anzeige(std::string_view text);
 [[nodiscard]] std::string Modelltext(const QString& text);
@@ -30,9 +26,9 @@ class QWidget;
 // System face: the palette's button colour.
 [[nodiscard]] QColor Systemflaeche();
 
-// The program's face in a size given in points. Sizes are fixed to logical pixels at 96 to the inch, as the
+// The program's face in a size. Sizes are fixed to logical pixels at 96 to the inch, as the
 // windows' measures are, so that captions fit whatever resolution the desktop claims.
-[[nodiscard]] QFont Schrift(double punkt, bool fett = false);
+[[nodiscard]] QFont Schrift(Schriftpunkte groesse, bool fett = false);
 
 // Mouse pointer to the hourglass, and back to normal. Either may be called twice.
 void SanduhrZeigen();
@@ -46,5 +42,6 @@ void OberflaecheEinrichten();
 // Tests set a size of their own; an empty one takes it back.
 void BildschirmgroesseVorgeben(QSize groesse);
 
-// Sets left, top, width and height given in twips.
-void TwipsGeometrie(QWidget* steuerelement, double links, double oben, double breite, double hoehe);
+// Sets left, top, width and height. Right and bottom edge are rounded, not width and height, so that what
+// adjoins in twips adjoins in pixels.
+void TwipsGeometrie(QWidget* steuerelement, Twips links, Twips oben, Twips breite, Twips hoehe);

@@ -34,7 +34,7 @@ QTextOption Umbruch(Qt::Alignment ausrichtung) {
 
 } // namespace
 
-Dialoggrund::Dialoggrund(const QString& name, double breite, double hoehe, Qt::WindowFlags art)
+Dialoggrund::Dialoggrund(const QString& name, Twips breite, Twips hoehe, Qt::WindowFlags art)
     : QDialog(nullptr, art) {
     setObjectName(name);
     setModal(true);
@@ -50,7 +50,7 @@ void Dialoggrund::HintergrundLaden(std::string_view name) {
     }
 }
 
-void Dialoggrund::Zentrieren(double hoehe, double tiefer) {
+void Dialoggrund::Zentrieren(Twips hoehe, Twips tiefer) {
     const QSize schirm = Bildschirmgroesse(this);
     const QPoint ort((schirm.width() - width()) / 2, schirm.height() / 2 - Pixel(hoehe) / 2 + Pixel(tiefer));
     const QPoint ecke = screen() != nullptr ? screen()->geometry().topLeft() : QPoint();
@@ -85,7 +85,7 @@ Textschild::Textschild(QWidget* eltern, const QString& name) : QLabel(eltern) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setFont(Schrift(9));
+    setFont(Schrift(9_pt));
 }
 
 void Textschild::setText(const QString& text) {

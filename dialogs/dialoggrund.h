@@ -2,6 +2,7 @@
 // that is cut at its edge. A picture that can't be loaded is kept for whoever reports it.
 #pragma once
 
+#include "core/laenge.h"
 #include "core/laufzeitfehler.h"
 
 #include <QDialog>
@@ -15,8 +16,8 @@ class Dialoggrund : public QDialog {
     Q_OBJECT
 
 public:
-    // Client area in twips.
-    Dialoggrund(const QString& name, double breite, double hoehe, Qt::WindowFlags art = Qt::Dialog);
+    // Size of the client area.
+    Dialoggrund(const QString& name, Twips breite, Twips hoehe, Qt::WindowFlags art = Qt::Dialog);
 
     // Why the background is missing, if it is.
     [[nodiscard]] const std::optional<Laufzeitfehler>& bildfehler() const { return bildfehler_; }
@@ -24,8 +25,8 @@ public:
 protected:
     // The picture "\BITMAP\FK_" + name, stretched over the client area.
     void HintergrundLaden(std::string_view name);
-    // Centre of the screen, down by so many twips; hoehe is the height that counts, the title included.
-    void Zentrieren(double hoehe, double tiefer = 0.0);
+    // Centre of the screen, down by that much; hoehe is the height that counts, the title included.
+    void Zentrieren(Twips hoehe, Twips tiefer = {});
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
@@ -54,6 +55,5 @@ private:
     QString grundtipp_; // the tip of a label whose text isn't cut
 };
 
-// Height that a title bar counts with in the dialogs' measures; the real one is the window manager's. In
-// twips.
-inline constexpr double titelHoeheTwips = 360.0;
+// Height that a title bar counts with in the dialogs' measures; the real one is the window manager's.
+inline constexpr Twips titelHoehe = 360_tw;

@@ -15,9 +15,9 @@
 
 namespace {
 
-constexpr double innenBreite = 3525;
-constexpr double innenHoehe = 2985;
-constexpr double tastenOben = 2340;
+constexpr Twips innenBreite = 3525_tw;
+constexpr Twips innenHoehe = 2985_tw;
+constexpr Twips tastenOben = 2340_tw;
 constexpr int tippBreite = 300; // pixels
 
 } // namespace
@@ -27,15 +27,15 @@ frmInput::frmInput()
                   Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       lblInput_(new Textschild(this, QStringLiteral("lblInput"))),
       txtInput_(new QLineEdit(this)),
-      cmdOK_(TasteBauen("cmdOK", QStringLiteral("&OK"), 120)),
-      cmdAbbruch_(TasteBauen("cmdAbbruch", QStringLiteral("&Abbrechen"), 1200)),
-      cmdHilfe_(TasteBauen("cmdHilfe", QStringLiteral("&Hilfe"), 2370)) {
-    Zentrieren(innenHoehe + titelHoeheTwips);
-    TwipsGeometrie(lblInput_, 75, 750, innenBreite - 180, 855);
+      cmdOK_(TasteBauen("cmdOK", QStringLiteral("&OK"), 120_tw)),
+      cmdAbbruch_(TasteBauen("cmdAbbruch", QStringLiteral("&Abbrechen"), 1200_tw)),
+      cmdHilfe_(TasteBauen("cmdHilfe", QStringLiteral("&Hilfe"), 2370_tw)) {
+    Zentrieren(innenHoehe + titelHoehe);
+    TwipsGeometrie(lblInput_, 75_tw, 750_tw, innenBreite - 180_tw, 855_tw);
     HintergrundLaden("INPUT.bmp");
     for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
         auto* bild = SinnbildLabel(this, "picSymbol", i, sinnbilder::eingabe.at(static_cast<std::size_t>(i)));
-        bild->move(Pixel(1560), Pixel(180));
+        bild->move(Pixel(1560_tw), Pixel(180_tw));
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }
     ZeileBauen();
@@ -51,16 +51,17 @@ void frmInput::ZeileBauen() {
     // Names of files and folders may hold any character, so the line takes them all.
     txtInput_->setObjectName(QStringLiteral("txtInput"));
     txtInput_->setAccessibleName(QStringLiteral("Eingabe"));
-    txtInput_->setFont(Schrift(10));
-    TwipsGeometrie(txtInput_, 180, 1710, innenBreite - 360, 390);
+    txtInput_->setFont(Schrift(10_pt));
+    TwipsGeometrie(txtInput_, 180_tw, 1710_tw, innenBreite - 360_tw, 390_tw);
     txtInput_->installEventFilter(this);
 }
 
-QPushButton* frmInput::TasteBauen(const char* name, const QString& wort, double links) {
+QPushButton* frmInput::TasteBauen(const char* name, const QString& wort, Twips links) {
     auto* taste = new QPushButton(wort, this);
     taste->setObjectName(QLatin1String(name));
-    taste->setFont(Schrift(9));
-    TwipsGeometrie(taste, links, tastenOben, name == std::string_view("cmdAbbruch") ? 1125 : 1035, 450);
+    taste->setFont(Schrift(9_pt));
+    TwipsGeometrie(taste, links, tastenOben, name == std::string_view("cmdAbbruch") ? 1125_tw : 1035_tw,
+                   450_tw);
     return taste;
 }
 

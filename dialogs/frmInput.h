@@ -31,7 +31,7 @@ protected:
 
 private:
     void ZeileBauen();
-    QPushButton* TasteBauen(const char* name, const QString& wort, double links);
+    QPushButton* TasteBauen(const char* name, const QString& wort, Twips links);
     void TabfolgeSetzen();
     void VorgabeEinsetzen();
     void Uebernehmen();

@@ -15,19 +15,19 @@
 
 namespace {
 
-constexpr double fensterBreite = 5055;
-constexpr double fensterHoehe = 2805;
+constexpr Twips fensterBreite = 5055_tw;
+constexpr Twips fensterHoehe = 2805_tw;
 constexpr int grussBild = 3;
 
 // The largest face of the row in which the caption fits the width.
 QFont PassendeSchrift(const QString& text, int breite) {
-    for (const double punkt : {10.0, 9.5, 9.0, 8.5, 8.0, 7.5}) {
-        const QFont schrift = Schrift(punkt);
+    for (const Schriftpunkte groesse : {10_pt, 9.5_pt, 9_pt, 8.5_pt, 8_pt, 7.5_pt}) {
+        const QFont schrift = Schrift(groesse);
         if (QFontMetrics(schrift).horizontalAdvance(text) <= breite) {
             return schrift;
         }
     }
-    return Schrift(7);
+    return Schrift(7_pt);
 }
 
 } // namespace
@@ -46,7 +46,7 @@ frmMeldung::frmMeldung(const MeldungsText& meldung)
         QGuiApplication::restoreOverrideCursor();
     }
     HintergrundLaden("MELDUNG.bmp");
-    TwipsGeometrie(lblMeldung_, 60, 930, 4875, 1035);
+    TwipsGeometrie(lblMeldung_, 60_tw, 930_tw, 4875_tw, 1035_tw);
     BilderBauen();
     NummerBauen(meldung.nummer);
     TasteBauen();
@@ -56,31 +56,31 @@ frmMeldung::frmMeldung(const MeldungsText& meldung)
 }
 
 void frmMeldung::BilderBauen() {
-    TwipsGeometrie(pnlPic_, 2265, 270, 480, 480);
+    TwipsGeometrie(pnlPic_, 2265_tw, 270_tw, 480_tw, 480_tw);
     pnlPic_->setFrameShape(QFrame::NoFrame);
     pnlPic_->setAttribute(Qt::WA_NoSystemBackground);
     pnlPic_->setFarben(Qt::transparent, Qt::black);
     for (int i = 0; i < static_cast<int>(picMeldung_.size()); ++i) {
         auto* bild =
             SinnbildLabel(pnlPic_, "picMeldung", i, sinnbilder::meldung.at(static_cast<std::size_t>(i)));
-        bild->move(Pixel(900), 0);
+        bild->move(Pixel(900_tw), 0);
         picMeldung_[static_cast<std::size_t>(i)] = bild;
     }
     picMeldung_[grussBild]->installEventFilter(this);
 }
 
 void frmMeldung::NummerBauen(std::string_view nummer) {
-    TwipsGeometrie(pnlNr_, fensterBreite - 450, 150, 360, 255);
+    TwipsGeometrie(pnlNr_, fensterBreite - 450_tw, 150_tw, 360_tw, 255_tw);
     lblNr_->setObjectName(QStringLiteral("lblNr"));
     lblNr_->setGeometry(pnlNr_->rect());
     lblNr_->setAlignment(Qt::AlignCenter);
-    lblNr_->setFont(Schrift(7.5));
+    lblNr_->setFont(Schrift(7.5_pt));
     lblNr_->setText(Anzeige(nummer));
     lblNr_->installEventFilter(this);
 }
 
 void frmMeldung::TasteBauen() {
-    TwipsGeometrie(cmdKenntnis_, 225, fensterHoehe - 585, fensterBreite - 450, 420);
+    TwipsGeometrie(cmdKenntnis_, 225_tw, fensterHoehe - 585_tw, fensterBreite - 450_tw, 420_tw);
     cmdKenntnis_->setObjectName(QStringLiteral("cmdKenntnis"));
     cmdKenntnis_->setDefault(true);
     cmdKenntnis_->setFocus();
@@ -102,7 +102,7 @@ void frmMeldung::Beschriften(const QString& text, const QString& antwort) {
 void frmMeldung::Anordnen() {
     Zentrieren(fensterHoehe);
     for (std::size_t i = 1; i < picMeldung_.size(); ++i) {
-        picMeldung_[i]->move(static_cast<int>(i) == bild_ ? 0 : Pixel(900), 0);
+        picMeldung_[i]->move(static_cast<int>(i) == bild_ ? 0 : Pixel(900_tw), 0);
     }
     if (bild_ == 0) {
         picMeldung_[0]->move(0, 0);
@@ -112,7 +112,7 @@ void frmMeldung::Anordnen() {
 void frmMeldung::paintEvent(QPaintEvent* ereignis) {
     Dialoggrund::paintEvent(ereignis);
     QPainter maler(this);
-    maler.setFont(Schrift(9));
+    maler.setFont(Schrift(9_pt));
     const int zeilenhoehe = maler.fontMetrics().height();
     for (int i = 0; i < gruesse_; ++i) {
         maler.drawText(QRect(0, i * zeilenhoehe, width(), zeilenhoehe), Qt::AlignLeft,

@@ -17,12 +17,12 @@
 
 namespace {
 
-constexpr double innenBreite = 6585;
-constexpr double innenHoehe = 1950;
-constexpr double fensterHoehe = innenHoehe + titelHoeheTwips;
-constexpr double tastenBreite = 1485;
-constexpr double tastenHoehe = 450;
-constexpr double ungenutzt = -1;
+constexpr Twips innenBreite = 6585_tw;
+constexpr Twips innenHoehe = 1950_tw;
+constexpr Twips fensterHoehe = innenHoehe + titelHoehe;
+constexpr Twips tastenBreite = 1485_tw;
+constexpr Twips tastenHoehe = 450_tw;
+constexpr Twips ungenutzt = -1_tw;
 
 enum Taste { Ja, Nein, Abbrechen, Hilfe, OK };
 
@@ -60,13 +60,13 @@ protected:
     }
 };
 
-// Left edges of the buttons by button set, in twips.
-constexpr std::array<std::array<double, 5>, 5> tastenLinks{{
-    {ungenutzt, ungenutzt, ungenutzt, ungenutzt, 2565},
-    {885, 2565, ungenutzt, 4245, ungenutzt},
-    {120, 1740, 3360, 4980, ungenutzt},
-    {ungenutzt, ungenutzt, 2565, 4245, 885},
-    {885, ungenutzt, 2565, 4245, ungenutzt},
+// Left edges of the buttons by button set.
+constexpr std::array<std::array<Twips, 5>, 5> tastenLinks{{
+    {ungenutzt, ungenutzt, ungenutzt, ungenutzt, 2565_tw},
+    {885_tw, 2565_tw, ungenutzt, 4245_tw, ungenutzt},
+    {120_tw, 1740_tw, 3360_tw, 4980_tw, ungenutzt},
+    {ungenutzt, ungenutzt, 2565_tw, 4245_tw, 885_tw},
+    {885_tw, ungenutzt, 2565_tw, 4245_tw, ungenutzt},
 }};
 
 } // namespace
@@ -75,13 +75,13 @@ frmNachricht::frmNachricht()
     : Dialoggrund(QStringLiteral("frmNachricht"), innenBreite, innenHoehe,
                   Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       lblNachrichtentext_(new Textschild(this, QStringLiteral("lblNachrichtentext"))) {
-    Zentrieren(fensterHoehe, 450);
+    Zentrieren(fensterHoehe, 450_tw);
     HintergrundLaden("NACHRICHT.bmp");
-    TwipsGeometrie(lblNachrichtentext_, 750, 255, 5295, 1155);
+    TwipsGeometrie(lblNachrichtentext_, 750_tw, 255_tw, 5295_tw, 1155_tw);
     for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
         auto* bild =
             SinnbildLabel(this, "picSymbol", i, sinnbilder::nachricht.at(static_cast<std::size_t>(i)));
-        bild->move(Pixel(195), Pixel(240));
+        bild->move(Pixel(195_tw), Pixel(240_tw));
         picSymbol_[static_cast<std::size_t>(i)] = bild;
     }
     TastenBauen();
@@ -89,11 +89,11 @@ frmNachricht::frmNachricht()
 }
 
 void frmNachricht::TastenBauen() {
-    constexpr std::array<double, 5> entwurfLinks{120, 1740, 3360, 4980, 2565};
+    constexpr std::array<Twips, 5> entwurfLinks{120_tw, 1740_tw, 3360_tw, 4980_tw, 2565_tw};
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
         auto* taste = new Worttaste(this, antwortworte.at(i));
         taste->setObjectName(QStringLiteral("cmdAntwort(%1)").arg(i));
-        TwipsGeometrie(taste, entwurfLinks[i], fensterHoehe - 1140, tastenBreite, tastenHoehe);
+        TwipsGeometrie(taste, entwurfLinks[i], fensterHoehe - 1140_tw, tastenBreite, tastenHoehe);
         connect(taste, &QPushButton::clicked, this, [this, i] { Beantworten(static_cast<int>(i)); });
         cmdAntwort_[i] = taste;
     }
@@ -117,9 +117,9 @@ void frmNachricht::TastenAnordnen() {
     const auto& links = tastenLinks[static_cast<std::size_t>(tasten_)];
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
         QPushButton* taste = cmdAntwort_[i];
-        const bool inGebrauch = links[i] >= 0;
+        const bool inGebrauch = links[i] >= 0_tw;
         const int x = inGebrauch ? Pixel(links[i]) : taste->x();
-        const QPoint ort(x, Pixel(inGebrauch ? fensterHoehe - 930 : fensterHoehe + 60));
+        const QPoint ort(x, Pixel(inGebrauch ? fensterHoehe - 930_tw : fensterHoehe + 60_tw));
         if (taste->pos() != ort) {
             taste->move(ort);
         }

@@ -27,7 +27,7 @@ int Tastenbreite(const editortexte::Taste& zeile) {
     if (IstLampe(zeile)) {
         return tastenHoehe;
     }
-    const QFontMetrics mass(Schrift(8.25));
+    const QFontMetrics mass(Schrift(8.25_pt));
     return tastenbildKante + 4 + mass.horizontalAdvance(Anzeige(zeile.aufschrift)) + 10;
 }
 
@@ -42,7 +42,7 @@ void TasteBauen(QWidget* leiste, const editortexte::Taste& zeile) {
     }
     taste->setText(Anzeige(zeile.aufschrift));
     taste->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    taste->setFont(Schrift(8.25));
+    taste->setFont(Schrift(8.25_pt));
     // A click leaves the cursor in the text; Tab reaches the buttons all the same.
     taste->setFocusPolicy(Qt::TabFocus);
     taste->setCheckable(zeile.schalter);
@@ -89,9 +89,9 @@ void frmEditor::ToolbarBauen() {
     for (Panel* panel : {pnlLaufname, pnlDatei}) {
         panel->setFrameShadow(QFrame::Sunken);
         panel->setAusrichtung(Qt::AlignLeft);
-        panel->setFont(Schrift(9));
+        panel->setFont(Schrift(9_pt));
     }
-    pnlLaufname->setFont(Schrift(9, true));
+    pnlLaufname->setFont(Schrift(9_pt, true));
 }
 
 void frmEditor::FeldBauen() {
@@ -100,7 +100,7 @@ void frmEditor::FeldBauen() {
     pnlNotiz_->setFrameShadow(QFrame::Sunken);
     txtNotiz = new Notizfeld(pnlNotiz_);
     txtNotiz->setFrameShape(QFrame::NoFrame);
-    txtNotiz->setFont(Schrift(10));
+    txtNotiz->setFont(Schrift(10_pt));
     txtNotiz->setAccessibleName(QStringLiteral("Text der Datei"));
     txtNotiz->document()->setDocumentMargin(5);
     setMinimumSize(300, 240);

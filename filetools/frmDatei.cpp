@@ -147,7 +147,7 @@ void frmDatei::VorschauBeenden() {
 // What the button for finding a file does: it changes the view and looks for nothing. It is meant.
 void frmDatei::Suchansicht() {
     picDatei_->hide();
-    picList_->setFixedWidth(Pixel(5235));
+    picList_->setFixedWidth(Pixel(5235_tw));
     fraLaufwerk_->SuchansichtZeigen();
     fraDir_->setFixedWidth(fraLaufwerk_->width());
     picButtons_->hide();

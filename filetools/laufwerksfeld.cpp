@@ -67,10 +67,10 @@ void Laufwerksfeld::ListeZeigen(bool liste) {
 
 void Laufwerksfeld::SuchansichtZeigen() {
     if (!cmdLaufwerk_.empty()) {
-        cmdLaufwerk_.front()->setFixedWidth(Pixel(300));
+        cmdLaufwerk_.front()->setFixedWidth(Pixel(300_tw));
     }
     ListeZeigen(true);
-    setFixedWidth(Pixel(3015));
+    setFixedWidth(Pixel(3015_tw));
 }
 
 void Laufwerksfeld::mouseDoubleClickEvent(QMouseEvent*) {

@@ -59,7 +59,7 @@ Panel* PanelBauen(QWidget* hilfepanel, const char* name) {
     auto* panel = new Panel(hilfepanel, QLatin1String(name));
     panel->setAusrichtung(Qt::AlignLeft);
     panel->setFrameShadow(QFrame::Sunken);
-    panel->setFont(Schrift(8.25));
+    panel->setFont(Schrift(8.25_pt));
     QObject::connect(panel, &Panel::doppeltGeklickt, panel, [] { AblageLeeren(); });
     return panel;
 }
@@ -88,11 +88,11 @@ void AblageAnordnen() {
     if (pnlCopyF.isNull()) {
         return;
     }
-    constexpr int links = 3600;
-    constexpr int breiteF = 2400;
-    constexpr int breiteA = breiteF / 2;
-    TwipsGeometrie(pnlCopyF, links, 45, breiteF, 285);
-    TwipsGeometrie(pnlCopyA, links + breiteF + 60, 45, breiteA, 285);
+    constexpr Twips links = 3600_tw;
+    constexpr Twips breiteF = 2400_tw;
+    constexpr Twips breiteA = breiteF / 2;
+    TwipsGeometrie(pnlCopyF, links, 45_tw, breiteF, 285_tw);
+    TwipsGeometrie(pnlCopyA, links + breiteF + 60_tw, 45_tw, breiteA, 285_tw);
 }
 
 void AblageAblegen(const Ziehwert& wert, bool vomHilfepanel) {

@@ -39,7 +39,7 @@ void FlaggenAnordnen(QWidget* pnlKranz) {
     const auto* picHB = pnlKranz->findChild<QWidget*>(QStringLiteral("picHB"));
     const QWidget* leiste = picHB->isHidden() ? picFK : picHB;
     for (QLabel* flagge : {picEingabeFlagGruen.data(), picEingabeFlagRot.data()}) {
-        flagge->setGeometry(Pixel(60) + leiste->width() + Pixel(120), Pixel(60), 24, Pixel(375));
+        flagge->setGeometry(Pixel(60_tw) + leiste->width() + Pixel(120_tw), Pixel(60_tw), 24, Pixel(375_tw));
     }
 }
 

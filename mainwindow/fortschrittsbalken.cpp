@@ -11,7 +11,7 @@ namespace {
 
 QPointer<Panel> pnlKaro;
 
-constexpr int linkerRand = 2700; // twips; the status text stays legible to the left of it
+constexpr Twips linkerRand = 2700_tw; // the status text stays legible to the left of it
 
 // Nothing else runs beside a long step, so the bar paints itself at once.
 void Zeichnen(double prozent, Farbe farbe) {
@@ -49,8 +49,8 @@ void FortschrittStart(std::string_view text) {
         return;
     }
     // It reaches the right edge of the clipboard panels.
-    constexpr int rechts = 3600 + 2400 + 60 + 1200;
-    TwipsGeometrie(pnlKaro, linkerRand, 45, rechts - linkerRand, 285);
+    constexpr Twips rechts = 3600_tw + 2400_tw + 60_tw + 1200_tw;
+    TwipsGeometrie(pnlKaro, linkerRand, 45_tw, rechts - linkerRand, 285_tw);
     pnlKaro->raise();
     pnlKaro->show();
     Zeichnen(0.0, {223, 0, 0});

@@ -38,14 +38,14 @@ namespace {
 
 QPointer<frmMDI> hauptfenster;
 
-constexpr int kranzHoehe = 495; // twips
-constexpr int hilfeHoehe = 375;
-constexpr int felderBreite = 3615;
+constexpr Twips kranzHoehe = 495_tw;
+constexpr Twips hilfeHoehe = 375_tw;
+constexpr Twips felderBreite = 3615_tw;
 constexpr int tippBreite = 180; // pixels
 
 Panel* FelderPanelBauen(QWidget* pnlHilfe) {
     auto* panel = new Panel(pnlHilfe, QStringLiteral("pnlFKFelder"));
-    panel->setFont(Schrift(7.5));
+    panel->setFont(Schrift(7.5_pt));
     panel->hide();
     return panel;
 }
@@ -107,7 +107,7 @@ void frmMDI::FlaechenBauen() {
 void frmMDI::Anordnen() {
     WerkzeugleistenAnordnen(pnlKranz_);
     AblageAnordnen();
-    TwipsGeometrie(pnlFKFelder_, pnlHilfe_->width() * 15.0 - 3675, 45, felderBreite, 285);
+    TwipsGeometrie(pnlFKFelder_, TwipsAus(pnlHilfe_->width()) - 3675_tw, 45_tw, felderBreite, 285_tw);
 }
 
 void frmMDI::resizeEvent(QResizeEvent* ereignis) {

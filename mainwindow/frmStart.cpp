@@ -24,8 +24,8 @@
 
 namespace {
 
-constexpr int breite = 5605; // client area in twips
-constexpr int hoehe = 3045;
+constexpr Twips breite = 5605_tw; // client area
+constexpr Twips hoehe = 3045_tw;
 constexpr int tippBreite = 300; // pixels
 
 } // namespace
@@ -41,7 +41,7 @@ frmStart::frmStart() {
     BildLaden();
     lblVersion_ = new QLabel(this);
     lblVersion_->setObjectName(QStringLiteral("lblVersion"));
-    lblVersion_->setFont(Schrift(8.25));
+    lblVersion_->setFont(Schrift(8.25_pt));
     lblVersion_->setAlignment(Qt::AlignCenter);
     lblVersion_->setText(QStringLiteral("[ Rev. %1.%2.%3 ]")
                              .arg(konfiguration::versionHaupt)

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int statusBreite = 3600 - 60; // twips, up to the clipboard panels
+constexpr Twips statusBreite = 3600_tw - 60_tw; // up to the clipboard panels
 
 } // namespace
 
@@ -16,9 +16,9 @@ void Hilfepanel::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.fillRect(rect(), grund());
     const QRect flaeche(2, 0, Pixel(statusBreite), height());
-    QFont schrift = Schrift(8.25);
+    QFont schrift = Schrift(8.25_pt);
     if (QFontMetrics(schrift).horizontalAdvance(caption()) > flaeche.width()) {
-        schrift = Schrift(7.5);
+        schrift = Schrift(7.5_pt);
     }
     maler.setFont(schrift);
     maler.setPen(palette().color(QPalette::ButtonText));

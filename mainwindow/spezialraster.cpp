@@ -20,7 +20,8 @@ void ZelleBauen(QWidget* picSpezial, int spalte, int reihe) {
     zelle->setObjectName(QStringLiteral("picJoker(%1)").arg(n));
     zelle->setAccessibleName(QStringLiteral("Feld %1").arg(n));
     zelle->setAutoFillBackground(true);
-    zelle->setGeometry(Pixel((spalte - 1) * 75 + 45), Pixel(reihe * 60 + 45), Pixel(60), Pixel(45));
+    zelle->setGeometry(Pixel((spalte - 1) * 75_tw + 45_tw), Pixel(reihe * 60_tw + 45_tw), Pixel(60_tw),
+                       Pixel(45_tw));
     zellen.at(static_cast<std::size_t>(n)) = zelle;
 }
 

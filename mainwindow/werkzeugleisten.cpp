@@ -23,8 +23,8 @@
 
 namespace {
 
-constexpr int leistenHoehe = 375; // twips
-constexpr int leistenRand = 60;
+constexpr Twips leistenHoehe = 375_tw;
+constexpr Twips leistenRand = 60_tw;
 
 struct Leistenname {
     Leiste leiste;
@@ -150,7 +150,7 @@ std::vector<Gemessen> Messen(const QWidget* pnlKranz, const QFont& schrift) {
 
 // Width that a toolbar, what stands behind it and the constant buttons need together.
 int Bedarf(std::span<const Gemessen> tasten, Leiste leiste, const Leistenmass& mass) {
-    int bedarf = Pixel(2 * leistenRand + 525 + 120) + 4 + 24 + 4;
+    int bedarf = Pixel(2 * leistenRand + 525_tw + 120_tw) + 4 + 24 + 4;
     for (const auto& [zeile, steht, wortbreite] : tasten) {
         if (steht && (zeile->leiste == leiste || zeile->leiste == Leiste::Immer)) {
             bedarf += tastenbildKante + polster + (OhneWort(*zeile, mass) ? 0 : wortbreite) +
@@ -163,7 +163,7 @@ int Bedarf(std::span<const Gemessen> tasten, Leiste leiste, const Leistenmass& m
 // As many captions as find their place beside the toolbar that stands: they go from the front of the list
 // until the rest fits, and what still has room then comes back.
 Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
-    Leistenmass mass{Schrift(8.25), 7, {}};
+    Leistenmass mass{Schrift(8.25_pt), 7, {}};
     const std::vector<Gemessen> tasten = Messen(pnlKranz, mass.schrift);
     const auto passt = [&] {
         return std::ranges::all_of(leistennamen, [&](const Leistenname& eintrag) {
@@ -188,14 +188,14 @@ Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
 void FKLeisteAnordnen(QWidget* pnlKranz, const Leistenmass& mass) {
     QWidget* picFK = Traeger(pnlKranz, Leiste::FK);
     const int ende = Aufreihen(pnlKranz, Leiste::FK, 0, 0, mass) + 4;
-    picFK->setGeometry(Pixel(leistenRand), Pixel(leistenRand), ende + Pixel(525), Pixel(leistenHoehe));
+    picFK->setGeometry(Pixel(leistenRand), Pixel(leistenRand), ende + Pixel(525_tw), Pixel(leistenHoehe));
     picFK->findChild<QWidget*>(QStringLiteral("picSpezial"))
-        ->setGeometry(picFK->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
+        ->setGeometry(picFK->width() - Pixel(525_tw), 0, Pixel(525_tw), Pixel(leistenHoehe));
     QWidget* picHB = Traeger(pnlKranz, Leiste::HB);
     const int endeHB = Aufreihen(pnlKranz, Leiste::HB, 0, 0, mass) + 4;
-    picHB->setGeometry(Pixel(leistenRand), Pixel(leistenRand), endeHB + Pixel(525), Pixel(leistenHoehe));
+    picHB->setGeometry(Pixel(leistenRand), Pixel(leistenRand), endeHB + Pixel(525_tw), Pixel(leistenHoehe));
     picHB->findChild<QWidget*>(QStringLiteral("pnlHBPun"))
-        ->setGeometry(picHB->width() - Pixel(525), 0, Pixel(525), Pixel(leistenHoehe));
+        ->setGeometry(picHB->width() - Pixel(525_tw), 0, Pixel(525_tw), Pixel(leistenHoehe));
 }
 
 } // namespace

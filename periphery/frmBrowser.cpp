@@ -19,9 +19,9 @@ namespace {
 QPointer<frmBrowser> offen;
 
 constexpr std::string_view schema = "file://";
-constexpr double ueberBildschirm = 2100; // twips that the window is lower than the screen
+constexpr Twips ueberBildschirm = 2100_tw; // by which the window is lower than the screen
 constexpr double seitenverhaeltnis = 0.68;
-constexpr double saum = 100; // twips that the control is smaller than the window
+constexpr Twips saum = 100_tw; // by which the control is smaller than the window
 
 // In the main window, as one of its child windows.
 void Aufnehmen(frmBrowser& fenster) {
@@ -76,7 +76,7 @@ void frmBrowser::Navigieren(std::string_view adresse) {
 }
 
 void frmBrowser::Platzieren(QWidget* rahmen) {
-    const double hoehe = Bildschirmgroesse(this).height() * 15.0 - ueberBildschirm;
+    const Twips hoehe = TwipsAus(Bildschirmgroesse(this).height()) - ueberBildschirm;
     const QSize aussen(Pixel(hoehe * seitenverhaeltnis), Pixel(hoehe));
     rahmen->move(0, 0);
     // A window of the desktop is told its inner size; its frame is known only later, and is thin.
@@ -85,7 +85,7 @@ void frmBrowser::Platzieren(QWidget* rahmen) {
 
 void frmBrowser::resizeEvent(QResizeEvent* ereignis) {
     QWidget::resizeEvent(ereignis);
-    TwipsGeometrie(brwWebBrowser_, saum / 2, saum / 2, width() * 15.0 - saum, height() * 15.0 - saum);
+    TwipsGeometrie(brwWebBrowser_, saum / 2, saum / 2, TwipsAus(width()) - saum, TwipsAus(height()) - saum);
 }
 
 frmBrowser* BrowserOffen() {

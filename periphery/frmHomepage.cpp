@@ -26,9 +26,9 @@ namespace {
 QPointer<frmHomepage> offen;
 QString vorgegebenerServer;
 
-constexpr int breite = 12210; // twips, with the frame
-constexpr int hoehe = 8520;
-constexpr int oben = 30; // where the page begins
+constexpr Twips breite = 12210_tw; // with the frame
+constexpr Twips hoehe = 8520_tw;
+constexpr Twips oben = 30_tw; // where the page begins
 
 // The toolkit's web library ends the process where the system gives it no walls to put web pages behind.
 bool NetzSicher() {

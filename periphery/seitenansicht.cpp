@@ -1,5 +1,7 @@
 #include "periphery/seitenansicht.h"
 
+#include "core/laenge.h"
+
 #include <QFile>
 #include <QKeyEvent>
 #include <QPainter>
@@ -11,7 +13,6 @@
 
 namespace {
 
-constexpr double pixelJePunkt = 96.0 / 72.0;
 constexpr double meisteBildpunkte = 24e6; // of one page's picture; a larger page is drawn from a coarser one
 constexpr double stufe = 1.1;             // of the wheel
 constexpr int zeile = 24;                 // step of the arrow keys, in pixels
@@ -82,7 +83,7 @@ double Seitenansicht::Groesse() const {
         return groesse_;
     }
     const auto stelle = static_cast<std::size_t>(seite);
-    return lage_.plaetze.at(stelle).width() / (masse_.at(stelle).width() * pixelJePunkt);
+    return lage_.plaetze.at(stelle).width() / (masse_.at(stelle).width() * pixelJeSchriftpunkt);
 }
 
 void Seitenansicht::Einpassen(Passung passung) {

@@ -1,10 +1,11 @@
 #include "periphery/seitenlage.h"
 
+#include "core/laenge.h"
+
 #include <algorithm>
 
 namespace {
 
-constexpr double pixelJePunkt = 96.0 / 72.0;
 constexpr int laengste = 20000;  // no page gets longer than this many pixels, whatever its file claims
 constexpr int tiefste = 1 << 30; // no page begins below: a document of tens of thousands of the longest
 
@@ -15,7 +16,7 @@ int Kante(double laenge) {
 
 QSize Seitengroesse(QSizeF mass, QSize flaeche, Passung passung, double groesse) {
     const QSizeF frei(flaeche.width() - 2 * seitenabstand, flaeche.height() - 2 * seitenabstand);
-    QSizeF ziel = mass * pixelJePunkt * groesse;
+    QSizeF ziel = mass * pixelJeSchriftpunkt * groesse;
     if (passung == Passung::Breite) {
         ziel = mass * (frei.width() / mass.width());
     } else if (passung == Passung::Seite) {

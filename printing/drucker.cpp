@@ -9,8 +9,6 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include <cmath>
-
 namespace {
 
 std::unique_ptr<QPrinter> derDrucker;
@@ -37,8 +35,8 @@ std::unique_ptr<QPrinter> NeuerDrucker() {
     return drucker;
 }
 
-std::int32_t Ganz(double mm) {
-    return static_cast<std::int32_t>(std::lrint(mm));
+std::string Zahl(Millimeter laenge) {
+    return std::to_string(GanzeZahl(laenge));
 }
 
 } // namespace
@@ -49,19 +47,18 @@ Seitenmasse SeiteMessen(const QPrinter& drucker) {
     const QRectF blatt = seite.fullRect();
     const QMarginsF rand = seite.minimumMargins();
     Seitenmasse masse;
-    masse.links = Ganz(rand.left());
-    masse.oben = Ganz(rand.top());
-    masse.breite = Ganz(blatt.width());
-    masse.hoehe = Ganz(blatt.height());
-    masse.rechts = masse.breite - masse.links - Ganz(blatt.width() - rand.left() - rand.right());
-    masse.unten = masse.hoehe - masse.oben - Ganz(blatt.height() - rand.top() - rand.bottom());
+    masse.links = GanzeMillimeter(rand.left());
+    masse.oben = GanzeMillimeter(rand.top());
+    masse.breite = GanzeMillimeter(blatt.width());
+    masse.hoehe = GanzeMillimeter(blatt.height());
+    masse.rechts = masse.breite - masse.links - GanzeMillimeter(blatt.width() - rand.left() - rand.right());
+    masse.unten = masse.hoehe - masse.oben - GanzeMillimeter(blatt.height() - rand.top() - rand.bottom());
     return masse;
 }
 
 std::string SeitenmasseText(const Seitenmasse& m) {
-    return Einsetzen(drucktexte::seitenmasse,
-                     {std::to_string(m.breite), std::to_string(m.hoehe), std::to_string(m.links),
-                      std::to_string(m.rechts), std::to_string(m.oben), std::to_string(m.unten)});
+    return Einsetzen(drucktexte::seitenmasse, {Zahl(m.breite), Zahl(m.hoehe), Zahl(m.links), Zahl(m.rechts),
+                                               Zahl(m.oben), Zahl(m.unten)});
 }
 
 QPrinter& Drucker() {

@@ -2,7 +2,8 @@
 // page. Where the system knows no printer it makes PDF files. Prints nothing: that is printing/druckseite.h.
 #pragma once
 
-#include <cstdint>
+#include "core/laenge.h"
+
 #include <memory>
 #include <string>
 
@@ -10,7 +11,7 @@ class QPrinter;
 
 // Physical page in whole mm: offsets of the printable area, size of the paper, margins at the far side.
 struct Seitenmasse {
-    std::int32_t links = 0, oben = 0, breite = 0, hoehe = 0, rechts = 0, unten = 0;
+    Millimeter links, oben, breite, hoehe, rechts, unten;
 };
 [[nodiscard]] Seitenmasse SeiteMessen(const QPrinter& drucker);
 // The measures as a text for the user.

@@ -7,21 +7,21 @@ namespace {
 
 // What differs between the two papers; the members stand in the order of Druckgeometrie.
 struct Papierwerte {
-    float randLinks, randOben;
+    Millimeter randLinks, randOben;
     float massstab;
     float lueckenfaktor;
-    float breiteNutz, hoeheNutz;
-    float kopfHoehe, kopfLuecke, gebietHoehe;
-    float textEinzug, textOben, antwortOben, rahmenEinzug;
+    Millimeter breiteNutz, hoeheNutz;
+    Millimeter kopfHoehe, kopfLuecke, gebietHoehe;
+    Millimeter textEinzug, textOben, antwortOben, rahmenEinzug;
     float frageAnteil, antwortAnteil;
-    int strichKopf, strichFeld, strichDuenn;
+    Druckpunkte strichKopf, strichFeld, strichDuenn;
 };
 
 constexpr std::array<Papierwerte, 2> papierwerte{{
-    {10.0F, 25.0F, 1.0F, 1.0F, 277.0F, 175.0F, 12.0F, 3.0F, 9.0F, 8.5F, 1.5F, 1.5F, 1.0F, 0.65F, 0.35F, 11, 9,
-     5},
-    {6.0F, 20.0F, 0.7F, 0.7F, 198.0F, 122.0F, 8.4F, 2.1F, 6.3F, 5.95F, 0.875F, 0.875F, 0.35F, 0.7F, 0.3F, 9,
-     7, 5},
+    {10_mm, 25_mm, 1.0F, 1.0F, 277_mm, 175_mm, 12_mm, 3_mm, 9_mm, 8.5_mm, 1.5_mm, 1.5_mm, 1_mm, 0.65F, 0.35F,
+     11_dp, 9_dp, 5_dp},
+    {6_mm, 20_mm, 0.7F, 0.7F, 198_mm, 122_mm, 8.4_mm, 2.1_mm, 6.3_mm, 5.95_mm, 0.875_mm, 0.875_mm, 0.35_mm,
+     0.7F, 0.3F, 9_dp, 7_dp, 5_dp},
 }};
 
 void Uebernehmen(Druckgeometrie& g, const Papierwerte& w) {
@@ -53,12 +53,13 @@ std::optional<Papier> PapierAus(std::string_view papierformat) {
     return std::nullopt;
 }
 
-Druckgeometrie GeometrieRechnen(Papier papier, float zwischenabstand, std::int32_t links, std::int32_t oben) {
+Druckgeometrie GeometrieRechnen(Papier papier, Millimeter zwischenabstand, Millimeter links,
+                                Millimeter oben) {
     const Papierwerte& w = papierwerte[static_cast<std::size_t>(papier)];
     Druckgeometrie g{};
     Uebernehmen(g, w);
-    g.RandLinks = w.randLinks - static_cast<float>(links);
-    g.RandOben = w.randOben - static_cast<float>(oben);
+    g.RandLinks = w.randLinks - links;
+    g.RandOben = w.randOben - oben;
     g.LueckeX = zwischenabstand * w.lueckenfaktor;
     g.LueckeY = zwischenabstand * w.lueckenfaktor;
 
@@ -67,12 +68,12 @@ Druckgeometrie GeometrieRechnen(Papier papier, float zwischenabstand, std::int32
     g.FrageHoehe = g.ZeileGanz * g.FrageAnteil;
     g.AntwortHoehe = g.ZeileGanz * g.AntwortAnteil;
     // Every font shrinks a little as the gap grows.
-    g.Massstab = w.massstab - zwischenabstand / 50.0F;
+    g.Massstab = w.massstab - zwischenabstand / 50_mm;
     g.SpaltenRaster = g.SpaltenBreite + g.LueckeX;
     g.ZeilenRaster = g.AntwortHoehe + g.FrageHoehe + g.LueckeY;
-    g.NummerBreite = g.Massstab * 7.0F;
-    g.NummerEinzug = 1.0F;
-    g.TextBreite = g.SpaltenBreite - g.TextEinzug - 2.0F;
+    g.NummerBreite = g.Massstab * 7_mm;
+    g.NummerEinzug = 1_mm;
+    g.TextBreite = g.SpaltenBreite - g.TextEinzug - 2_mm;
     g.ZeilenOben = g.RandOben + g.KopfHoehe + g.KopfLuecke + g.GebietHoehe + g.LueckeY;
     return g;
 }

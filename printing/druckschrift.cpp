@@ -27,7 +27,7 @@ QFont DruckFont(const Schrift& schrift) {
     font.setFamilies(Familien(schrift.art));
     font.setStyleHint(QFont::SansSerif, QFont::PreferOutline);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setPointSizeF(static_cast<double>(schrift.groesse));
+    font.setPointSizeF(static_cast<double>(schrift.groesse.zahl()));
     if (schrift.art == Schriftart::ArialBlack) {
         font.setWeight(QFont::Black);
     } else {
@@ -36,8 +36,7 @@ QFont DruckFont(const Schrift& schrift) {
     return font;
 }
 
-Druckschriften::Druckschriften(QPaintDevice& geraet)
-    : geraet_(geraet), mmJePunkt_(25.4 / geraet.logicalDpiY()) {}
+Druckschriften::Druckschriften(QPaintDevice& geraet) : geraet_(geraet), aufloesung_(geraet.logicalDpiY()) {}
 
 Druckschriften::Eintrag& Druckschriften::Finden(const Schrift& schrift) const {
     const auto stelle = std::find_if(eintraege_.begin(), eintraege_.end(),
@@ -49,33 +48,34 @@ Druckschriften::Eintrag& Druckschriften::Finden(const Schrift& schrift) const {
     return eintraege_.emplace_back(Eintrag{schrift, font, QFontMetricsF(font, &geraet_), {}});
 }
 
-float Druckschriften::Breite(std::string_view text, const Schrift& schrift) const {
-    return static_cast<float>(Finden(schrift).mass.horizontalAdvance(Text(text)) * mmJePunkt_);
+Millimeter Druckschriften::Breite(std::string_view text, const Schrift& schrift) const {
+    return aufloesung_.MillimeterAus(Finden(schrift).mass.horizontalAdvance(Text(text)));
 }
 
 // Letters of a text one by one, without kerning; each byte of a letter beyond ASCII counts as an m, so that
 // the sum is rather too great than too small.
-float Druckschriften::Zeichensumme(std::string_view text, const Schrift& schrift) const {
+Millimeter Druckschriften::Zeichensumme(std::string_view text, const Schrift& schrift) const {
     Eintrag& eintrag = Finden(schrift);
-    float summe = 0.0F;
+    Millimeter summe;
     for (const char byte : text) {
         const bool ascii = static_cast<unsigned char>(byte) < eintrag.zeichen.size();
-        float& breite = eintrag.zeichen[ascii ? static_cast<unsigned char>(byte) : 'm'];
-        if (breite <= 0.0F) {
+        Millimeter& breite = eintrag.zeichen[ascii ? static_cast<unsigned char>(byte) : 'm'];
+        if (breite <= 0_mm) {
             const QLatin1Char zeichen(ascii ? byte : 'm');
-            breite = static_cast<float>(eintrag.mass.horizontalAdvance(QChar(zeichen)) * mmJePunkt_);
+            breite = aufloesung_.MillimeterAus(eintrag.mass.horizontalAdvance(QChar(zeichen)));
         }
         summe += breite;
     }
     return summe;
 }
 
-float Druckschriften::BreiteGegen(std::string_view text, const Schrift& schrift, float grenze) const {
-    const float ungefaehr = Zeichensumme(text, schrift);
+Millimeter Druckschriften::BreiteGegen(std::string_view text, const Schrift& schrift,
+                                       Millimeter grenze) const {
+    const Millimeter ungefaehr = Zeichensumme(text, schrift);
     return ungefaehr * 1.05F < grenze ? ungefaehr : Breite(text, schrift);
 }
 
-float Druckschriften::Hoehe(const Schrift& schrift) const {
+Millimeter Druckschriften::Hoehe(const Schrift& schrift) const {
     const QFontMetricsF& mass = Finden(schrift).mass;
-    return static_cast<float>((mass.ascent() + mass.descent()) * mmJePunkt_);
+    return aufloesung_.MillimeterAus(mass.ascent() + mass.descent());
 }

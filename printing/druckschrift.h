@@ -20,25 +20,25 @@ class Druckschriften final : public Schriftmass {
 public:
     explicit Druckschriften(QPaintDevice& geraet);
 
-    [[nodiscard]] float Breite(std::string_view text, const Schrift& schrift) const override;
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override;
     // Most buffers of a line that is being filled are far from its limit: for them the letters are added up.
-    [[nodiscard]] float BreiteGegen(std::string_view text, const Schrift& schrift,
-                                    float grenze) const override;
-    [[nodiscard]] float Hoehe(const Schrift& schrift) const override;
+    [[nodiscard]] Millimeter BreiteGegen(std::string_view text, const Schrift& schrift,
+                                         Millimeter grenze) const override;
+    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override;
 
     struct Eintrag {
         Schrift schrift;
         QFont font;
-        QFontMetricsF mass;               // in device units
-        std::array<float, 128> zeichen{}; // widths of single letters in mm, 0 for one not yet measured
+        QFontMetricsF mass;                    // in the device's pixels
+        std::array<Millimeter, 128> zeichen{}; // widths of single letters, 0 for one not yet measured
     };
     // Font and measures, made at the first use. Valid until the next call.
     [[nodiscard]] Eintrag& Finden(const Schrift& schrift) const;
 
 private:
-    [[nodiscard]] float Zeichensumme(std::string_view text, const Schrift& schrift) const;
+    [[nodiscard]] Millimeter Zeichensumme(std::string_view text, const Schrift& schrift) const;
 
     QPaintDevice& geraet_;
-    double mmJePunkt_;
+    Aufloesung aufloesung_;
     mutable std::vector<Eintrag> eintraege_;
 };

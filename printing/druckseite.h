@@ -22,7 +22,7 @@ public:
 
     [[nodiscard]] const Seitenmasse& masse() const { return masse_; }
     // Upright is a page not wider than 210 mm.
-    [[nodiscard]] bool hochkant() const { return masse_.breite <= 210; }
+    [[nodiscard]] bool hochkant() const { return masse_.breite <= 210_mm; }
     [[nodiscard]] const Schriftmass& schriftmass() const { return schriften_; }
 
     // Paints the page, relative to the printable origin, and sends it; fortschritt is called thirty times.

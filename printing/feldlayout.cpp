@@ -27,12 +27,12 @@ struct Feldplatz {
     const FKDruckfeld& feld;
     const Artzeile* art;
     int zeile; // 1 to 5, the worth of a plain cell
-    float x, y;
+    Millimeter x, y;
 };
 
 void RahmenZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     const Druckgeometrie& g = s.g;
-    const float hoehe = g.FrageHoehe + g.AntwortHoehe;
+    const Millimeter hoehe = g.FrageHoehe + g.AntwortHoehe;
     const Rechteck aussen{s.x, s.y, g.SpaltenBreite, hoehe, {g.StrichDuenn, farbeSchwarz}, {}};
     zeichnung.emplace_back(aussen);
     if (s.art == nullptr) {
@@ -42,7 +42,7 @@ void RahmenZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     Rechteck innen{s.x + g.RahmenEinzug,
                    s.y + g.RahmenEinzug,
                    g.SpaltenBreite - 2.0F * g.RahmenEinzug,
-                   hoehe - 2.0F * g.RahmenEinzug - 0.1F,
+                   hoehe - 2.0F * g.RahmenEinzug - 0.1_mm,
                    {g.StrichFeld, farbeSchwarz},
                    {}};
     if (s.daten.rahmenFarbig) {
@@ -60,15 +60,16 @@ void RahmenZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
 void TeilerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     const Druckgeometrie& g = s.g;
     const Stift stift{g.StrichDuenn, farbeSchwarz};
-    const float links = s.x + g.NummerBreite;
-    const float mitte = s.y + g.FrageHoehe;
+    const Millimeter links = s.x + g.NummerBreite;
+    const Millimeter mitte = s.y + g.FrageHoehe;
     zeichnung.emplace_back(Strich{links, mitte, s.x + g.SpaltenBreite, mitte, stift});
     zeichnung.emplace_back(Strich{links, s.y, links, mitte + g.AntwortHoehe, stift});
 }
 
 // Lines run on below the cell when there are many: nothing is cut off, and that is meant.
-void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::string& text, float y, bool fett) {
-    const Schrift schrift{Schriftart::Arial, 8.0F * s.g.Massstab, fett};
+void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::string& text, Millimeter y,
+                      bool fett) {
+    const Schrift schrift{Schriftart::Arial, 8_pt * s.g.Massstab, fett};
     const auto zeilen = Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) {
         return s.mass.BreiteGegen(teil, schrift, s.g.TextBreite);
     });
@@ -78,7 +79,7 @@ void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::strin
 void FrageZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     RahmenZeichnen(zeichnung, s);
     if (HatWort(s.art)) {
-        const Schrift schrift{Schriftart::Arial, 18.0F * s.g.Massstab, true};
+        const Schrift schrift{Schriftart::Arial, 18_pt * s.g.Massstab, true};
         TextZentriert(zeichnung, s.mass, s.x + s.g.SpaltenBreite / 2.0F,
                       s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->druckWort);
         return;
@@ -110,8 +111,8 @@ void NummerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     if (!s.feld.frageSichtbar) {
         return; // not in play
     }
-    const Schrift schrift{Schriftart::Arial, 12.0F * s.g.Massstab, true};
-    const float x = s.x + s.g.NummerBreite / 2.0F;
+    const Schrift schrift{Schriftart::Arial, 12_pt * s.g.Massstab, true};
+    const Millimeter x = s.x + s.g.NummerBreite / 2.0F;
     TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe / 2.0F, schrift, Nummer(s));
     if (s.art != nullptr && !HatWort(s.art)) {
         TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe + s.g.AntwortHoehe / 2.0F, schrift,

@@ -1,6 +1,7 @@
 // Printing the quiz form as a command: the checks and the question before it, the value on its way to the
 // paper.
 #include "core/hauptfenster.h"
+#include "core/laenge.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "printing/druckauftrag.h"
@@ -40,8 +41,8 @@ void FormularDrucken(const Quizformular& form, const Spielwerte& spiel, const st
         if (!Gefragt(seite.hochkant())) {
             return {};
         }
-        const Druckgeometrie geometrie =
-            GeometrieRechnen(*papier, spiel.Zwischenabstand, seite.masse().links, seite.masse().oben);
+        const Druckgeometrie geometrie = GeometrieRechnen(*papier, Millimeter(spiel.Zwischenabstand),
+                                                          seite.masse().links, seite.masse().oben);
         FortschrittSchritt(2);
         const Zeichnung zeichnung =
             FormularZeichnen(DruckdatenAus(form, spiel, blanko), geometrie, seite.schriftmass());

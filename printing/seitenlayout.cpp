@@ -22,14 +22,14 @@ void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckge
     }
     zeichnung.emplace_back(rahmen);
 
-    const Schrift gross{Schriftart::Arial, 20.0F * g.Massstab, true};
-    const Schrift klein{Schriftart::Arial, 11.0F * g.Massstab, true};
-    const float hoehe = g.RandOben + 4.5F * g.Massstab;
+    const Schrift gross{Schriftart::Arial, 20_pt * g.Massstab, true};
+    const Schrift klein{Schriftart::Arial, 11_pt * g.Massstab, true};
+    const Millimeter hoehe = g.RandOben + 4.5_mm * g.Massstab;
     const auto setzen = [&](float spalte, std::string_view vorsatz, const std::string& wert) {
         zeichnung.emplace_back(
             Textstelle{g.RandLinks + spalte * g.SpaltenRaster, hoehe, klein, std::string(vorsatz) + wert});
     };
-    zeichnung.emplace_back(Textstelle{g.RandLinks + 3.0F * g.Massstab, g.RandOben + 2.0F * g.Massstab, gross,
+    zeichnung.emplace_back(Textstelle{g.RandLinks + 3_mm * g.Massstab, g.RandOben + 2_mm * g.Massstab, gross,
                                       std::string(drucktexte::kopf)});
     setzen(3.0F, drucktexte::datum, daten.datum);
     setzen(4.0F, drucktexte::zeit, daten.zeit);
@@ -38,10 +38,10 @@ void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckge
 
 void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
                      const Schriftmass& mass) {
-    const Schrift schrift{Schriftart::Arial, 14.0F * g.Massstab, true};
-    const float y = g.RandOben + g.KopfHoehe + g.KopfLuecke;
+    const Schrift schrift{Schriftart::Arial, 14_pt * g.Massstab, true};
+    const Millimeter y = g.RandOben + g.KopfHoehe + g.KopfLuecke;
     for (std::size_t a = 1; a < daten.gebiete.size(); ++a) {
-        const float x = g.RandLinks + static_cast<float>(a - 1) * g.SpaltenRaster;
+        const Millimeter x = g.RandLinks + static_cast<float>(a - 1) * g.SpaltenRaster;
         Rechteck kopf{x, y, g.SpaltenBreite, g.GebietHoehe, {g.StrichFeld, farbeSchwarz}, {}};
         if (daten.gebieteGrau) {
             kopf.fuellung = gebietGrund;

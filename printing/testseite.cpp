@@ -7,21 +7,21 @@
 
 namespace {
 
-constexpr Stift stift{5, farbeSchwarz};
-constexpr Schrift gross{Schriftart::ArialBlack, 20.0F, true};
-constexpr Schrift mittel{Schriftart::Arial, 12.0F, false};
-constexpr Schrift mittelFett{Schriftart::Arial, 12.0F, true};
-constexpr Schrift klein{Schriftart::Arial, 10.0F, false};
+constexpr Stift stift{5_dp, farbeSchwarz};
+constexpr Schrift gross{Schriftart::ArialBlack, 20_pt, true};
+constexpr Schrift mittel{Schriftart::Arial, 12_pt, false};
+constexpr Schrift mittelFett{Schriftart::Arial, 12_pt, true};
+constexpr Schrift klein{Schriftart::Arial, 10_pt, false};
 
-void Waagerecht(Zeichnung& zeichnung, const Testgeometrie& g, float y) {
+void Waagerecht(Zeichnung& zeichnung, const Testgeometrie& g, Millimeter y) {
     zeichnung.emplace_back(Strich{g.TestRandLinks, y, g.TestRandLinks + g.TestBreite, y, stift});
 }
 
-void Senkrecht(Zeichnung& zeichnung, float x, float oben, float unten) {
+void Senkrecht(Zeichnung& zeichnung, Millimeter x, Millimeter oben, Millimeter unten) {
     zeichnung.emplace_back(Strich{x, oben, x, unten, stift});
 }
 
-void Text(Zeichnung& zeichnung, float x, float y, const Schrift& schrift, std::string text) {
+void Text(Zeichnung& zeichnung, Millimeter x, Millimeter y, const Schrift& schrift, std::string text) {
     if (!text.empty()) {
         zeichnung.emplace_back(Textstelle{x, y, schrift, std::move(text)});
     }
@@ -30,25 +30,25 @@ void Text(Zeichnung& zeichnung, float x, float y, const Schrift& schrift, std::s
 void RahmenZeichnen(Zeichnung& zeichnung, const Testgeometrie& g) {
     zeichnung.emplace_back(
         Rechteck{g.TestRandLinks, g.TestRandOben, g.TestBreite, g.TestFuss - g.TestRandOben, stift, {}});
-    for (const float y : {10.0F, 20.0F, 30.0F}) {
+    for (const Millimeter y : {10_mm, 20_mm, 30_mm}) {
         Waagerecht(zeichnung, g, g.TestRandOben + y);
     }
-    Senkrecht(zeichnung, g.TestRandLinks + 140.0F, g.TestRandOben, g.TestRandOben + 20.0F);
+    Senkrecht(zeichnung, g.TestRandLinks + 140_mm, g.TestRandOben, g.TestRandOben + 20_mm);
 }
 
 void KopfZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Testgeometrie& g) {
-    const float x = g.TestRandLinks;
-    const float y = g.TestRandOben;
+    const Millimeter x = g.TestRandLinks;
+    const Millimeter y = g.TestRandOben;
     Text(zeichnung, x, y, gross, daten.titel);
-    Text(zeichnung, x + 140.0F, y + 3.0F, mittel, "  " + daten.dateiname);
-    Text(zeichnung, x, y + 10.0F, gross, daten.fach);
-    Text(zeichnung, x + 140.0F, y + 13.0F, mittel, "  " + daten.gruppenwort);
-    Text(zeichnung, x + 162.0F, y + 10.0F, gross, daten.gruppe);
-    Text(zeichnung, x, y + 23.0F, mittel, daten.name);
+    Text(zeichnung, x + 140_mm, y + 3_mm, mittel, "  " + daten.dateiname);
+    Text(zeichnung, x, y + 10_mm, gross, daten.fach);
+    Text(zeichnung, x + 140_mm, y + 13_mm, mittel, "  " + daten.gruppenwort);
+    Text(zeichnung, x + 162_mm, y + 10_mm, gross, daten.gruppe);
+    Text(zeichnung, x, y + 23_mm, mittel, daten.name);
 }
 
 // The texts run on when they are long: nothing is cut off.
-void AbsatzZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, float y,
+void AbsatzZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, Millimeter y,
                     const std::string& text) {
     const auto messen = [&](std::string_view teil) {
         return mass.BreiteGegen(teil, klein, g.TestTextBreite);
@@ -57,21 +57,22 @@ void AbsatzZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftm
     TextZeilen(zeichnung, mass, g.TestRandLinks + g.TestNummerSpalte + g.TestTextEinzug, y, klein, zeilen);
 }
 
-void NummerZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, int i, float y) {
+void NummerZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, int i,
+                    Millimeter y) {
     const std::string text = std::to_string(i + 1) + ".";
-    const float rechts = g.TestRandLinks + g.TestNummerSpalte - 2.0F;
+    const Millimeter rechts = g.TestRandLinks + g.TestNummerSpalte - 2_mm;
     Text(zeichnung, rechts - mass.Breite(text, klein), y, klein, text);
 }
 
 // The circle stands a little to the left of the number's middle.
-void PunkteZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, float y,
+void PunkteZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftmass& mass, Millimeter y,
                     const std::string& punkte) {
     if (punkte.empty()) {
         return;
     }
-    const float rechts = g.TestRandLinks + g.TestBreite;
-    Text(zeichnung, rechts - 3.0F - mass.Breite(punkte, klein) / 2.0F, y, klein, punkte);
-    zeichnung.emplace_back(Kreis{rechts - 3.2F, y + mass.Hoehe(klein) / 2.0F, 2.5F, stift});
+    const Millimeter rechts = g.TestRandLinks + g.TestBreite;
+    Text(zeichnung, rechts - 3_mm - mass.Breite(punkte, klein) / 2.0F, y, klein, punkte);
+    zeichnung.emplace_back(Kreis{rechts - 3.2_mm, y + mass.Hoehe(klein) / 2.0F, 2.5_mm, stift});
 }
 
 void FragenZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Testgeometrie& g,
@@ -80,12 +81,12 @@ void FragenZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Tes
     for (int i = 0; i < std::max(1, AnzahlTestfragen(daten)); ++i) {
         NummerZeichnen(zeichnung, g, mass, i, g.TestFragenOben + static_cast<float>(i) * g.TestRaster);
     }
-    float y = g.TestFragenOben;
+    Millimeter y = g.TestFragenOben;
     for (const Testdruckzeile& zeile : daten.zeilen) {
         if (zeile.frage.empty()) {
             continue;
         }
-        PunkteZeichnen(zeichnung, g, mass, y + 10.0F, zeile.punkte);
+        PunkteZeichnen(zeichnung, g, mass, y + 10_mm, zeile.punkte);
         AbsatzZeichnen(zeichnung, g, mass, y, zeile.frage);
         if (daten.mitAntworten) {
             AbsatzZeichnen(zeichnung, g, mass, y + g.TestZeile / 2.0F, zeile.antwort);
@@ -95,15 +96,15 @@ void FragenZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Tes
 }
 
 void FussZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Testgeometrie& g) {
-    const float oben = g.TestFuss - 10.0F;
-    const float text = g.TestFuss - 7.0F;
-    const float drittel = g.TestBreite / 3.0F;
-    const float x = g.TestRandLinks;
+    const Millimeter oben = g.TestFuss - 10_mm;
+    const Millimeter text = g.TestFuss - 7_mm;
+    const Millimeter drittel = g.TestBreite / 3.0F;
+    const Millimeter x = g.TestRandLinks;
     Waagerecht(zeichnung, g, oben);
     Senkrecht(zeichnung, x + drittel, oben, g.TestFuss);
     Senkrecht(zeichnung, x + 2.0F * drittel, oben, g.TestFuss);
     Text(zeichnung, x, text, mittelFett, std::string(testdrucktexte::punkte));
-    Text(zeichnung, x + 40.0F, text, mittel, "/ " + std::to_string(daten.gesamtpunkte));
+    Text(zeichnung, x + 40_mm, text, mittel, "/ " + std::to_string(daten.gesamtpunkte));
     Text(zeichnung, x + drittel, text, mittel, std::string(testdrucktexte::note));
     Text(zeichnung, x + 2.0F * drittel, text, mittel, std::string(testdrucktexte::bewertet));
 }
@@ -115,20 +116,20 @@ int AnzahlTestfragen(const Testdruckdaten& daten) {
                                           [](const Testdruckzeile& zeile) { return !zeile.frage.empty(); }));
 }
 
-Testgeometrie TestGeometrieRechnen(int anzahl, std::int32_t links, std::int32_t oben) {
+Testgeometrie TestGeometrieRechnen(int anzahl, Millimeter links, Millimeter oben) {
     Testgeometrie g{};
-    g.TestRandLinks = 15.0F - static_cast<float>(links);
-    g.TestRandOben = 10.0F - static_cast<float>(oben);
-    g.TestBreite = 166.0F + 11.0F + 3.0F + 5.0F;
-    g.TestTextBreite = 166.0F;
-    g.TestNummerSpalte = 8.0F;
-    g.TestTextEinzug = 3.0F;
-    g.TestFragenOben = g.TestRandOben + 12.0F + 3.0F + 12.0F + 3.0F + 3.0F + 3.0F;
-    g.TestFuss = g.TestRandOben + 277.0F;
+    g.TestRandLinks = 15_mm - links;
+    g.TestRandOben = 10_mm - oben;
+    g.TestBreite = 166_mm + 11_mm + 3_mm + 5_mm;
+    g.TestTextBreite = 166_mm;
+    g.TestNummerSpalte = 8_mm;
+    g.TestTextEinzug = 3_mm;
+    g.TestFragenOben = g.TestRandOben + 12_mm + 3_mm + 12_mm + 3_mm + 3_mm + 3_mm;
+    g.TestFuss = g.TestRandOben + 277_mm;
     // Meant: the 265 count from the sheet and the top from the printable area, so that the height shifts a
     // little with the printer.
-    g.TestZeile = (265.0F - g.TestFragenOben) / static_cast<float>(std::max(1, anzahl)) - 3.0F;
-    g.TestRaster = g.TestZeile + 3.0F;
+    g.TestZeile = (265_mm - g.TestFragenOben) / static_cast<float>(std::max(1, anzahl)) - 3_mm;
+    g.TestRaster = g.TestZeile + 3_mm;
     return g;
 }
 

@@ -1,11 +1,10 @@
-// The layout of the printed test: the measures of its page and every line, circle and text on it, in mm.
+// The layout of the printed test: the measures of its page and every line, circle and text on it.
 // Takes plain values and knows neither the window nor the printer.
 #pragma once
 
 #include "printing/zeichnung.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 struct Testdruckzeile {
@@ -25,20 +24,20 @@ struct Testdruckdaten {
 // Rows with a question: only they are printed.
 [[nodiscard]] int AnzahlTestfragen(const Testdruckdaten& daten);
 
-// Lengths in mm, relative to the printer's printable origin.
+// Places count from the printer's printable origin.
 struct Testgeometrie {
-    float TestRandLinks, TestRandOben; // corner of the frame
-    float TestBreite;                  // of the frame
-    float TestTextBreite;              // longest line of a question or answer
-    float TestNummerSpalte;            // column of the numbers
-    float TestTextEinzug;              // text, behind that column
-    float TestFragenOben;              // top of the first question
-    float TestFuss;                    // bottom of the frame
-    float TestZeile, TestRaster;       // height and pitch of the questions
+    Millimeter TestRandLinks, TestRandOben; // corner of the frame
+    Millimeter TestBreite;                  // of the frame
+    Millimeter TestTextBreite;              // longest line of a question or answer
+    Millimeter TestNummerSpalte;            // column of the numbers
+    Millimeter TestTextEinzug;              // text, behind that column
+    Millimeter TestFragenOben;              // top of the first question
+    Millimeter TestFuss;                    // bottom of the frame
+    Millimeter TestZeile, TestRaster;       // height and pitch of the questions
 };
 
-// anzahl: questions on the page, 0 counts as 1; links, oben: the printer's physical offsets in whole mm.
-[[nodiscard]] Testgeometrie TestGeometrieRechnen(int anzahl, std::int32_t links, std::int32_t oben);
+// anzahl: questions on the page, 0 counts as 1; links, oben: the printer's physical offsets.
+[[nodiscard]] Testgeometrie TestGeometrieRechnen(int anzahl, Millimeter links, Millimeter oben);
 
 // The whole page in drawing order.
 [[nodiscard]] Zeichnung TestZeichnen(const Testdruckdaten& daten, const Testgeometrie& g,

@@ -1,7 +1,7 @@
 #include "printing/zeichnung.h"
 
-void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
-                   std::string_view text) {
+void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
+                   const Schrift& schrift, std::string_view text) {
     if (text.empty()) {
         return;
     }
@@ -9,9 +9,9 @@ void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, float x, float
                                       schrift, std::string(text)});
 }
 
-void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
-                const std::vector<std::string_view>& zeilen) {
-    const float hoehe = mass.Hoehe(schrift);
+void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
+                const Schrift& schrift, const std::vector<std::string_view>& zeilen) {
+    const Millimeter hoehe = mass.Hoehe(schrift);
     for (const std::string_view zeile : zeilen) {
         if (!zeile.empty()) {
             zeichnung.emplace_back(Textstelle{x, y, schrift, std::string(zeile)});

@@ -1,9 +1,10 @@
-// A page as a list of what stands on it: rectangles, lines, circles and texts in millimetres from the
+// A page as a list of what stands on it: rectangles, lines, circles and texts in their places from the
 // printer's printable origin, in the order in which they are drawn. Layout routines make the list; printer,
 // PDF and tests take it from there.
 #pragma once
 
 #include "core/farbe.h"
+#include "core/laenge.h"
 
 #include <optional>
 #include <string>
@@ -16,38 +17,38 @@ enum class Schriftart : unsigned char { Arial, ArialBlack };
 
 struct Schrift {
     Schriftart art = Schriftart::Arial;
-    float groesse = 10.0F; // points
+    Schriftpunkte groesse = 10_pt;
     bool fett = false;
     friend bool operator==(const Schrift&, const Schrift&) = default;
 };
 
-// Width of a line in dots, 600 to the inch, and its colour.
+// Width of a line and its colour.
 struct Stift {
-    int punkte = 5;
+    Druckpunkte punkte = 5_dp;
     Farbe farbe = farbeSchwarz;
 };
 
 struct Rechteck {
-    float x = 0.0F, y = 0.0F, breite = 0.0F, hoehe = 0.0F;
+    Millimeter x, y, breite, hoehe;
     Stift stift;
     std::optional<Farbe> fuellung; // no value: unfilled
 };
 
 struct Strich {
-    float x1 = 0.0F, y1 = 0.0F, x2 = 0.0F, y2 = 0.0F;
+    Millimeter x1, y1, x2, y2;
     Stift stift;
 };
 
 struct Kreis {
-    float x = 0.0F, y = 0.0F; // centre
-    float radius = 0.0F;
+    Millimeter x, y; // centre
+    Millimeter radius;
     Stift stift;
 };
 
 // One line of black text; x and y are the top left corner of its line box, whose height is that of
 // Schriftmass::Hoehe.
 struct Textstelle {
-    float x = 0.0F, y = 0.0F;
+    Millimeter x, y;
     Schrift schrift;
     std::string text; // UTF-8
 };
@@ -55,7 +56,7 @@ struct Textstelle {
 using Element = std::variant<Rechteck, Strich, Kreis, Textstelle>;
 using Zeichnung = std::vector<Element>;
 
-// Measures of text in mm as the printer will set it.
+// Measures of text as the printer will set it.
 class Schriftmass {
 public:
     Schriftmass() = default;
@@ -63,20 +64,20 @@ public:
     Schriftmass& operator=(const Schriftmass&) = delete;
     virtual ~Schriftmass() = default;
 
-    [[nodiscard]] virtual float Breite(std::string_view text, const Schrift& schrift) const = 0;
+    [[nodiscard]] virtual Millimeter Breite(std::string_view text, const Schrift& schrift) const = 0;
     // The same for a text that is only held against a limit: exact near it, else on the right side of it.
-    [[nodiscard]] virtual float BreiteGegen(std::string_view text, const Schrift& schrift,
-                                            float grenze) const {
+    [[nodiscard]] virtual Millimeter BreiteGegen(std::string_view text, const Schrift& schrift,
+                                                 Millimeter grenze) const {
         static_cast<void>(grenze);
         return Breite(text, schrift);
     }
     // Height of a line: ascent and descent, the pitch of lines that follow one another.
-    [[nodiscard]] virtual float Hoehe(const Schrift& schrift) const = 0;
+    [[nodiscard]] virtual Millimeter Hoehe(const Schrift& schrift) const = 0;
 };
 
 // Adds a text centred about the point (x, y).
-void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
-                   std::string_view text);
+void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
+                   const Schrift& schrift, std::string_view text);
 // Adds lines one below the other, the first one at y; empty lines take their place.
-void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, float x, float y, const Schrift& schrift,
-                const std::vector<std::string_view>& zeilen);
+void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
+                const Schrift& schrift, const std::vector<std::string_view>& zeilen);

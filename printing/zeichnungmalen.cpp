@@ -7,20 +7,18 @@
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
-constexpr double punkteJeZoll = 600.0;
 constexpr std::size_t schritte = 30;
 
 // Turns each kind of element into calls of the toolkit, in the device's units.
 class Malgang {
 public:
-    Malgang(QPainter& maler, const Druckschriften& schriften, double versatzX, double versatzY)
+    Malgang(QPainter& maler, const Druckschriften& schriften, Millimeter ursprungX, Millimeter ursprungY)
         : maler_(maler),
           schriften_(schriften),
-          jeMmX_(maler.device()->logicalDpiX() / mmJeZoll),
-          jeMmY_(maler.device()->logicalDpiY() / mmJeZoll),
-          versatzX_(versatzX),
-          versatzY_(versatzY) {}
+          waagerecht_(maler.device()->logicalDpiX()),
+          senkrecht_(maler.device()->logicalDpiY()),
+          ursprungX_(ursprungX),
+          ursprungY_(ursprungY) {}
 
     void operator()(const Rechteck& r) {
         StiftSetzen(r.stift);
@@ -34,8 +32,8 @@ public:
     void operator()(const Kreis& k) {
         StiftSetzen(k.stift);
         maler_.setBrush(Qt::NoBrush);
-        const double radius = static_cast<double>(k.radius);
-        maler_.drawEllipse(Punkt(k.x, k.y), radius * jeMmX_, radius * jeMmY_);
+        maler_.drawEllipse(Punkt(k.x, k.y), waagerecht_.Geraetepixel(k.radius),
+                           senkrecht_.Geraetepixel(k.radius));
     }
     void operator()(const Textstelle& t) {
         const Druckschriften::Eintrag& eintrag = schriften_.Finden(t.schrift);
@@ -48,19 +46,19 @@ public:
 private:
     static QColor Qfarbe(Farbe farbe) { return {farbe.rot, farbe.gruen, farbe.blau}; }
 
-    [[nodiscard]] QPointF Punkt(float x, float y) const {
-        return {(static_cast<double>(x) + versatzX_) * jeMmX_, (static_cast<double>(y) + versatzY_) * jeMmY_};
+    [[nodiscard]] QPointF Punkt(Millimeter x, Millimeter y) const {
+        return {waagerecht_.Geraetepixel(x, ursprungX_), senkrecht_.Geraetepixel(y, ursprungY_)};
     }
 
     void StiftSetzen(const Stift& stift) {
-        const double breite = stift.punkte / punkteJeZoll * mmJeZoll * jeMmX_;
+        const double breite = waagerecht_.Geraetepixel(stift.punkte);
         maler_.setPen(QPen(Qfarbe(stift.farbe), breite, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     }
 
     QPainter& maler_;
     const Druckschriften& schriften_;
-    double jeMmX_, jeMmY_;
-    double versatzX_, versatzY_;
+    Aufloesung waagerecht_, senkrecht_;
+    Millimeter ursprungX_, ursprungY_;
 };
 
 } // namespace
@@ -81,8 +79,8 @@ void SchriftenLaden(const Zeichnung& zeichnung, const Druckschriften& schriften,
 }
 
 void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschriften& schriften,
-                    double versatzX, double versatzY) {
-    Malgang gang(maler, schriften, versatzX, versatzY);
+                    Millimeter ursprungX, Millimeter ursprungY) {
+    Malgang gang(maler, schriften, ursprungX, ursprungY);
     for (const Element& element : zeichnung) {
         std::visit(gang, element);
     }

@@ -13,6 +13,6 @@ class QPainter;
 void SchriftenLaden(const Zeichnung& zeichnung, const Druckschriften& schriften,
                     const std::function<void()>& fortschritt);
 
-// versatzX, versatzY: the page's origin on the device's sheet, in mm.
+// ursprungX, ursprungY: the page's origin on the device's sheet.
 void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschriften& schriften,
-                    double versatzX, double versatzY);
+                    Millimeter ursprungX, Millimeter ursprungY);

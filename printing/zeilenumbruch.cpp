@@ -10,7 +10,7 @@ constexpr auto keins = std::string_view::npos;
 // A text on its way into lines.
 class Umbruch {
 public:
-    Umbruch(std::string_view text, float breite, const Breitenmass& messen, Wortmass wortmass)
+    Umbruch(std::string_view text, Millimeter breite, const Breitenmass& messen, Wortmass wortmass)
         : text_(text), breite_(breite), messen_(messen), jedesWort_(wortmass == Wortmass::JedesWort) {}
 
     void Leerzeichen(std::size_t stelle) {
@@ -51,7 +51,7 @@ private:
     }
 
     std::string_view text_;
-    float breite_;
+    Millimeter breite_;
     const Breitenmass& messen_;
     bool jedesWort_;
     std::size_t beginn_ = 0;          // of the part that has been read but not printed
@@ -61,7 +61,7 @@ private:
 
 } // namespace
 
-std::vector<std::string_view> Umbrechen(std::string_view text, float breite, const Breitenmass& messen,
+std::vector<std::string_view> Umbrechen(std::string_view text, Millimeter breite, const Breitenmass& messen,
                                         Wortmass wortmass) {
     Umbruch umbruch(text, breite, messen, wortmass);
     for (std::size_t i = 0; i < text.size(); ++i) {

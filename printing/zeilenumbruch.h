@@ -2,12 +2,14 @@
 // page is the layout's affair.
 #pragma once
 
+#include "core/laenge.h"
+
 #include <functional>
 #include <string_view>
 #include <vector>
 
-// Width of a text in mm in the font in force.
-using Breitenmass = std::function<float(std::string_view)>;
+// Width of a text in the font in force.
+using Breitenmass = std::function<Millimeter(std::string_view)>;
 
 // When a word is measured against the width.
 enum class Wortmass {
@@ -21,6 +23,6 @@ enum class Wortmass {
 // The lines of a text, as parts of it. When what has been gathered is wider than breite, the part up to the
 // previous blank becomes a line; a single wide word is never broken. A line end of the text counts as a blank
 // that ends the line in any case. An empty text gives one empty line.
-[[nodiscard]] std::vector<std::string_view> Umbrechen(std::string_view text, float breite,
+[[nodiscard]] std::vector<std::string_view> Umbrechen(std::string_view text, Millimeter breite,
                                                       const Breitenmass& messen,
                                                       Wortmass wortmass = Wortmass::AmLeerzeichen);

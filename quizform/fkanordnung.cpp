@@ -17,17 +17,17 @@ std::size_t Stelle(int n) {
 }
 
 void FeldAnordnen(frmFKFragen& form, int n, const FormMasse& masse) {
-    const int x = FormMasse::links + (GebietVon(n) - 1) * masse.SpaltenRaster();
-    const int y = masse.RasterOben() + (ZeileVon(n) - 1) * masse.ZeilenRaster();
-    const int textLinks = x + masse.punkteBreite + masse.textAbstand;
+    const Twips x = FormMasse::links + (GebietVon(n) - 1) * masse.SpaltenRaster();
+    const Twips y = masse.RasterOben() + (ZeileVon(n) - 1) * masse.ZeilenRaster();
+    const Twips textLinks = x + masse.punkteBreite + masse.textAbstand;
     TwipsGeometrie(form.pnlPunkte.at(Stelle(n)), x, y, masse.punkteBreite, masse.frageHoehe);
     TwipsGeometrie(form.pnlSpezial.at(Stelle(n)), x, y + masse.frageHoehe, masse.punkteBreite,
-                   masse.antwortHoehe - 15);
+                   masse.antwortHoehe - 15_tw);
     TwipsGeometrie(form.txtFrage.at(Stelle(n)), textLinks, y, masse.frageBreite, masse.frageHoehe);
-    TwipsGeometrie(form.txtAntwort.at(Stelle(n)), textLinks, y + masse.frageHoehe - 15, masse.frageBreite,
+    TwipsGeometrie(form.txtAntwort.at(Stelle(n)), textLinks, y + masse.frageHoehe - 15_tw, masse.frageBreite,
                    masse.antwortHoehe);
-    TwipsGeometrie(form.shpFrage.at(Stelle(n)), textLinks - 15, y - 15, masse.frageBreite + 45,
-                   masse.frageHoehe + masse.antwortHoehe + 30);
+    TwipsGeometrie(form.shpFrage.at(Stelle(n)), textLinks - 15_tw, y - 15_tw, masse.frageBreite + 45_tw,
+                   masse.frageHoehe + masse.antwortHoehe + 30_tw);
 }
 
 // The label stands at the left of its panel, the box takes the rest.
@@ -40,7 +40,7 @@ void KopfzeileEinpassen(Panel* panel, QWidget* zeile) {
 
 void frmFKFragen::Anordnen(const FormMasse& masse) {
     setFixedSize(Pixel(masse.InnenBreite()), Pixel(masse.InnenHoehe()));
-    const int raster = masse.SpaltenRaster();
+    const Twips raster = masse.SpaltenRaster();
     TwipsGeometrie(pnlKranz, FormMasse::links, FormMasse::kopfOben, 2 * raster - masse.spaltenAbstand,
                    masse.kopfHoehe);
     int spalte = 2;
@@ -48,7 +48,7 @@ void frmFKFragen::Anordnen(const FormMasse& masse) {
         TwipsGeometrie(teil, FormMasse::links + spalte++ * raster, FormMasse::kopfOben, masse.TitelBreite(),
                        masse.kopfHoehe);
     }
-    pnlKranz->setFont(Schrift(12, true));
+    pnlKranz->setFont(Schrift(12_pt, true));
     KopfzeileEinpassen(pnlDatum, txtDatum);
     KopfzeileEinpassen(pnlZeit, txtZeit);
     KopfzeileEinpassen(pnlNr, txtNr);
@@ -74,7 +74,7 @@ QPoint frmFKFragen::Platz(QSize mitRahmen, QPoint wieGeoeffnet) const {
         return wieGeoeffnet;
     }
     // On a low screen the rule would put the title bar out of reach.
-    const int oben = HolAuflösungY() / 2 - mitRahmen.height() / 2 - Pixel(930);
+    const int oben = HolAuflösungY() / 2 - mitRahmen.height() / 2 - Pixel(930_tw);
     return {std::max(0, (breite - mitRahmen.width()) / 2), std::max(0, oben)};
 }
 

@@ -1,37 +1,41 @@
-// The measures of the quiz form's window in twips, for its two size classes. Places nothing itself.
+// The measures of the quiz form's window, for its two size classes. Places nothing itself.
 #pragma once
 
+#include "core/laenge.h"
+
 struct FormMasse {
-    int schrift; // points
-    int kopfHoehe;
-    int titelAbstand; // above and below the titles
-    int titelHoehe;
-    int punkteBreite;
-    int textAbstand; // between points column and text
-    int frageBreite;
-    int frageHoehe;
-    int antwortHoehe;
-    int spaltenAbstand;
-    int zeilenAbstand;
+    Schriftpunkte schrift;
+    Twips kopfHoehe;
+    Twips titelAbstand; // above and below the titles
+    Twips titelHoehe;
+    Twips punkteBreite;
+    Twips textAbstand; // between points column and text
+    Twips frageBreite;
+    Twips frageHoehe;
+    Twips antwortHoehe;
+    Twips spaltenAbstand;
+    Twips zeilenAbstand;
 
-    static constexpr int links = 45;
-    static constexpr int kopfOben = 60;
+    static constexpr Twips links = 45_tw;
+    static constexpr Twips kopfOben = 60_tw;
 
-    [[nodiscard]] constexpr int SpaltenRaster() const {
+    [[nodiscard]] constexpr Twips SpaltenRaster() const {
         return punkteBreite + textAbstand + frageBreite + spaltenAbstand;
     }
-    [[nodiscard]] constexpr int ZeilenRaster() const { return frageHoehe + antwortHoehe + zeilenAbstand; }
-    [[nodiscard]] constexpr int RasterOben() const {
-        return 45 + kopfHoehe + titelAbstand + titelHoehe + titelAbstand;
+    [[nodiscard]] constexpr Twips ZeilenRaster() const { return frageHoehe + antwortHoehe + zeilenAbstand; }
+    [[nodiscard]] constexpr Twips RasterOben() const {
+        return 45_tw + kopfHoehe + titelAbstand + titelHoehe + titelAbstand;
     }
-    [[nodiscard]] constexpr int TitelOben() const { return 60 + kopfHoehe + titelAbstand; }
-    [[nodiscard]] constexpr int TitelBreite() const { return SpaltenRaster() - spaltenAbstand; }
-    [[nodiscard]] constexpr int InnenBreite() const { return 6 * SpaltenRaster() + 75; }
-    [[nodiscard]] constexpr int InnenHoehe() const { return 5 * ZeilenRaster() + RasterOben() + 30; }
+    [[nodiscard]] constexpr Twips TitelOben() const { return 60_tw + kopfHoehe + titelAbstand; }
+    [[nodiscard]] constexpr Twips TitelBreite() const { return SpaltenRaster() - spaltenAbstand; }
+    [[nodiscard]] constexpr Twips InnenBreite() const { return 6 * SpaltenRaster() + 75_tw; }
+    [[nodiscard]] constexpr Twips InnenHoehe() const { return 5 * ZeilenRaster() + RasterOben() + 30_tw; }
 };
 
-inline constexpr FormMasse masseKlein{8, 375, 60, 315, 375, 30, 1860, 1035, 465, 75, 45};
-inline constexpr FormMasse masseGross{10, 375, 90, 360, 390, 30, 2550, 1320, 600, 90, 60};
+inline constexpr FormMasse masseKlein{8_pt,    375_tw,  60_tw,  315_tw, 375_tw, 30_tw,
+                                      1860_tw, 1035_tw, 465_tw, 75_tw,  45_tw};
+inline constexpr FormMasse masseGross{10_pt,   375_tw,  90_tw,  360_tw, 390_tw, 30_tw,
+                                      2550_tw, 1320_tw, 600_tw, 90_tw,  60_tw};
 
 // Measures for a screen of that width in pixels: the large class from 1280 on.
 [[nodiscard]] constexpr const FormMasse& FormMasseFuer(int schirmBreite) {

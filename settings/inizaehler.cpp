@@ -60,7 +60,7 @@ Panel* Zahlpanel(QWidget* eltern, const QString& name) {
     panel->setFixedSize(46, 28);
     panel->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     panel->setFarben(Qt::white, QColor());
-    panel->setFont(Schrift(10, true));
+    panel->setFont(Schrift(10_pt, true));
     return panel;
 }
 

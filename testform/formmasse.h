@@ -1,9 +1,11 @@
 // The measures of the test form's window in pixels, for its two size classes. Places nothing itself.
 #pragma once
 
+#include "core/laenge.h"
+
 struct TestMasse {
-    double schrift; // points
-    double kopfSchrift;
+    Schriftpunkte schrift;
+    Schriftpunkte kopfSchrift;
     int kopfHoehe;
     int nummerBreite;
     int frageBreite;
@@ -30,8 +32,8 @@ struct TestMasse {
     [[nodiscard]] constexpr int Hoehe() const { return FussOben() + kopfHoehe + rand; }
 };
 
-inline constexpr TestMasse testmasseKlein{8, 11, 24, 26, 520, 312, 34, 20, 42, 4};
-inline constexpr TestMasse testmasseGross{10, 12, 28, 32, 640, 400, 42, 22, 60, 5};
+inline constexpr TestMasse testmasseKlein{8_pt, 11_pt, 24, 26, 520, 312, 34, 20, 42, 4};
+inline constexpr TestMasse testmasseGross{10_pt, 12_pt, 28, 32, 640, 400, 42, 22, 60, 5};
 
 // Measures for a screen of that width: the large class from 1280 on.
 [[nodiscard]] constexpr const TestMasse& TestMasseFuer(int schirmBreite) {

@@ -82,7 +82,7 @@ void frmHBFragen::UeberschriftenBauen(const TestMasse& masse) {
                                             Spalte{"lblPunkte", "Punkte", masse.PunkteLinks()}}) {
         auto* ueberschrift = new QLabel(QString::fromUtf8(wort), this);
         ueberschrift->setObjectName(QLatin1String(name));
-        ueberschrift->setFont(Schrift(8));
+        ueberschrift->setFont(Schrift(8_pt));
         ueberschrift->setGeometry(links, masse.KopfOben(3) - 2, 54, TestMasse::ueberschrift);
     }
 }

@@ -18,10 +18,10 @@ constexpr int symbolAbstand = 5;
 constexpr int titelAbstand = 4;
 
 QFont Textschrift() {
-    return Schrift(8.25);
+    return Schrift(8.25_pt);
 }
 QFont Titelschrift() {
-    return Schrift(8.25, true);
+    return Schrift(8.25_pt, true);
 }
 
 // A blue disc with the letter i.

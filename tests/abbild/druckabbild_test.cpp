@@ -32,7 +32,7 @@ QByteArray Quizseite(const FKDruckdaten& daten, Papier papier) {
     const Druckseite seite(papier == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait, "",
                            "Abbild");
     const Druckgeometrie geometrie =
-        GeometrieRechnen(papier, Spiel.Zwischenabstand, seite.masse().links, seite.masse().oben);
+        GeometrieRechnen(papier, Millimeter(Spiel.Zwischenabstand), seite.masse().links, seite.masse().oben);
     return abbild::Zeichnungstext(FormularZeichnen(daten, geometrie, seite.schriftmass()));
 }
 

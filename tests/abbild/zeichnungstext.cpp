@@ -15,7 +15,13 @@ QString Mass(double mm) {
     return QString::number(hundertstel == 0.0 ? 0.0 : hundertstel / 100.0, 'f', 2);
 }
 
-QString Ort(double x, double y) {
+template <typename Einheit>
+QString Mass(Laenge<Einheit> laenge) {
+    return Mass(static_cast<double>(laenge.zahl()));
+}
+
+template <typename Zahl>
+QString Ort(Zahl x, Zahl y) {
     return Mass(x) + u',' + Mass(y);
 }
 
@@ -24,7 +30,7 @@ QString Farbwert(Farbe farbe) {
 }
 
 QString Strichart(const Stift& stift) {
-    return QStringLiteral("pen %1 %2").arg(stift.punkte).arg(Farbwert(stift.farbe));
+    return QStringLiteral("pen %1 %2").arg(stift.punkte.zahl()).arg(Farbwert(stift.farbe));
 }
 
 QString Elementzeile(const Rechteck& kasten) {

@@ -52,9 +52,9 @@ void Malen(QPainter& maler, const Platz& platz, int x, int y) {
 // Lays one folder out from y on and returns where it ends. Wide pictures take several places.
 int Ordner(QPainter* maler, const QString& ordner, int y) {
     if (maler != nullptr) {
-        maler->setFont(Schrift(11, true));
+        maler->setFont(Schrift(11_pt, true));
         maler->drawText(luft, y + zeile, ordner);
-        maler->setFont(Schrift(8.25));
+        maler->setFont(Schrift(8.25_pt));
     }
     y += zeile + 2 * luft;
     int spalte = 0;

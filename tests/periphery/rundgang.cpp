@@ -77,9 +77,9 @@ bool Ausgenommen(const QWidget& fenster, const QString& teil, Fehlt was) {
 
 // The help panel shows two lines of its smaller face beside the panels for a question.
 bool PasstInsHilfepanel(const QString& status) {
-    const QRect flaeche(0, 0, Pixel(3600 - 60), Pixel(375));
+    const QRect flaeche(0, 0, Pixel(3600_tw - 60_tw), Pixel(375_tw));
     const int umbruch = static_cast<int>(Qt::AlignLeft) | Qt::TextWordWrap;
-    return flaeche.contains(QFontMetrics(Schrift(7.5)).boundingRect(flaeche, umbruch, status));
+    return flaeche.contains(QFontMetrics(Schrift(7.5_pt)).boundingRect(flaeche, umbruch, status));
 }
 
 // Whether the keyboard or a click may lead the user there: inner parts of a control follow their control.

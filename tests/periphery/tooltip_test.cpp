@@ -157,7 +157,7 @@ void TooltipTest::aWordWiderThanTheTipIsBroken() {
     Tippfall fall;
     fall.Zeigen(QString(200, u'W'));
     QVERIFY(fall.objekt.tippfenster()->width() <= 180 + 12);
-    QVERIFY(fall.objekt.tippfenster()->height() > 10 * QFontMetrics(Schrift(8.25)).height());
+    QVERIFY(fall.objekt.tippfenster()->height() > 10 * QFontMetrics(Schrift(8.25_pt)).height());
 }
 
 void TooltipTest::blanksAtTheBeginningOfALineStay() {

@@ -1,5 +1,7 @@
 #include "printing/druckgeometrie.h"
 
+#include "tests/hilfe/laengenausgabe.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -17,17 +19,20 @@ constexpr std::array<Blatt, 2> blaetter{{
     {Papier::A4Quer, 10, 25, 1.0, 1.0, 277, 175, 12, 3, 9, 8.5, 0.65, 0.35},
     {Papier::A5Quer, 6, 20, 0.7, 0.7, 198, 122, 8.4, 2.1, 6.3, 5.95, 0.7, 0.3},
 }};
-constexpr std::array<float, 5> abstaende{0.0F, 1.0F, 1.5F, 2.0F, 2.5F};
+constexpr std::array<Millimeter, 5> abstaende{0_mm, 1_mm, 1.5_mm, 2_mm, 2.5_mm};
 constexpr double genau = 0.0001;
 
 double D(float wert) {
     return static_cast<double>(wert);
 }
+double D(Millimeter laenge) {
+    return D(laenge.zahl());
+}
 
 } // namespace
 
 TEST(Druckgeometrie, WorkedValuesOfA4WithoutAGap) {
-    const Druckgeometrie g = GeometrieRechnen(Papier::A4Quer, 0.0F, 0, 0);
+    const Druckgeometrie g = GeometrieRechnen(Papier::A4Quer, 0_mm, 0_mm, 0_mm);
     EXPECT_NEAR(D(g.SpaltenBreite), 46.1667, genau);
     EXPECT_NEAR(D(g.ZeileGanz), 30.2, genau);
     EXPECT_NEAR(D(g.FrageHoehe), 19.63, genau);
@@ -36,12 +41,12 @@ TEST(Druckgeometrie, WorkedValuesOfA4WithoutAGap) {
     EXPECT_NEAR(D(g.ZeilenRaster), 30.2, genau);
     EXPECT_NEAR(D(g.TextBreite), 35.6667, genau);
     EXPECT_EQ(g.Massstab, 1.0F);
-    EXPECT_EQ(g.NummerBreite, 7.0F);
-    EXPECT_EQ(g.NummerEinzug, 1.0F);
+    EXPECT_EQ(g.NummerBreite, 7_mm);
+    EXPECT_EQ(g.NummerEinzug, 1_mm);
 }
 
 TEST(Druckgeometrie, WorkedValuesOfA5WithoutAGap) {
-    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 0.0F, 0, 0);
+    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 0_mm, 0_mm, 0_mm);
     EXPECT_NEAR(D(g.SpaltenBreite), 33.0, genau);
     EXPECT_NEAR(D(g.ZeileGanz), 21.04, genau);
     EXPECT_NEAR(D(g.FrageHoehe), 14.728, genau);
@@ -50,34 +55,34 @@ TEST(Druckgeometrie, WorkedValuesOfA5WithoutAGap) {
 }
 
 TEST(Druckgeometrie, TheWidestGapOnA5) {
-    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 2.5F, 0, 0);
-    EXPECT_EQ(g.LueckeX, 1.75F);
-    EXPECT_EQ(g.LueckeY, 1.75F);
+    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 2.5_mm, 0_mm, 0_mm);
+    EXPECT_EQ(g.LueckeX, 1.75_mm);
+    EXPECT_EQ(g.LueckeY, 1.75_mm);
     EXPECT_NEAR(D(g.SpaltenBreite), 31.5417, genau);
     EXPECT_NEAR(D(g.Massstab), 0.65, genau);
 }
 
 TEST(Druckgeometrie, FontsShrinkToNineteenTwentiethsAtTheWidestGapOnA4) {
-    EXPECT_NEAR(D(GeometrieRechnen(Papier::A4Quer, 2.5F, 0, 0).Massstab), 0.95, genau);
+    EXPECT_NEAR(D(GeometrieRechnen(Papier::A4Quer, 2.5_mm, 0_mm, 0_mm).Massstab), 0.95, genau);
 }
 
 TEST(Druckgeometrie, WithoutAGapColumnsTouchAndTheHeadStripEndsWithTheLastColumn) {
-    const Druckgeometrie g = GeometrieRechnen(Papier::A4Quer, 0.0F, 0, 0);
+    const Druckgeometrie g = GeometrieRechnen(Papier::A4Quer, 0_mm, 0_mm, 0_mm);
     EXPECT_EQ(g.SpaltenRaster, g.SpaltenBreite);
     EXPECT_EQ(g.ZeilenRaster, g.FrageHoehe + g.AntwortHoehe);
-    const float kopfRechts = g.RandLinks + 6.0F * g.SpaltenRaster - g.LueckeX;
+    const Millimeter kopfRechts = g.RandLinks + 6.0F * g.SpaltenRaster - g.LueckeX;
     EXPECT_NEAR(D(kopfRechts), D(g.RandLinks + 5.0F * g.SpaltenRaster + g.SpaltenBreite), genau);
 }
 
 TEST(Druckgeometrie, EveryValueOnBothPapersAtEveryGap) {
     for (const Blatt& b : blaetter) {
-        for (const float abstand : abstaende) {
-            const Druckgeometrie g = GeometrieRechnen(b.papier, abstand, 0, 0);
+        for (const Millimeter abstand : abstaende) {
+            const Druckgeometrie g = GeometrieRechnen(b.papier, abstand, 0_mm, 0_mm);
             const double l = D(abstand) * b.faktor;
             const double spalte = (b.breite - 5 * l) / 6;
             const double zeile = (b.hoehe - b.kopf - b.luecke - b.gebiet - 5 * l) / 5;
             const double massstab = b.massstab - D(abstand) / 50;
-            SCOPED_TRACE(testing::Message() << "breite " << b.breite << " abstand " << abstand);
+            SCOPED_TRACE(testing::Message() << "breite " << b.breite << " abstand " << abstand.zahl());
             EXPECT_NEAR(D(g.RandLinks), b.links, genau);
             EXPECT_NEAR(D(g.RandOben), b.oben, genau);
             EXPECT_NEAR(D(g.LueckeX), l, genau);
@@ -97,21 +102,23 @@ TEST(Druckgeometrie, EveryValueOnBothPapersAtEveryGap) {
 }
 
 TEST(Druckgeometrie, FixedMeasuresOfBothPapers) {
-    const Druckgeometrie a4 = GeometrieRechnen(Papier::A4Quer, 1.0F, 0, 0);
-    EXPECT_EQ(std::vector<float>({a4.TextEinzug, a4.TextOben, a4.AntwortOben, a4.RahmenEinzug}),
-              std::vector<float>({8.5F, 1.5F, 1.5F, 1.0F}));
-    EXPECT_EQ(std::vector<int>({a4.StrichKopf, a4.StrichFeld, a4.StrichDuenn}), std::vector<int>({11, 9, 5}));
-    const Druckgeometrie a5 = GeometrieRechnen(Papier::A5Quer, 1.0F, 0, 0);
-    EXPECT_EQ(std::vector<float>({a5.TextEinzug, a5.TextOben, a5.AntwortOben, a5.RahmenEinzug}),
-              std::vector<float>({5.95F, 0.875F, 0.875F, 0.35F}));
-    EXPECT_EQ(std::vector<int>({a5.StrichKopf, a5.StrichFeld, a5.StrichDuenn}), std::vector<int>({9, 7, 5}));
+    const Druckgeometrie a4 = GeometrieRechnen(Papier::A4Quer, 1_mm, 0_mm, 0_mm);
+    EXPECT_EQ(std::vector<Millimeter>({a4.TextEinzug, a4.TextOben, a4.AntwortOben, a4.RahmenEinzug}),
+              std::vector<Millimeter>({8.5_mm, 1.5_mm, 1.5_mm, 1_mm}));
+    EXPECT_EQ(std::vector<Druckpunkte>({a4.StrichKopf, a4.StrichFeld, a4.StrichDuenn}),
+              std::vector<Druckpunkte>({11_dp, 9_dp, 5_dp}));
+    const Druckgeometrie a5 = GeometrieRechnen(Papier::A5Quer, 1_mm, 0_mm, 0_mm);
+    EXPECT_EQ(std::vector<Millimeter>({a5.TextEinzug, a5.TextOben, a5.AntwortOben, a5.RahmenEinzug}),
+              std::vector<Millimeter>({5.95_mm, 0.875_mm, 0.875_mm, 0.35_mm}));
+    EXPECT_EQ(std::vector<Druckpunkte>({a5.StrichKopf, a5.StrichFeld, a5.StrichDuenn}),
+              std::vector<Druckpunkte>({9_dp, 7_dp, 5_dp}));
 }
 
 TEST(Druckgeometrie, ThePrintersOffsetsMoveTheFrameOnly) {
-    const Druckgeometrie ohne = GeometrieRechnen(Papier::A4Quer, 1.5F, 0, 0);
-    const Druckgeometrie mit = GeometrieRechnen(Papier::A4Quer, 1.5F, 4, 6);
-    EXPECT_EQ(mit.RandLinks, 6.0F);
-    EXPECT_EQ(mit.RandOben, 19.0F);
+    const Druckgeometrie ohne = GeometrieRechnen(Papier::A4Quer, 1.5_mm, 0_mm, 0_mm);
+    const Druckgeometrie mit = GeometrieRechnen(Papier::A4Quer, 1.5_mm, 4_mm, 6_mm);
+    EXPECT_EQ(mit.RandLinks, 6_mm);
+    EXPECT_EQ(mit.RandOben, 19_mm);
     EXPECT_EQ(mit.SpaltenBreite, ohne.SpaltenBreite);
     EXPECT_NEAR(D(ohne.ZeilenOben - mit.ZeilenOben), 6.0, genau);
 }

@@ -30,7 +30,7 @@ protected:
         QString datei = ordner.filePath(QStringLiteral("Blatt.pdf"));
         Druckseite seite(papier == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait,
                          EigenerPfad(datei), "Probe");
-        const auto g = GeometrieRechnen(papier, abstand, seite.masse().links, seite.masse().oben);
+        const auto g = GeometrieRechnen(papier, Millimeter(abstand), seite.masse().links, seite.masse().oben);
         const std::string pdf = seite.Drucken(FormularZeichnen(daten, g, seite.schriftmass()), {});
         EXPECT_EQ(pdf, EigenerPfad(datei));
         return datei;
@@ -179,8 +179,8 @@ TEST_F(PdfSeiten, TheFacesHaveArialsMetricsAndAreEmbedded) {
 TEST_F(PdfSeiten, ArialBlackIsTheHeaviestFaceAndCirclesAreDrawn) {
     const QString datei = ordner.filePath(QStringLiteral("schwarz.pdf"));
     Druckseite seite(QPageLayout::Portrait, EigenerPfad(datei), "Probe");
-    const Zeichnung zeichnung{Textstelle{15, 10, {Schriftart::ArialBlack, 20, true}, "Natur"},
-                              Kreis{100, 50, 2.5F, {}}};
+    const Zeichnung zeichnung{Textstelle{15_mm, 10_mm, {Schriftart::ArialBlack, 20_pt, true}, "Natur"},
+                              Kreis{100_mm, 50_mm, 2.5_mm, {}}};
     seite.Drucken(zeichnung, {});
     ASSERT_EQ(PdfSchriften(datei).size(), 1U);
     const std::string name = PdfSchriften(datei).front();
@@ -199,18 +199,18 @@ TEST_F(PdfSeiten, TheOffsetsOfThePrinterAreMadeUpForOnPaper) {
     const QString datei = ordner.filePath(QStringLiteral("rand.pdf"));
     Druckseite seite(layout.orientation(), EigenerPfad(datei), "Probe");
     const Seitenmasse masse = seite.masse();
-    const auto g = GeometrieRechnen(Papier::A4Quer, 0.0F, masse.links, masse.oben);
-    EXPECT_EQ(g.RandLinks, 10.0F - static_cast<float>(masse.links));
-    EXPECT_EQ(g.RandOben, 25.0F - static_cast<float>(masse.oben));
-    seite.Drucken({Rechteck{g.RandLinks, g.RandOben, 20, 30, {}, {}}}, {});
+    const auto g = GeometrieRechnen(Papier::A4Quer, 0_mm, masse.links, masse.oben);
+    EXPECT_EQ(g.RandLinks, 10_mm - masse.links);
+    EXPECT_EQ(g.RandOben, 25_mm - masse.oben);
+    seite.Drucken({Rechteck{g.RandLinks, g.RandOben, 20_mm, 30_mm, {}, {}}}, {});
     const PdfSeite gelesen = PdfLesen(datei);
     ASSERT_EQ(gelesen.pfade.size(), 1U);
     EXPECT_NEAR(gelesen.pfade[0].links, 10.0, 0.1);
     EXPECT_NEAR(gelesen.pfade[0].oben, 25.0, 0.1);
-    EXPECT_EQ(masse.links, 4);
-    EXPECT_EQ(masse.oben, 6);
-    EXPECT_EQ(masse.rechts, 5);
-    EXPECT_EQ(masse.unten, 7);
+    EXPECT_EQ(masse.links, 4_mm);
+    EXPECT_EQ(masse.oben, 6_mm);
+    EXPECT_EQ(masse.rechts, 5_mm);
+    EXPECT_EQ(masse.unten, 7_mm);
     layout.setMinimumMargins(QMarginsF());
     Drucker().setPageLayout(layout);
 }
@@ -223,8 +223,8 @@ TEST_F(PdfSeiten, MeasuresOfA4InBothWays) {
               "Papiergröße: 210 x 297mm\r\nLinker Rand: 0mm\r\nRechter Rand: 0mm\r\nOberer Rand: 0mm\r\n"
               "Unterer Rand: 0mm");
     drucker.setPageOrientation(QPageLayout::Landscape);
-    EXPECT_EQ(SeiteMessen(drucker).breite, 297);
-    EXPECT_EQ(SeiteMessen(drucker).hoehe, 210);
+    EXPECT_EQ(SeiteMessen(drucker).breite, 297_mm);
+    EXPECT_EQ(SeiteMessen(drucker).hoehe, 210_mm);
 }
 
 TEST_F(PdfSeiten, TheOrientationIsSetBackAfterTheJobAndAfterAFailure) {
@@ -269,8 +269,9 @@ TEST_F(PdfSeiten, AFailedPrintLeavesTheOldSheetWhole) {
     const QString datei = Drucken(GefuelltesFormular(), Papier::A4Quer, 0.0F);
     const auto vorher = PdfLesen(datei).worte.size();
     Druckseite seite(QPageLayout::Portrait, EigenerPfad(datei), "Probe");
-    EXPECT_THROW(seite.Drucken({Strich{0, 0, 1, 1, {}}}, [] { throw Laufzeitfehler(Fehler::Ueberlauf); }),
-                 Laufzeitfehler);
+    EXPECT_THROW(
+        seite.Drucken({Strich{0_mm, 0_mm, 1_mm, 1_mm, {}}}, [] { throw Laufzeitfehler(Fehler::Ueberlauf); }),
+        Laufzeitfehler);
     EXPECT_EQ(PdfLesen(datei).worte.size(), vorher);
     EXPECT_EQ(QDir(ordner.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
@@ -282,7 +283,7 @@ TEST_F(PdfSeiten, ALinkLeadsToTheFileThatIsReplacedAndItsPermissionsStay) {
     const QString verweis = ordner.filePath(QStringLiteral("Verweis.pdf"));
     ASSERT_TRUE(QFile::link(echt, verweis));
     Druckseite seite(QPageLayout::Portrait, EigenerPfad(verweis), "Probe");
-    seite.Drucken({Textstelle{10, 10, {}, "Neu"}}, {});
+    seite.Drucken({Textstelle{10_mm, 10_mm, {}, "Neu"}}, {});
     EXPECT_TRUE(QFileInfo(verweis).isSymLink());
     ASSERT_EQ(PdfLesen(echt).worte.size(), 1U);
     EXPECT_EQ(PdfLesen(echt).worte.front().text, "Neu");
@@ -301,7 +302,7 @@ TEST_F(PdfSeiten, ANewFilesNameMayHoldAnyCharacter) {
 TEST_F(PdfSeiten, ProgressRunsThroughThirtySteps) {
     int schritte = 0;
     Druckseite seite(QPageLayout::Portrait, EigenerPfad(ordner.filePath(QStringLiteral("s.pdf"))), "Probe");
-    const Zeichnung zeichnung(7, Strich{0, 0, 1, 1, {}});
+    const Zeichnung zeichnung(7, Strich{0_mm, 0_mm, 1_mm, 1_mm, {}});
     seite.Drucken(zeichnung, [&] { ++schritte; });
     EXPECT_EQ(schritte, 30);
 }

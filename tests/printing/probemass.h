@@ -3,13 +3,16 @@
 #pragma once
 
 #include "printing/zeichnung.h"
+#include "tests/hilfe/laengenausgabe.h"
 
 class Probemass final : public Schriftmass {
 public:
-    [[nodiscard]] float Breite(std::string_view text, const Schrift& schrift) const override {
-        return static_cast<float>(text.size()) * schrift.groesse * 0.1F;
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override {
+        return Millimeter(static_cast<float>(text.size()) * schrift.groesse.zahl() * 0.1F);
     }
-    [[nodiscard]] float Hoehe(const Schrift& schrift) const override { return schrift.groesse * 0.5F; }
+    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override {
+        return Millimeter(schrift.groesse.zahl() * 0.5F);
+    }
 };
 
 template <typename Art>

@@ -10,6 +10,10 @@ namespace {
 
 constexpr float genau = 0.001F;
 
+double D(Millimeter laenge) {
+    return static_cast<double>(laenge.zahl());
+}
+
 FKDruckdaten LeeresFormular() {
     FKDruckdaten daten;
     for (FKDruckgebiet& gebiet : daten.gebiete) {
@@ -22,7 +26,7 @@ FKDruckdaten LeeresFormular() {
     return daten;
 }
 
-const Druckgeometrie geometrie = GeometrieRechnen(Papier::A4Quer, 0.0F, 0, 0);
+const Druckgeometrie geometrie = GeometrieRechnen(Papier::A4Quer, 0_mm, 0_mm, 0_mm);
 
 Zeichnung Zeichnen(const FKDruckdaten& daten, const Druckgeometrie& g = geometrie) {
     return FormularZeichnen(daten, g, Probemass());
@@ -47,11 +51,11 @@ std::size_t Anzahl(const std::vector<Textstelle>& texte, std::string_view text) 
         std::count_if(texte.begin(), texte.end(), [&](const Textstelle& t) { return t.text == text; }));
 }
 
-float FeldX(int n) {
+Millimeter FeldX(int n) {
     const int spalte = (n - 1) / 5;
     return geometrie.RandLinks + static_cast<float>(spalte) * geometrie.SpaltenRaster;
 }
-float FeldY(int n) {
+Millimeter FeldY(int n) {
     return geometrie.ZeilenOben + static_cast<float>((n - 1) % 5) * geometrie.ZeilenRaster;
 }
 
@@ -60,7 +64,7 @@ std::string Nummer(const FKDruckdaten& daten, int n) {
     const auto texte = Texte(daten);
     std::string ergebnis;
     for (const Textstelle& t : texte) {
-        const bool zwoelf = t.schrift == Schrift{Schriftart::Arial, 12.0F, true};
+        const bool zwoelf = t.schrift == Schrift{Schriftart::Arial, 12_pt, true};
         if (zwoelf && t.x > FeldX(n) && t.x < FeldX(n) + geometrie.NummerBreite && t.y > FeldY(n) &&
             t.y < FeldY(n) + geometrie.FrageHoehe) {
             ergebnis += t.text;
@@ -85,26 +89,27 @@ TEST(Seitenlayout, TheHeadStrip) {
     daten.nummer = "7";
     const Zeichnung zeichnung = Zeichnen(daten);
     const auto streifen = std::get<Rechteck>(zeichnung.front());
-    EXPECT_EQ(streifen.x, 10.0F);
-    EXPECT_EQ(streifen.y, 25.0F);
-    EXPECT_NEAR(streifen.breite, 277.0F, genau);
-    EXPECT_EQ(streifen.hoehe, 12.0F);
-    EXPECT_EQ(streifen.stift.punkte, 11);
+    EXPECT_EQ(streifen.x, 10_mm);
+    EXPECT_EQ(streifen.y, 25_mm);
+    EXPECT_NEAR(D(streifen.breite), D(277_mm), genau);
+    EXPECT_EQ(streifen.hoehe, 12_mm);
+    EXPECT_EQ(streifen.stift.punkte, 11_dp);
     EXPECT_FALSE(streifen.fuellung.has_value());
     const auto texte = Alle<Textstelle>(zeichnung);
-    const float spalte = geometrie.SpaltenRaster;
+    const Millimeter spalte = geometrie.SpaltenRaster;
     struct Zeile {
         const char* text;
-        float x, y, groesse;
+        Millimeter x, y;
+        Schriftpunkte groesse;
     };
-    const std::vector<Zeile> soll{{"FELDKRANZ!", 13.0F, 27.0F, 20.0F},
-                                  {"Datum :  1. Mai", 10.0F + 3.0F * spalte, 29.5F, 11.0F},
-                                  {"Zeit :  90 min", 10.0F + 4.0F * spalte, 29.5F, 11.0F},
-                                  {"Nr :  7", 10.0F + 5.0F * spalte, 29.5F, 11.0F}};
+    const std::vector<Zeile> soll{{"FELDKRANZ!", 13_mm, 27_mm, 20_pt},
+                                  {"Datum :  1. Mai", 10_mm + 3.0F * spalte, 29.5_mm, 11_pt},
+                                  {"Zeit :  90 min", 10_mm + 4.0F * spalte, 29.5_mm, 11_pt},
+                                  {"Nr :  7", 10_mm + 5.0F * spalte, 29.5_mm, 11_pt}};
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(texte[i].text, soll[i].text);
-        EXPECT_NEAR(texte[i].x, soll[i].x, genau);
-        EXPECT_NEAR(texte[i].y, soll[i].y, genau);
+        EXPECT_NEAR(D(texte[i].x), D(soll[i].x), genau);
+        EXPECT_NEAR(D(texte[i].y), D(soll[i].y), genau);
         EXPECT_EQ(texte[i].schrift, (Schrift{Schriftart::Arial, soll[i].groesse, true}));
     }
 }
@@ -117,7 +122,7 @@ TEST(Seitenlayout, TheTwoShadingsOfHeadAndTitles) {
     EXPECT_EQ(kaesten[0].fuellung, (Farbe{255, 255, 191}));
     for (std::size_t a = 1; a <= 6; ++a) {
         EXPECT_EQ(kaesten[a].fuellung, (Farbe{223, 223, 223}));
-        EXPECT_EQ(kaesten[a].stift.punkte, 9);
+        EXPECT_EQ(kaesten[a].stift.punkte, 9_dp);
     }
     EXPECT_FALSE(kaesten[7].fuellung.has_value());
 }
@@ -128,9 +133,9 @@ TEST(Seitenlayout, ATitleStandsCentredInItsHead) {
     const auto texte = Texte(daten);
     ASSERT_EQ(texte.size(), 31U);
     EXPECT_EQ(texte[0].text, "Musik");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 14.0F, true}));
-    EXPECT_NEAR(texte[0].x, FeldX(11) + geometrie.SpaltenBreite / 2.0F - 3.5F, genau);
-    EXPECT_NEAR(texte[0].y, 25.0F + 12.0F + 3.0F + 4.5F - 3.5F, genau);
+    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 14_pt, true}));
+    EXPECT_NEAR(D(texte[0].x), D(FeldX(11) + geometrie.SpaltenBreite / 2.0F - 3.5_mm), genau);
+    EXPECT_NEAR(D(texte[0].y), D(25_mm + 12_mm + 3_mm + 4.5_mm - 3.5_mm), genau);
 }
 
 TEST(Seitenlayout, AnAreaWithoutATitleOrOutOfUsePrintsNoTitle) {
@@ -164,14 +169,14 @@ TEST(Seitenlayout, WithoutAGapOnA4AdjoiningFramesShareTheirEdgesAndTheStripEndsW
     const auto kaesten = Alle<Rechteck>(Zeichnen(LeeresFormular()));
     const auto feld = [&](int n) { return kaesten[static_cast<std::size_t>(n) + 6]; };
     for (int n = 1; n <= 25; ++n) {
-        EXPECT_NEAR(feld(n).x + feld(n).breite, feld(n + 5).x, genau);
+        EXPECT_NEAR(D(feld(n).x + feld(n).breite), D(feld(n + 5).x), genau);
     }
     for (int n = 1; n <= 30; ++n) {
         if (n % 5 != 0) {
-            EXPECT_NEAR(feld(n).y + feld(n).hoehe, feld(n + 1).y, genau);
+            EXPECT_NEAR(D(feld(n).y + feld(n).hoehe), D(feld(n + 1).y), genau);
         }
     }
-    EXPECT_NEAR(kaesten[0].x + kaesten[0].breite, feld(30).x + feld(30).breite, genau);
+    EXPECT_NEAR(D(kaesten[0].x + kaesten[0].breite), D(feld(30).x + feld(30).breite), genau);
 }
 
 TEST(Seitenlayout, WithFourAreasTheLastTwoColumnsAreFramedWithEmptyHeadsAndEmptyCells) {
@@ -244,8 +249,9 @@ TEST(Seitenlayout, TheLetterOfRiskFortuneAndTaskStandsInTheLowerPart) {
         const auto texte = Texte(daten);
         const Textstelle* t = Finden(texte, spezial);
         ASSERT_NE(t, nullptr);
-        EXPECT_NEAR(t->x, FeldX(1) + 3.5F - 0.6F, genau);
-        EXPECT_NEAR(t->y, FeldY(1) + geometrie.FrageHoehe + geometrie.AntwortHoehe / 2.0F - 3.0F, genau);
+        EXPECT_NEAR(D(t->x), D(FeldX(1) + 3.5_mm - 0.6_mm), genau);
+        EXPECT_NEAR(D(t->y), D(FeldY(1) + geometrie.FrageHoehe + geometrie.AntwortHoehe / 2.0F - 3_mm),
+                    genau);
     }
     for (const char* const spezial : {"J", "E"}) {
         FKDruckdaten daten = LeeresFormular();
@@ -266,10 +272,10 @@ TEST(Seitenlayout, JokerAndEventShowTheirWordOnTheWholeFieldWithoutDividersAndTe
         const auto texte = Texte(daten);
         const Textstelle* wort = Finden(texte, zeile.wort);
         ASSERT_NE(wort, nullptr);
-        EXPECT_EQ(wort->schrift, (Schrift{Schriftart::Arial, 18.0F, true}));
-        const float breite = static_cast<float>(wort->text.size()) * 1.8F;
-        EXPECT_NEAR(wort->x, FeldX(9) + geometrie.SpaltenBreite / 2.0F - breite / 2.0F, genau);
-        EXPECT_NEAR(wort->y, FeldY(9) + geometrie.ZeileGanz / 2.0F - 4.5F, genau);
+        EXPECT_EQ(wort->schrift, (Schrift{Schriftart::Arial, 18_pt, true}));
+        const Millimeter breite = static_cast<float>(wort->text.size()) * 1.8_mm;
+        EXPECT_NEAR(D(wort->x), D(FeldX(9) + geometrie.SpaltenBreite / 2.0F - breite / 2.0F), genau);
+        EXPECT_NEAR(D(wort->y), D(FeldY(9) + geometrie.ZeileGanz / 2.0F - 4.5_mm), genau);
         EXPECT_EQ(texte.size(), 31U); // the word and thirty numbers
         EXPECT_EQ(Alle<Strich>(Zeichnen(daten)).size(), 58U);
     }
@@ -296,15 +302,15 @@ TEST(Seitenlayout, ShadingAndFramesOfTheFiveKinds) {
                 const auto kaesten = Alle<Rechteck>(Zeichnen(daten));
                 ASSERT_EQ(kaesten.size(), 36U + zeile.kaesten);
                 const Rechteck& innen = kaesten[8];
-                EXPECT_NEAR(innen.x, FeldX(1) + 1.0F, genau);
-                EXPECT_NEAR(innen.y, FeldY(1) + 1.0F, genau);
-                EXPECT_NEAR(innen.breite, geometrie.SpaltenBreite - 2.0F, genau);
-                EXPECT_NEAR(innen.hoehe, geometrie.ZeileGanz - 2.1F, genau);
-                EXPECT_EQ(innen.stift.punkte, 9);
+                EXPECT_NEAR(D(innen.x), D(FeldX(1) + 1_mm), genau);
+                EXPECT_NEAR(D(innen.y), D(FeldY(1) + 1_mm), genau);
+                EXPECT_NEAR(D(innen.breite), D(geometrie.SpaltenBreite - 2_mm), genau);
+                EXPECT_NEAR(D(innen.hoehe), D(geometrie.ZeileGanz - 2.1_mm), genau);
+                EXPECT_EQ(innen.stift.punkte, 9_dp);
                 EXPECT_EQ(innen.stift.farbe, rahmen ? zeile.linie : farbeSchwarz);
                 EXPECT_EQ(innen.fuellung, farbig ? std::optional(zeile.grund) : std::nullopt);
-                EXPECT_EQ(kaesten[7].stift.punkte, 5);
-                EXPECT_EQ(kaesten[zeile.kaesten + 6].stift.punkte, zeile.kaesten == 3 ? 5 : 9);
+                EXPECT_EQ(kaesten[7].stift.punkte, 5_dp);
+                EXPECT_EQ(kaesten[zeile.kaesten + 6].stift.punkte, zeile.kaesten == 3 ? 5_dp : 9_dp);
             }
         }
     }
@@ -312,16 +318,16 @@ TEST(Seitenlayout, ShadingAndFramesOfTheFiveKinds) {
 
 TEST(Seitenlayout, TheDividersOfACell) {
     const auto striche = Alle<Strich>(Zeichnen(LeeresFormular()));
-    const float x = FeldX(1), y = FeldY(1), f = geometrie.FrageHoehe;
-    EXPECT_NEAR(striche[0].x1, x + 7.0F, genau);
-    EXPECT_NEAR(striche[0].y1, y + f, genau);
-    EXPECT_NEAR(striche[0].x2, x + geometrie.SpaltenBreite, genau);
-    EXPECT_NEAR(striche[0].y2, y + f, genau);
-    EXPECT_NEAR(striche[1].x1, x + 7.0F, genau);
-    EXPECT_NEAR(striche[1].y1, y, genau);
-    EXPECT_NEAR(striche[1].x2, x + 7.0F, genau);
-    EXPECT_NEAR(striche[1].y2, y + f + geometrie.AntwortHoehe, genau);
-    EXPECT_EQ(striche[0].stift.punkte, 5);
+    const Millimeter x = FeldX(1), y = FeldY(1), f = geometrie.FrageHoehe;
+    EXPECT_NEAR(D(striche[0].x1), D(x + 7_mm), genau);
+    EXPECT_NEAR(D(striche[0].y1), D(y + f), genau);
+    EXPECT_NEAR(D(striche[0].x2), D(x + geometrie.SpaltenBreite), genau);
+    EXPECT_NEAR(D(striche[0].y2), D(y + f), genau);
+    EXPECT_NEAR(D(striche[1].x1), D(x + 7_mm), genau);
+    EXPECT_NEAR(D(striche[1].y1), D(y), genau);
+    EXPECT_NEAR(D(striche[1].x2), D(x + 7_mm), genau);
+    EXPECT_NEAR(D(striche[1].y2), D(y + f + geometrie.AntwortHoehe), genau);
+    EXPECT_EQ(striche[0].stift.punkte, 5_dp);
 }
 
 TEST(Seitenlayout, AQuestionBreaksAndItsLinesFollowOneAnother) {
@@ -331,11 +337,11 @@ TEST(Seitenlayout, AQuestionBreaksAndItsLinesFollowOneAnother) {
     // 35.67 mm hold 44 characters of 0.8 mm.
     EXPECT_EQ(texte[0].text, "Welches Meer liegt zwischen Europa und");
     EXPECT_EQ(texte[1].text, "Afrika und wie tief ist es dort ?");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8.0F, false}));
-    EXPECT_NEAR(texte[0].x, FeldX(1) + 8.5F, genau);
-    EXPECT_NEAR(texte[0].y, FeldY(1) + 1.5F, genau);
-    EXPECT_NEAR(texte[1].x, FeldX(1) + 8.5F, genau);
-    EXPECT_NEAR(texte[1].y, FeldY(1) + 1.5F + 4.0F, genau);
+    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8_pt, false}));
+    EXPECT_NEAR(D(texte[0].x), D(FeldX(1) + 8.5_mm), genau);
+    EXPECT_NEAR(D(texte[0].y), D(FeldY(1) + 1.5_mm), genau);
+    EXPECT_NEAR(D(texte[1].x), D(FeldX(1) + 8.5_mm), genau);
+    EXPECT_NEAR(D(texte[1].y), D(FeldY(1) + 1.5_mm + 4_mm), genau);
 }
 
 TEST(Seitenlayout, AnAnswerIsBoldAndStandsBelowTheDividingLine) {
@@ -343,9 +349,9 @@ TEST(Seitenlayout, AnAnswerIsBoldAndStandsBelowTheDividingLine) {
     daten.felder[6].antwort = "das Mittelmeer";
     const auto texte = Texte(daten);
     EXPECT_EQ(texte[0].text, "das Mittelmeer");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8.0F, true}));
-    EXPECT_NEAR(texte[0].x, FeldX(6) + 8.5F, genau);
-    EXPECT_NEAR(texte[0].y, FeldY(6) + geometrie.FrageHoehe + 1.5F, genau);
+    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8_pt, true}));
+    EXPECT_NEAR(D(texte[0].x), D(FeldX(6) + 8.5_mm), genau);
+    EXPECT_NEAR(D(texte[0].y), D(FeldY(6) + geometrie.FrageHoehe + 1.5_mm), genau);
 }
 
 TEST(Seitenlayout, AHiddenAnswerBoxPrintsNoAnswer) {
@@ -362,7 +368,7 @@ TEST(Seitenlayout, AOneWordTextWiderThanTheColumnIsOneLineBeyondTheEdge) {
     const auto texte = Texte(daten);
     EXPECT_EQ(texte[0].text, std::string(80, 'w'));
     EXPECT_EQ(texte.size(), 31U);
-    EXPECT_GT(texte[0].x + 64.0F, FeldX(6));
+    EXPECT_GT(texte[0].x + 64_mm, FeldX(6));
 }
 
 TEST(Seitenlayout, ALongTextRunsOverTheDividingLine) {
@@ -371,9 +377,9 @@ TEST(Seitenlayout, ALongTextRunsOverTheDividingLine) {
         daten.felder[1].frage += "Wortwort ";
     }
     const auto texte = Texte(daten);
-    float unten = 0.0F;
+    Millimeter unten;
     for (const Textstelle& t : texte) {
-        if (t.schrift.groesse == 8.0F) {
+        if (t.schrift.groesse == 8_pt) {
             unten = std::max(unten, t.y);
         }
     }
@@ -391,13 +397,13 @@ TEST(Seitenlayout, QuestionsComeBeforeAnswersAndAnswersBeforeNumbers) {
 }
 
 TEST(Seitenlayout, OnA5EverythingIsSetInSevenTenthsAndLessWithTheGap) {
-    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 2.5F, 0, 0);
+    const Druckgeometrie g = GeometrieRechnen(Papier::A5Quer, 2.5_mm, 0_mm, 0_mm);
     FKDruckdaten daten = LeeresFormular();
     daten.felder[1] = {"Frage", "Antwort", "G", true, true};
     for (const Textstelle& t : Alle<Textstelle>(Zeichnen(daten, g))) {
         if (t.text == "Frage" || t.text == "Antwort") {
-            EXPECT_NEAR(t.schrift.groesse, 8.0F * 0.65F, genau);
+            EXPECT_NEAR(t.schrift.groesse.zahl(), 8.0F * 0.65F, genau);
         }
     }
-    EXPECT_NEAR(Alle<Rechteck>(Zeichnen(daten, g))[8].x, 6.35F, genau);
+    EXPECT_NEAR(D(Alle<Rechteck>(Zeichnen(daten, g))[8].x), D(6.35_mm), genau);
 }

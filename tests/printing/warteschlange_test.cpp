@@ -42,7 +42,7 @@ protected:
         {
             Druckseite seite(papier == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait,
                              "\\gibt\\es\\nicht.pdf", auftrag.toStdString());
-            const auto g = GeometrieRechnen(papier, 1.0F, seite.masse().links, seite.masse().oben);
+            const auto g = GeometrieRechnen(papier, 1_mm, seite.masse().links, seite.masse().oben);
             EXPECT_EQ(seite.Drucken(FormularZeichnen(daten, g, seite.schriftmass()), {}), "");
         }
         const QString datei = Druckdienst::warten(auftrag);
@@ -137,7 +137,7 @@ TEST_F(Warteschlange, WithoutTheServiceTheSheetBecomesAPdfFileAndWithItAgainAPri
     const QString datei = ordner.filePath(QStringLiteral("Ohne.pdf"));
     {
         Druckseite seite(QPageLayout::Portrait, EigenerPfad(datei), "Probe");
-        EXPECT_EQ(seite.Drucken({Strich{10, 10, 20, 10, {}}}, {}), EigenerPfad(datei));
+        EXPECT_EQ(seite.Drucken({Strich{10_mm, 10_mm, 20_mm, 10_mm, {}}}, {}), EigenerPfad(datei));
     }
     EXPECT_EQ(PdfSeitenzahl(datei), 1);
     ASSERT_EQ(dienst->starten(), QString());
@@ -155,7 +155,7 @@ TEST_F(Warteschlange, APrinterChosenInTheDialogServesAlsoWhenItIsAFile) {
     for (int i = 0; i < 2; ++i) {
         QFile::remove(datei);
         Druckseite seite(QPageLayout::Portrait, "\\x\\Feldkranz.pdf", "Probe");
-        EXPECT_EQ(seite.Drucken({Strich{10, 10, 20, 10, {}}}, {}), EigenerPfad(datei));
+        EXPECT_EQ(seite.Drucken({Strich{10_mm, 10_mm, 20_mm, 10_mm, {}}}, {}), EigenerPfad(datei));
         EXPECT_TRUE(QFile::exists(datei));
     }
     // The file stays chosen when the dialog is confirmed again as it stands.

@@ -6,11 +6,12 @@
 
 namespace {
 
-// Every character is one wide.
+// Every character is a millimetre wide.
 std::vector<std::string> Zeilen(std::string_view text, float breite,
                                 Wortmass wortmass = Wortmass::AmLeerzeichen) {
     const auto zeilen = Umbrechen(
-        text, breite, [](std::string_view teil) { return static_cast<float>(teil.size()); }, wortmass);
+        text, Millimeter(breite),
+        [](std::string_view teil) { return Millimeter(static_cast<float>(teil.size())); }, wortmass);
     return {zeilen.begin(), zeilen.end()};
 }
 
@@ -100,9 +101,9 @@ TEST(Zeilenumbruch, NoCharacterButBlanksAndLineEndsIsLost) {
 
 TEST(Zeilenumbruch, MeasuresOnlyAtBlanks) {
     int gemessen = 0;
-    const auto zeilen = Umbrechen("äöü ßé abc de", 100, [&](std::string_view) {
+    const auto zeilen = Umbrechen("äöü ßé abc de", 100_mm, [&](std::string_view) {
         ++gemessen;
-        return 1.0F;
+        return 1_mm;
     });
     EXPECT_EQ(zeilen.size(), 1U);
     EXPECT_LE(gemessen, 3);

@@ -1,5 +1,6 @@
 #include "quizform/feldregeln.h"
 #include "quizform/formmasse.h"
+#include "tests/hilfe/laengenausgabe.h"
 
 #include <gtest/gtest.h>
 
@@ -107,19 +108,19 @@ TEST(Feldregeln, NumbersOutsideTheTableHideNoArea) {
 }
 
 TEST(Formmasse, BothSizeClassesGiveTheMeasuresOfTheWindow) {
-    EXPECT_EQ(masseKlein.SpaltenRaster(), 2340);
-    EXPECT_EQ(masseGross.SpaltenRaster(), 3060);
-    EXPECT_EQ(masseKlein.ZeilenRaster(), 1545);
-    EXPECT_EQ(masseGross.ZeilenRaster(), 1980);
-    EXPECT_EQ(masseKlein.RasterOben(), 855);
-    EXPECT_EQ(masseGross.RasterOben(), 960);
-    EXPECT_EQ(masseKlein.InnenBreite(), 14115);
-    EXPECT_EQ(masseKlein.InnenHoehe(), 8610);
-    EXPECT_EQ(masseGross.InnenBreite(), 18435);
-    EXPECT_EQ(masseGross.InnenHoehe(), 10890);
+    EXPECT_EQ(masseKlein.SpaltenRaster(), 2340_tw);
+    EXPECT_EQ(masseGross.SpaltenRaster(), 3060_tw);
+    EXPECT_EQ(masseKlein.ZeilenRaster(), 1545_tw);
+    EXPECT_EQ(masseGross.ZeilenRaster(), 1980_tw);
+    EXPECT_EQ(masseKlein.RasterOben(), 855_tw);
+    EXPECT_EQ(masseGross.RasterOben(), 960_tw);
+    EXPECT_EQ(masseKlein.InnenBreite(), 14115_tw);
+    EXPECT_EQ(masseKlein.InnenHoehe(), 8610_tw);
+    EXPECT_EQ(masseGross.InnenBreite(), 18435_tw);
+    EXPECT_EQ(masseGross.InnenHoehe(), 10890_tw);
 }
 
 TEST(Formmasse, TheLargeClassBeginsAt1280Pixels) {
-    EXPECT_EQ(FormMasseFuer(1279).schrift, 8);
-    EXPECT_EQ(FormMasseFuer(1280).schrift, 10);
+    EXPECT_EQ(FormMasseFuer(1279).schrift, 8_pt);
+    EXPECT_EQ(FormMasseFuer(1280).schrift, 10_pt);
 }
