@@ -3,10 +3,10 @@
 #include "catalogue/katalogdatei.h"
 #include "core/datei.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "persistence/formulardatei.h"
-#include "quizform/formdaten.h"
-#include "testform/formdaten.h"
+#include "quizform/quizformular.h"
+#include "testform/testformular.h"
 
 #include <benchmark/benchmark.h>
 
@@ -46,25 +46,25 @@ std::string VollesFormular(int mal) {
         frage += "Wie heißt der größte Fluß, der über die Grenzen von fünf Ländern fließt ? ";
         antwort += "Donau (Österreich, Ungarn ...) ";
     }
-    FormTyp = "FK";
-    WissenTitel.fill("Länder und Flüsse");
-    FrageText.fill(frage);
-    AntwortText.fill(antwort);
-    FeldSpezial.fill("J");
-    FormNr = "17";
+    Stand.FormTyp = Formart::Quiz;
+    FKForm.WissenTitel.fill("Länder und Flüsse");
+    FKForm.FrageText.fill(frage);
+    FKForm.AntwortText.fill(antwort);
+    FKForm.FeldSpezial.fill("J");
+    FKForm.FormNr = "17";
     return FormularBytes("FKFragen");
 }
 
 // A test with its ten rows full.
 std::string VollerTest() {
-    FormTyp = "Test";
-    HBFach = HBKopf2 = " Knoten und Bünde";
-    HBKopf1 = " Lernzielkontrolle Häuptlingsfreizeit";
-    HBKopf3 = " III";
-    HBFrageText.fill("Wie heißt der größte Knoten, mit dem man zwei gleich dicke Taue verbindet ? ");
-    HBAntwortText.fill("Kreuzknoten (Weberknoten, wenn die Taue ungleich sind)");
-    HBPunkte.fill(10);
-    HBGesamtpunkte = 100;
+    Stand.FormTyp = Formart::Test;
+    HBForm.HBFach = HBForm.HBKopf2 = " Knoten und Bünde";
+    HBForm.HBKopf1 = " Lernzielkontrolle Häuptlingsfreizeit";
+    HBForm.HBKopf3 = " III";
+    HBForm.HBFrageText.fill("Wie heißt der größte Knoten, mit dem man zwei gleich dicke Taue verbindet ? ");
+    HBForm.HBAntwortText.fill("Kreuzknoten (Weberknoten, wenn die Taue ungleich sind)");
+    HBForm.HBPunkte.fill(10);
+    HBForm.HBGesamtpunkte = 100;
     return FormularBytes("HBFragen");
 }
 

@@ -2,13 +2,13 @@
 // keys typed into it, against a bare text field that reads and writes the same file.
 #include "editor/editor.h"
 #include "benchmarks/kennzahl.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
 #include "editor/editordateien.h"
 #include "editor/frmEditor.h"
+#include "mainwindow/frmMDI.h"
 #include "tests/hilfe/programmordner.h"
 
 #include <QApplication>
@@ -107,7 +107,7 @@ private:
 // Chooses the file in the file dialog, and confirms every message.
 bool Antworten(QDialog& dialog) {
     if (dialog.objectName() == QStringLiteral("frmDatei")) {
-        DateiName = AppPfad + "\\WISSEN\\GROSS.TXT";
+        Stand.DateiName = Stand.AppPfad + "\\WISSEN\\GROSS.TXT";
     }
     dialog.accept();
     return true;

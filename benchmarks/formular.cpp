@@ -1,10 +1,10 @@
 // A new quiz form, from the command to the painted window, against a bare child window with four stock
 // controls for each of 30 cells.
 #include "benchmarks/kennzahl.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "tests/hilfe/programmordner.h"
 

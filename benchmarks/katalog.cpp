@@ -4,7 +4,7 @@
 #include "catalogue/katalogladen.h"
 #include "catalogue/themen.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "tests/hilfe/programmordner.h"
 
 #include <cstdlib>
@@ -27,7 +27,7 @@ std::vector<Datei> Dateien() {
     std::vector<Datei> dateien;
     for (const Thema& thema : Themen()) {
         for (const Unterthema& unterthema : thema.unterthemen) {
-            std::string pfad = AppPfad + "\\WISSEN\\";
+            std::string pfad = Stand.AppPfad + "\\WISSEN\\";
             pfad.append(thema.ordner).append("\\").append(unterthema.datei);
             dateien.push_back({&thema, unterthema.name, NativerPfad(pfad).toStdString()});
         }

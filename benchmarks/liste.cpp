@@ -1,12 +1,12 @@
 // The list of forms with 2000 of them: from the command to the painted window, the reading of the folder with
 // it, against a bare list that is given the same names; and how many previews a walk through it makes.
 #include "benchmarks/kennzahl.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
 #include "filetools/formularliste.h"
 #include "filetools/frmFKformulare.h"
+#include "mainwindow/frmMDI.h"
 #include "persistence/formulardatei.h"
-#include "quizform/formdaten.h"
+#include "quizform/quizformular.h"
 #include "tests/hilfe/programmordner.h"
 
 #include <QApplication>
@@ -32,9 +32,9 @@ QString Name(int nr) {
 
 // A full board, as a leader's forms are.
 QByteArray Formular() {
-    WissenTitel.fill("Länder und Flüsse");
-    FrageText.fill("Welcher Fluss fließt durch die Stadt, in der das große Lager war ?");
-    AntwortText.fill("Die Weser");
+    FKForm.WissenTitel.fill("Länder und Flüsse");
+    FKForm.FrageText.fill("Welcher Fluss fließt durch die Stadt, in der das große Lager war ?");
+    FKForm.AntwortText.fill("Die Weser");
     return QByteArray::fromStdString(FormularBytes("FKFragen"));
 }
 

@@ -1,8 +1,8 @@
 // The texts of the selection dialog: captions, tips, the question and the refusal of the trash field.
 #pragma once
 
-#include "dialogs/texte.h"
-#include "periphery/hinweistext.h"
+#include "core/hinweistext.h"
+#include "core/meldungstext.h"
 
 #include <array>
 #include <string_view>

@@ -12,7 +12,7 @@
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
 #include "core/ziehen.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -51,7 +51,7 @@ frmAuswahl::frmAuswahl(QWidget* eltern) : QWidget(eltern, Qt::Tool) {
     HinweiseSetzen(*this, auswahltexte::hinweise);
     Einpassen();
     ThemenLaden();
-    Fuellen(cmbThemen_, ThemenListe);
+    Fuellen(cmbThemen_, Katalog.ThemenListe);
 }
 
 void frmAuswahl::EreignisseVerbinden() {
@@ -65,7 +65,7 @@ void frmAuswahl::EreignisseVerbinden() {
 
 void frmAuswahl::ThemaGewaehlt() {
     UnterthemenLaden(Modelltext(cmbThemen_->currentText()));
-    Fuellen(cmbUnter_, UnterthemenListe);
+    Fuellen(cmbUnter_, Katalog.UnterthemenListe);
 }
 
 // The lists take the questions in one go, and none of them is picked.
@@ -112,9 +112,7 @@ void frmAuswahl::FrageGewaehlt() {
 
 // Also an empty field begins a drag.
 void frmAuswahl::FrageZiehen() {
-    DragArt = 0;
-    DragHerkunft = "Auswahl";
-    Ziehen(txtFrage_, txtFrage_->text());
+    Ziehen(txtFrage_, {Zugart::Auswahl, Formart::Keine, 0, txtFrage_->text(), txtAntwort_->text()});
 }
 
 // The way by key: the question is held, and F8 puts it where the user goes in the main window.

@@ -167,7 +167,7 @@ QGroupBox* frmAuswahl::MuellAufbauen() {
     auto* raster = new QGridLayout(fraMuell);
     blattfall_ = new Blattfall(fraMuell);
     raster->addWidget(blattfall_, 0, 0, Qt::AlignCenter);
-    ZielEinrichten(fraMuell, ZiehBild::Atom, [this] { MuellAblegen(*this); });
+    ZielEinrichten(fraMuell, ZiehBild::Atom, [this](const Ziehwert& wert) { MuellAblegen(*this, wert); });
     return fraMuell;
 }
 

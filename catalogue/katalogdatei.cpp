@@ -1,7 +1,7 @@
 #include "catalogue/katalogdatei.h"
 
 #include "core/cp1252.h"
-#include "persistence/wertgrammatik.h"
+#include "core/wertgrammatik.h"
 
 #include <algorithm>
 

@@ -8,8 +8,6 @@
 
 #include <string_view>
 
-using Namensliste = std::array<std::string, anzahlListenplaetze + 1>;
-
 // Header, then twenty lines, each taken whole, into places 1 to 20.
 void ThemenlisteLesen(std::string_view bytes, Namensliste& liste);
 

@@ -3,7 +3,7 @@
 #include "catalogue/katalogdatei.h"
 #include "catalogue/texte.h"
 #include "core/datei.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 
 namespace {
@@ -12,15 +12,15 @@ namespace {
 constexpr std::size_t groessteListe = std::size_t{1} << 20U;
 
 std::string Pfad(const Thema& thema, std::string_view datei) {
-    return AppPfad + "\\WISSEN\\" + std::string(thema.ordner) + "\\" + std::string(datei);
+    return Stand.AppPfad + "\\WISSEN\\" + std::string(thema.ordner) + "\\" + std::string(datei);
 }
 
 // The list file at the path; any failure is told with the name.
 void ListeLaden(const std::string& pfad, std::string_view name) {
     try {
-        UnterthemenlisteLesen(DateiLesen(pfad, groessteListe), UnterthemenListe);
+        UnterthemenlisteLesen(DateiLesen(pfad, groessteListe), Katalog.UnterthemenListe);
     } catch (const Laufzeitfehler&) {
-        Meldung(katalogtexte::listeFehlt, {name, AppPfad});
+        Meldung(katalogtexte::listeFehlt, {name, Stand.AppPfad});
     }
 }
 
@@ -29,7 +29,7 @@ void FragenFehlerMelden(const Thema& thema, std::string_view unterthema, const L
         return; // a last record cut short is lost without a word: it is meant
     }
     if (fehler.art() == Fehler::DateiNichtGefunden) {
-        Meldung(katalogtexte::dateiFehlt, {unterthema, AppPfad, thema.meldungsordner});
+        Meldung(katalogtexte::dateiFehlt, {unterthema, Stand.AppPfad, thema.meldungsordner});
     } else {
         Meldung(katalogtexte::andererFehler, {unterthema});
     }
@@ -39,7 +39,8 @@ void FragenFehlerMelden(const Thema& thema, std::string_view unterthema, const L
 
 void ThemenLaden() {
     try {
-        ThemenlisteLesen(DateiLesen(AppPfad + "\\WISSEN\\WISSEN.TXT", groessteListe), ThemenListe);
+        ThemenlisteLesen(DateiLesen(Stand.AppPfad + "\\WISSEN\\WISSEN.TXT", groessteListe),
+                         Katalog.ThemenListe);
     } catch (const Laufzeitfehler&) {
         // Told to nobody: the places not reached keep what they held.
     }
@@ -52,7 +53,7 @@ void UnterthemenLaden(std::string_view thema) {
 }
 
 void HBUnterthemenLaden() {
-    ListeLaden(AppPfad + "\\WISSEN\\HB\\W_HB.TXT", "HB");
+    ListeLaden(Stand.AppPfad + "\\WISSEN\\HB\\W_HB.TXT", "HB");
 }
 
 void FragenLaden(std::string_view thema, std::string_view unterthema, Fragenliste& liste) {

@@ -2,41 +2,33 @@
 
 #include "catalogue/auswahltexte.h"
 #include "catalogue/frmAuswahl.h"
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
-#include "core/ziehen.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
-#include "quizform/fkformular.h"
-#include "testform/hbformular.h"
 
 #include <QPointer>
 
-void MuellAblegen(frmAuswahl& fenster) {
-    if (DragHerkunft == "Auswahl") {
+void MuellAblegen(frmAuswahl& fenster, const Ziehwert& wert) {
+    if (wert.herkunft == Formart::Keine) {
         Meldung(auswahltexte::muellAuswahl);
         return;
     }
-    if (DragHerkunft != "FKFragen" && DragHerkunft != "HBFragen") {
-        return;
-    }
     const QPointer<frmAuswahl> offen(&fenster);
-    NachrichtAntwort = antwortAbbrechen; // the frame's close box must not throw anything away
-    if (Nachricht(auswahltexte::muellFrage) == antwortAbbrechen) {
+    // The frame's close box must not throw anything away.
+    if (!Bestaetigt(auswahltexte::muellFrage)) {
         return;
     }
     if (offen != nullptr) {
         offen->BlattFallenLassen();
     }
-    if (DragHerkunft == "FKFragen") {
+    if (Formularfenster* form = OffenesFormular(wert.herkunft); form != nullptr) {
         // A question of the clipboard panel bears the number 0 and so empties no cell.
-        FK_FeldLeeren(DragFeld);
-        FK_Merken();
-        FK_FelderFaerben();
-    } else {
-        HB_FeldLeeren(DragFeld);
-        HB_Merken();
+        form->FeldLeeren(wert.feld);
+        form->Merken();
+        form->Faerben();
     }
-    if (!FormTyp.empty()) {
-        FormStatusSetzen(1); // without a form there is nothing that could be saved
+    if (Stand.FormTyp != Formart::Keine) {
+        FormStatusSetzen(true); // without a form there is nothing that could be saved
     }
 }

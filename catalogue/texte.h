@@ -1,7 +1,7 @@
 // What the program says when a file of the catalogue fails. Only texts.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 namespace katalogtexte {
 

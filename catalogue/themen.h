@@ -8,10 +8,13 @@
 #include <string_view>
 
 inline constexpr int anzahlListenplaetze = 20;
+using Namensliste = std::array<std::string, anzahlListenplaetze + 1>;
 
 // Places 1 to 20 of the theme list and of the sub-theme list last read; index 0 isn't used.
-inline std::array<std::string, anzahlListenplaetze + 1> ThemenListe;
-inline std::array<std::string, anzahlListenplaetze + 1> UnterthemenListe;
+struct Themenlisten {
+    Namensliste ThemenListe, UnterthemenListe;
+};
+inline Themenlisten Katalog;
 
 struct Unterthema {
     std::string_view name;

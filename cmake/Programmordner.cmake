@@ -9,8 +9,8 @@ find_file(FELDKRANZ_QTBASE_DE qtbase_de.qm
 set_source_files_properties("${FELDKRANZ_QTBASE_DE}" PROPERTIES QT_RESOURCE_ALIAS qtbase_de.qm)
 qt_add_resources(fenster uebersetzung PREFIX /uebersetzung FILES "${FELDKRANZ_QTBASE_DE}")
 
-if(EXISTS "${PROJECT_SOURCE_DIR}/core/main.cpp")
-  add_executable(feldkranz WIN32 core/main.cpp)
+if(EXISTS "${PROJECT_SOURCE_DIR}/mainwindow/main.cpp")
+  add_executable(feldkranz WIN32 mainwindow/main.cpp)
   target_link_libraries(feldkranz PRIVATE fenster)
   set_target_properties(feldkranz PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${FELDKRANZ_PROGRAMMORDNER}")
   if(WIN32)

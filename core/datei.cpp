@@ -2,21 +2,13 @@
 
 #include "core/pfad.h"
 #include "core/plattform.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 
 #include <QDateTime>
 
 #include <new>
 
 namespace {
-
-// The one file number, in use for as long as this lives.
-struct Dateinummer {
-    Dateinummer() { DateiNr = 1; }
-    Dateinummer(const Dateinummer&) = delete;
-    Dateinummer& operator=(const Dateinummer&) = delete;
-    ~Dateinummer() { DateiNr = 0; }
-};
 
 [[nodiscard]] QString NativerDateipfad(std::string_view pfad) {
     if (pfad.empty() || pfad.find('\0') != std::string_view::npos) {
@@ -60,7 +52,6 @@ void AnOrtSchreiben(const QString& ziel, std::string_view bytes) {
 
 std::string DateiLesen(std::string_view pfad, std::size_t hoechstens) {
     const QString nativ = NativerDateipfad(pfad);
-    const Dateinummer offen;
     try {
         return plattform::Lesen(nativ, hoechstens);
     } catch (const std::bad_alloc&) {
@@ -70,7 +61,6 @@ std::string DateiLesen(std::string_view pfad, std::size_t hoechstens) {
 
 void DateiSchreiben(std::string_view pfad, std::string_view bytes) {
     const QString nativ = NativerDateipfad(pfad);
-    const Dateinummer offen;
     if (!plattform::DauerhaftErsetzen(nativ, bytes)) {
         AnOrtSchreiben(nativ, bytes);
     }

@@ -3,10 +3,12 @@
 
 #include "core/farbe.h"
 
-#include <cstdint>
-
-inline std::int16_t FortschrittAktiv = 0; // 1 between start and end of a long step
-inline float FortschrittWert = 0.0F;
+// The one long step that runs. Written by the three progress routines.
+struct Fortschrittstand {
+    bool FortschrittAktiv = false; // between start and end of the step
+    float FortschrittWert = 0.0F;
+};
+inline Fortschrittstand Fortschritt;
 
 // Fill level in per cent for FortschrittWert, at most 100.
 [[nodiscard]] float FortschrittProzent(float wert);

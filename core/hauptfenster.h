@@ -1,16 +1,18 @@
 // What every window may ask of the main window, as plain routines: status text, mode, progress bar, the
-// change flags, the miniature of the board. frmMDI and its units define them; without a main window they only
-// keep the state. Texts are UTF-8.
+// change flags, the miniature of the board. The one way upwards in the folders' order: the main window's own
+// folder defines them; without a main window they only keep the state. Texts are UTF-8.
 #pragma once
 
 #include "core/farbe.h"
+#include "core/formart.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
 
-class QWidget;
+class QAbstractButton;
 class QMdiSubWindow;
+class QWidget;
 
 // Status text in the help panel, with one blank behind it.
 void HilfeText(std::string_view text);
@@ -30,25 +32,27 @@ void FortschrittStart(std::string_view text);
 void FortschrittSchritt(float n);
 void FortschrittEnde();
 
-// The change flag of the form, or of the editor, and its pair of flags: 1 for unsaved changes, else none.
-void FormStatusSetzen(int flag);
-void EditorStatusSetzen(int flag);
+// The change flag of the form, or of the editor, and its pair of flags.
+void FormStatusSetzen(bool geaendert);
+void EditorStatusSetzen(bool geaendert);
 // Which flag shows, without touching the change flag: the form file's reader sets it by the mode tag.
 void FlaggeZeigen(bool rot);
 
 // Miniature of cell n (1 to 30); no value is system face.
 void MiniaturFaerben(int n, std::optional<Farbe> farbe);
 
-// Takes the commands of the quiz form, or of the test form, into or out of use.
-void BefehleFKFreigeben(bool frei);
-void BefehleHBFreigeben(bool frei);
+// Takes the commands of that kind of form into or out of use.
+void BefehleFreigeben(Formart art, bool frei);
+
+// Gives a button the command of its name, or takes it out of use where there is none.
+void BefehlVerbinden(QAbstractButton* schaltflaeche);
 
 // Puts a child window into the main window and gives its frame; the window itself decides about its closing.
 QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster);
-// The active child window's tag ("FKFragen", "HBFragen" and so on), "" for none.
-std::string AktivesKind();
-// Brings the child window with that tag to the front.
-void KindNachVorn(std::string_view tag);
+// Content of the active child window, nullptr for none.
+QWidget* AktivesKind();
+// Brings the child window around that content to the front.
+void KindNachVorn(const QWidget* inhalt);
 
 // The parent for dialogs and tool windows, nullptr before the main window is there.
 QWidget* Hauptfenster();

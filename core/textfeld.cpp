@@ -3,7 +3,7 @@
 #include "core/cp1252.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "persistence/wertgrammatik.h"
+#include "core/wertgrammatik.h"
 
 #include <QFocusEvent>
 #include <QMouseEvent>

@@ -114,7 +114,7 @@ void ZugAusfuehren(Zug& zug) {
     const Zugwaechter waechter;
     // Not the source's child: the source may be gone before the drag is.
     auto* drag = new QDrag(QCoreApplication::instance());
-    drag->setMimeData(Ziehdaten(zug.frage));
+    drag->setMimeData(Ziehdaten(zug.wert.frage));
     QPixmap leer(1, 1); // the cursors say it all; without a picture the toolkit would add one of its own
     leer.fill(Qt::transparent);
     drag->setPixmap(leer);
@@ -128,7 +128,7 @@ void ZugAusfuehren(Zug& zug) {
     zug.bild = ZiehBild::Keins;
 }
 
-void Markieren(QWidget* element, ZiehBild bild, std::function<void()> ablegen) {
+void Markieren(QWidget* element, ZiehBild bild, Ablegen ablegen) {
     delete EigeneMarke(element);
     new Zielmarke(element, bild, std::move(ablegen));
     element->setAcceptDrops(true);
@@ -173,16 +173,16 @@ ZiehBild AktuellesZiehBild() {
     return AktuellerZug().bild;
 }
 
-const std::string& GezogeneFrage() {
-    return AktuellerZug().frage;
+const Ziehwert& Gezogen() {
+    return AktuellerZug().wert;
 }
 
-void Ziehen(QWidget* quelle, const std::string& frage) {
+void Ziehen(QWidget* quelle, Ziehwert wert) {
     Zug& zug = AktuellerZug();
     if (zug.drag != nullptr) {
         return;
     }
-    zug.frage = frage;
+    zug.wert = std::move(wert);
     zug.quelle = quelle;
     zug.getroffen = nullptr;
     zug.gehalten = zug.ohneMaus;
@@ -192,11 +192,11 @@ void Ziehen(QWidget* quelle, const std::string& frage) {
     zug.pixelverhaeltnis = quelle->devicePixelRatioF();
     ZugAusfuehren(zug);
     if (const Zielmarke* marke = zug.getroffen; marke != nullptr && zug.quelle != nullptr) {
-        marke->ausfuehren();
+        marke->ausfuehren(zug.wert);
     }
 }
 
-void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen) {
+void ZielEinrichten(QWidget* ziel, ZiehBild bild, Ablegen ablegen) {
     Markieren(ziel, bild, std::move(ablegen));
     ZieltastenEinrichten(ziel);
 }
@@ -207,4 +207,9 @@ void DruckEinrichten(QAbstractScrollArea* feld, std::function<bool(Qt::KeyboardM
 
 void KeinZiel(QWidget* steuerelement) {
     Markieren(steuerelement, ZiehBild::Nein, {});
+}
+
+std::optional<Zugart> ZugartFuer(Qt::KeyboardModifiers tasten) {
+    return ZugartFuer(tasten.testFlag(Qt::ShiftModifier), tasten.testFlag(Qt::ControlModifier),
+                      tasten.testFlag(Qt::AltModifier));
 }

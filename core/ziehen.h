@@ -3,38 +3,35 @@
 // can be gone with keys. Which drag is allowed and what a drop does is the callers' affair.
 #pragma once
 
+#include "core/ziehwert.h"
+
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <optional>
 
 #include <QtCore/qnamespace.h>
 
 class QAbstractScrollArea;
 class QWidget;
 
-// 0 a drag from the selection dialog, 1 a move, 2 a copy, 27 the test form's copy.
-inline std::int16_t DragArt = 0;
-// Cell or row at which the drag began; 0 for the clipboard panel.
-inline std::int16_t DragFeld = 0;
-// Tag of the window where the press happened: "FKFragen", "HBFragen" or "Auswahl".
-inline std::string DragHerkunft;
-
 // The pictures at the pointer while a question is dragged: taken up, over a target, over what takes nothing,
 // over the trash. Keins while nothing is dragged.
 enum class ZiehBild : std::uint8_t { Keins, Aufnehmen, Ablegen, Nein, Atom };
 [[nodiscard]] ZiehBild AktuellesZiehBild();
 
-// Drags the text of a source; call it while the mouse button is down. Comes back after the drop and what it
-// caused. Esc cancels. A source or a target that is gone by then leaves the drop without effect. While
-// another drag runs it does nothing.
-void Ziehen(QWidget* quelle, const std::string& frage);
+// Drags a question out of its source; call it while the mouse button is down. Comes back after the drop and
+// what it caused. Esc cancels. A source or a target that is gone by then leaves the drop without effect.
+// While another drag runs it does nothing.
+void Ziehen(QWidget* quelle, Ziehwert wert);
 
-// The text being dragged, or dragged last.
-[[nodiscard]] const std::string& GezogeneFrage();
+// What is being dragged, or was dragged last.
+[[nodiscard]] const Ziehwert& Gezogen();
 
-// Makes a control a target: bild shows while the drag is over it, ablegen runs after the drop. Works for any
-// control; a text box goes on taking foreign text as ever. A second call replaces the first.
-void ZielEinrichten(QWidget* ziel, ZiehBild bild, std::function<void()> ablegen);
+// Makes a control a target: bild shows while the drag is over it, ablegen runs after the drop with what was
+// dropped. Works for any control; a text box goes on taking foreign text as ever. A second call replaces the
+// first.
+using Ablegen = std::function<void(const Ziehwert&)>;
+void ZielEinrichten(QWidget* ziel, ZiehBild bild, Ablegen ablegen);
 // Makes a control, and what lies in it and isn't a target, one that takes nothing. Controls without either
 // take nothing as well.
 void KeinZiel(QWidget* steuerelement);
@@ -53,3 +50,6 @@ bool OhneMausAufnehmen(const std::function<void()>& druecken);
 bool OhneMausAblegen(QWidget* ziel);
 [[nodiscard]] bool OhneMausGehalten();
 void OhneMausLoslassen();
+
+// The kind of drag that the keys held at a press ask for.
+[[nodiscard]] std::optional<Zugart> ZugartFuer(Qt::KeyboardModifiers tasten);

@@ -96,7 +96,7 @@ bool OhneMausAblegen(QWidget* ziel) {
         return false;
     }
     AktuellerZug().gehalten = false;
-    marke->ausfuehren();
+    marke->ausfuehren(AktuellerZug().wert);
     return true;
 }
 

@@ -13,24 +13,25 @@
 // Hangs below the control it speaks for, and goes with it. Without steps the control takes nothing.
 class Zielmarke : public QObject {
 public:
-    Zielmarke(QWidget* element, ZiehBild bild, std::function<void()> ablegen)
+    Zielmarke(QWidget* element, ZiehBild bild, Ablegen ablegen)
         : QObject(element), bild_(bild), ablegen_(std::move(ablegen)) {}
 
     [[nodiscard]] bool nimmt() const { return static_cast<bool>(ablegen_); }
     [[nodiscard]] ZiehBild bild() const { return bild_; }
     // The steps may take the control away, and the mark with it.
-    void ausfuehren() const {
-        const std::function<void()> schritte = ablegen_;
-        schritte();
+    void ausfuehren(const Ziehwert& wert) const {
+        const Ablegen schritte = ablegen_;
+        const Ziehwert abgelegt = wert;
+        schritte(abgelegt);
     }
 
 private:
     ZiehBild bild_;
-    std::function<void()> ablegen_;
+    Ablegen ablegen_;
 };
 
 struct Zug {
-    std::string frage;
+    Ziehwert wert;
     QPointer<QWidget> quelle;
     QPointer<Zielmarke> getroffen;
     QPointer<QDrag> drag; // none while a question is merely held

@@ -3,7 +3,7 @@
 #include "core/bilder.h"
 #include "core/datei.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/fehlertexte.h"
 #include "dialogs/meldung.h"
 
@@ -43,7 +43,7 @@ Dialoggrund::Dialoggrund(const QString& name, double breite, double hoehe, Qt::W
 
 void Dialoggrund::HintergrundLaden(std::string_view name) {
     try {
-        const std::string pfad = AppPfad + "\\BITMAP\\FK_" + std::string(name);
+        const std::string pfad = Stand.AppPfad + "\\BITMAP\\FK_" + std::string(name);
         grund_ = Feinbild(BildLaden(pfad), pfad, devicePixelRatioF());
     } catch (const Laufzeitfehler& fehler) {
         bildfehler_ = fehler;

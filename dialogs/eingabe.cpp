@@ -3,16 +3,12 @@
 #include "core/oberflaeche.h"
 #include "dialogs/einzelfenster.h"
 #include "dialogs/frmInput.h"
-#include "dialogs/meldung.h"
 #include "dialogs/modal.h"
 
-const std::string& Eingabe(int bildNr, std::string_view titel, std::string_view text,
-                           std::string_view vorgabe, int nummer) {
+std::optional<std::string> Eingabe(int bildNr, std::string_view titel, std::string_view text,
+                                   std::string_view vorgabe) {
     frmInput& fenster = Einzelfenster<frmInput>("INPUT.bmp");
-    NachrichtBild = static_cast<std::int16_t>(bildNr);
-    InputVorgabe = vorgabe;
-    NachrichtNummer = std::to_string(nummer);
-    fenster.Fragen(Anzeige(text), Anzeige(titel));
+    fenster.Fragen(bildNr, Anzeige(titel), Anzeige(text), Anzeige(vorgabe));
     ModalZeigen(fenster);
-    return InputErgebnis;
+    return fenster.ergebnis();
 }

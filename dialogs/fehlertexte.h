@@ -2,7 +2,7 @@
 // Makes texts only; dialogs/meldung.h shows them.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <string>
 #include <string_view>

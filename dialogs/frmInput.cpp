@@ -2,11 +2,10 @@
 
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
-#include "dialogs/eingabe.h"
 #include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -44,9 +43,8 @@ frmInput::frmInput()
     TippsEinrichten(this, tippBreite);
     HinweiseSetzen(*this, dialogtexte::eingabe);
     cmdOK_->setDefault(true);
-    connect(cmdOK_, &QPushButton::clicked, this, &frmInput::OK_Click);
-    connect(cmdAbbruch_, &QPushButton::clicked, this, &frmInput::Abbruch_Click);
-    InputAbbruch = 0;
+    connect(cmdOK_, &QPushButton::clicked, this, &frmInput::Uebernehmen);
+    connect(cmdAbbruch_, &QPushButton::clicked, this, &frmInput::Abbrechen);
 }
 
 void frmInput::ZeileBauen() {
@@ -72,7 +70,10 @@ void frmInput::TabfolgeSetzen() {
     setTabOrder(cmdAbbruch_, cmdHilfe_);
 }
 
-void frmInput::Fragen(const QString& text, const QString& titel) {
+void frmInput::Fragen(int bild, const QString& titel, const QString& text, const QString& vorgabe) {
+    bild_ = bild;
+    vorgabe_ = vorgabe;
+    ergebnis_.reset();
     lblInput_->setText(text);
     setWindowTitle(titel);
     VorgabeEinsetzen();
@@ -80,9 +81,8 @@ void frmInput::Fragen(const QString& text, const QString& titel) {
 
 void frmInput::VorgabeEinsetzen() {
     txtInput_->setFocus();
-    const QString vorgabe = Anzeige(InputVorgabe);
-    if (txtInput_->text() != vorgabe) {
-        txtInput_->setText(vorgabe);
+    if (txtInput_->text() != vorgabe_) {
+        txtInput_->setText(vorgabe_);
     }
     TextMarkieren(txtInput_);
 }
@@ -99,7 +99,7 @@ void frmInput::paintEvent(QPaintEvent* ereignis) {
 void frmInput::showEvent(QShowEvent* ereignis) {
     Dialoggrund::showEvent(ereignis);
     for (int i = 1; i < static_cast<int>(picSymbol_.size()); ++i) {
-        picSymbol_[static_cast<std::size_t>(i)]->setVisible(i == NachrichtBild);
+        picSymbol_[static_cast<std::size_t>(i)]->setVisible(i == bild_);
     }
 }
 
@@ -126,18 +126,16 @@ bool frmInput::eventFilter(QObject* objekt, QEvent* ereignis) {
 
 // Esc and the frame's close box are the same as the button.
 void frmInput::reject() {
-    Abbruch_Click();
+    Abbrechen();
 }
 
-void frmInput::OK_Click() {
+void frmInput::Uebernehmen() {
     SoundSpielen("dubb");
-    InputErgebnis = txtInput_->text().toStdString();
+    ergebnis_ = txtInput_->text().toStdString();
     done(QDialog::Accepted);
 }
 
-void frmInput::Abbruch_Click() {
+void frmInput::Abbrechen() {
     SoundSpielen("clack");
-    InputErgebnis = InputVorgabe;
-    InputAbbruch = 1;
     done(QDialog::Rejected);
 }

@@ -1,10 +1,12 @@
-// The dialog for one line of text. One window serves the whole run: it is hidden, never closed. The result
-// goes to InputErgebnis.
+// The dialog for one line of text. One window serves the whole run: it is hidden, never closed, and keeps
+// what was entered last.
 #pragma once
 
 #include "dialogs/dialoggrund.h"
 
 #include <array>
+#include <optional>
+#include <string>
 
 class QLineEdit;
 class QPushButton;
@@ -15,8 +17,10 @@ class frmInput : public Dialoggrund {
 public:
     frmInput();
 
-    // Request and title; the entry line takes InputVorgabe, the picture follows NachrichtBild.
-    void Fragen(const QString& text, const QString& titel);
+    // Picture 1 to 8, title and request; vorgabe is the text proposed.
+    void Fragen(int bild, const QString& titel, const QString& text, const QString& vorgabe);
+    // The line after OK, no value after Abbrechen.
+    [[nodiscard]] const std::optional<std::string>& ergebnis() const { return ergebnis_; }
 
     void reject() override;
 
@@ -30,9 +34,12 @@ private:
     QPushButton* TasteBauen(const char* name, const QString& wort, double links);
     void TabfolgeSetzen();
     void VorgabeEinsetzen();
-    void OK_Click();
-    void Abbruch_Click();
+    void Uebernehmen();
+    void Abbrechen();
 
+    int bild_ = 0;
+    QString vorgabe_;
+    std::optional<std::string> ergebnis_;
     std::array<QLabel*, 9> picSymbol_{}; // 1 to 8
     QLabel* lblInput_;
     QLineEdit* txtInput_;

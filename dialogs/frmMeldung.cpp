@@ -5,7 +5,7 @@
 #include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -32,9 +32,10 @@ QFont PassendeSchrift(const QString& text, int breite) {
 
 } // namespace
 
-frmMeldung::frmMeldung()
+frmMeldung::frmMeldung(const MeldungsText& meldung)
     : Dialoggrund(QStringLiteral("frmMeldung"), fensterBreite, fensterHoehe,
                   Qt::Dialog | Qt::FramelessWindowHint),
+      bild_(meldung.bild),
       pnlPic_(new Panel(this, QStringLiteral("pnlPic"))),
       pnlNr_(new Panel(this, QStringLiteral("pnlNr"))),
       lblNr_(new QLabel(pnlNr_)),
@@ -47,10 +48,11 @@ frmMeldung::frmMeldung()
     HintergrundLaden("MELDUNG.bmp");
     TwipsGeometrie(lblMeldung_, 60, 930, 4875, 1035);
     BilderBauen();
-    NummerBauen();
+    NummerBauen(meldung.nummer);
     TasteBauen();
     HinweiseSetzen(*this, dialogtexte::meldung);
     Anordnen();
+    Beschriften(Anzeige(meldung.text), Anzeige(meldung.taste));
 }
 
 void frmMeldung::BilderBauen() {
@@ -67,13 +69,13 @@ void frmMeldung::BilderBauen() {
     picMeldung_[grussBild]->installEventFilter(this);
 }
 
-void frmMeldung::NummerBauen() {
+void frmMeldung::NummerBauen(std::string_view nummer) {
     TwipsGeometrie(pnlNr_, fensterBreite - 450, 150, 360, 255);
     lblNr_->setObjectName(QStringLiteral("lblNr"));
     lblNr_->setGeometry(pnlNr_->rect());
     lblNr_->setAlignment(Qt::AlignCenter);
     lblNr_->setFont(Schrift(7.5));
-    lblNr_->setText(Anzeige(MeldungNummer));
+    lblNr_->setText(Anzeige(nummer));
     lblNr_->installEventFilter(this);
 }
 
@@ -82,7 +84,7 @@ void frmMeldung::TasteBauen() {
     cmdKenntnis_->setObjectName(QStringLiteral("cmdKenntnis"));
     cmdKenntnis_->setDefault(true);
     cmdKenntnis_->setFocus();
-    connect(cmdKenntnis_, &QPushButton::clicked, this, &frmMeldung::Kenntnis_Click);
+    connect(cmdKenntnis_, &QPushButton::clicked, this, &frmMeldung::ZurKenntnisNehmen);
 }
 
 void frmMeldung::Beschriften(const QString& text, const QString& antwort) {
@@ -91,8 +93,8 @@ void frmMeldung::Beschriften(const QString& text, const QString& antwort) {
     // An ampersand of a caller is a character and no access key.
     cmdKenntnis_->setText(QString(antwort).replace(QLatin1Char('&'), QLatin1String("&&")));
     cmdKenntnis_->setAccessibleName(antwort);
-    if (MeldungBild >= 0 && MeldungBild < static_cast<int>(picMeldung_.size())) {
-        picMeldung_[static_cast<std::size_t>(MeldungBild)]->show();
+    if (bild_ >= 0 && bild_ < static_cast<int>(picMeldung_.size())) {
+        picMeldung_[static_cast<std::size_t>(bild_)]->show();
     }
 }
 
@@ -100,9 +102,9 @@ void frmMeldung::Beschriften(const QString& text, const QString& antwort) {
 void frmMeldung::Anordnen() {
     Zentrieren(fensterHoehe);
     for (std::size_t i = 1; i < picMeldung_.size(); ++i) {
-        picMeldung_[i]->move(static_cast<int>(i) == MeldungBild ? 0 : Pixel(900), 0);
+        picMeldung_[i]->move(static_cast<int>(i) == bild_ ? 0 : Pixel(900), 0);
     }
-    if (MeldungBild == 0) {
+    if (bild_ == 0) {
         picMeldung_[0]->move(0, 0);
     }
 }
@@ -141,7 +143,7 @@ bool frmMeldung::eventFilter(QObject* objekt, QEvent* ereignis) {
     return Dialoggrund::eventFilter(objekt, ereignis);
 }
 
-void frmMeldung::Kenntnis_Click() {
+void frmMeldung::ZurKenntnisNehmen() {
     for (QLabel* bild : picMeldung_) {
         bild->hide();
     }

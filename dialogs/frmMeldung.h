@@ -2,6 +2,7 @@
 // fixed and doesn't follow its text.
 #pragma once
 
+#include "core/meldungstext.h"
 #include "dialogs/dialoggrund.h"
 
 #include <array>
@@ -13,10 +14,8 @@ class frmMeldung : public Dialoggrund {
     Q_OBJECT
 
 public:
-    // Takes picture and number from MeldungBild and MeldungNummer.
-    frmMeldung();
-
-    void Beschriften(const QString& text, const QString& antwort);
+    // The message as it is shown, its values in their places.
+    explicit frmMeldung(const MeldungsText& meldung);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -25,11 +24,13 @@ protected:
 
 private:
     void BilderBauen();
-    void NummerBauen();
+    void NummerBauen(std::string_view nummer);
     void TasteBauen();
+    void Beschriften(const QString& text, const QString& antwort);
     void Anordnen();
-    void Kenntnis_Click();
+    void ZurKenntnisNehmen();
 
+    int bild_; // of picMeldung; a number that has none shows no picture
     std::array<QLabel*, 12> picMeldung_{};
     Panel* pnlPic_;
     Panel* pnlNr_;

@@ -5,13 +5,15 @@
 #include "dialogs/hinweistexte.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+
+#include <optional>
 
 namespace {
 
@@ -24,13 +26,16 @@ constexpr double ungenutzt = -1;
 
 enum Taste { Ja, Nein, Abbrechen, Hilfe, OK };
 
-struct Antwort {
+// By Taste.
+struct Antwortwort {
     const char* wort;
     std::string_view bild;
+    std::optional<Antwort> antwort; // the button without one gives none
 };
-constexpr std::array antworten{Antwort{"Ja", "wort/ja"}, Antwort{"Nein", "wort/nein"},
-                               Antwort{"Abbrechen", "wort/abbrechen"}, Antwort{"Hilfe", "wort/hilfe"},
-                               Antwort{"OK", "wort/ok"}};
+constexpr std::array antwortworte{
+    Antwortwort{"Ja", "wort/ja", Antwort::Ja}, Antwortwort{"Nein", "wort/nein", Antwort::Nein},
+    Antwortwort{"Abbrechen", "wort/abbrechen", Antwort::Abbrechen},
+    Antwortwort{"Hilfe", "wort/hilfe", std::nullopt}, Antwortwort{"OK", "wort/ok", Antwort::OK}};
 constexpr QSize wortbild(93, 22);
 constexpr int beiseite = 40; // blanks
 
@@ -38,7 +43,7 @@ constexpr int beiseite = 40; // blanks
 // sight.
 class Worttaste : public QPushButton {
 public:
-    Worttaste(QWidget* eltern, const Antwort& antwort) : QPushButton(eltern) {
+    Worttaste(QWidget* eltern, const Antwortwort& antwort) : QPushButton(eltern) {
         setText(QLatin1Char('&') + QString(QLatin1Char(*antwort.wort)) + QString(beiseite, QLatin1Char(' ')));
         setAccessibleName(QLatin1String(antwort.wort));
         setIcon(Bildzeichen(antwort.bild));
@@ -86,27 +91,30 @@ frmNachricht::frmNachricht()
 void frmNachricht::TastenBauen() {
     constexpr std::array<double, 5> entwurfLinks{120, 1740, 3360, 4980, 2565};
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
-        auto* taste = new Worttaste(this, antworten.at(i));
+        auto* taste = new Worttaste(this, antwortworte.at(i));
         taste->setObjectName(QStringLiteral("cmdAntwort(%1)").arg(i));
         TwipsGeometrie(taste, entwurfLinks[i], fensterHoehe - 1140, tastenBreite, tastenHoehe);
-        connect(taste, &QPushButton::clicked, this, [this, i] { Antwort_Click(static_cast<int>(i)); });
+        connect(taste, &QPushButton::clicked, this, [this, i] { Beantworten(static_cast<int>(i)); });
         cmdAntwort_[i] = taste;
     }
 }
 
-void frmNachricht::Stellen(const QString& text, const QString& titel) {
-    lblNachrichtentext_->setText(text);
-    setWindowTitle(titel);
+void frmNachricht::Stellen(const NachrichtText& frage, Antwort beimSchliessen) {
+    bild_ = frage.bild;
+    tasten_ = frage.tasten;
+    antwort_ = beimSchliessen;
+    lblNachrichtentext_->setText(Anzeige(frage.text));
+    setWindowTitle(Anzeige(frage.titel) + QLatin1Char(' '));
     TastenAnordnen();
 }
 
 // Done again at each painting. A button out of use isn't hidden but stands below the window's edge; a set
 // that doesn't exist leaves the buttons where they are.
 void frmNachricht::TastenAnordnen() {
-    if (NachrichtTasten < 0 || NachrichtTasten >= static_cast<int>(tastenLinks.size())) {
+    if (tasten_ < 0 || tasten_ >= static_cast<int>(tastenLinks.size())) {
         return;
     }
-    const auto& links = tastenLinks[static_cast<std::size_t>(NachrichtTasten)];
+    const auto& links = tastenLinks[static_cast<std::size_t>(tasten_)];
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
         QPushButton* taste = cmdAntwort_[i];
         const bool inGebrauch = links[i] >= 0;
@@ -120,8 +128,8 @@ void frmNachricht::TastenAnordnen() {
 }
 
 void frmNachricht::BildZeigen(bool sichtbar) {
-    if (NachrichtBild >= 1 && NachrichtBild < static_cast<int>(picSymbol_.size())) {
-        picSymbol_[static_cast<std::size_t>(NachrichtBild)]->setVisible(sichtbar);
+    if (bild_ >= 1 && bild_ < static_cast<int>(picSymbol_.size())) {
+        picSymbol_[static_cast<std::size_t>(bild_)]->setVisible(sichtbar);
     }
 }
 
@@ -153,21 +161,20 @@ void frmNachricht::keyPressEvent(QKeyEvent* ereignis) {
     Dialoggrund::keyPressEvent(ereignis);
 }
 
-// Closing by the frame: no answer, the old one stays.
+// Closing by the frame leaves the answer that it counts as.
 void frmNachricht::reject() {
     BildZeigen(false);
     done(QDialog::Rejected);
 }
 
-void frmNachricht::Antwort_Click(int taste) {
-    constexpr std::array<int, 5> werte{antwortJa, antwortNein, antwortAbbrechen, 0, antwortOK};
+void frmNachricht::Beantworten(int taste) {
     if (taste == Abbrechen) {
         SoundSpielen("clack");
     }
     // Hilfe gives no help: the question stays, without its picture.
-    if (taste != Hilfe) {
+    if (const auto& antwort = antwortworte.at(static_cast<std::size_t>(taste)).antwort; antwort) {
         done(QDialog::Accepted);
-        NachrichtAntwort = static_cast<std::int16_t>(werte[static_cast<std::size_t>(taste)]);
+        antwort_ = *antwort;
     }
     BildZeigen(false);
 }

@@ -1,7 +1,8 @@
-// The question with its five answer buttons. One window serves the whole run: it is hidden, never closed. The
-// answer goes to NachrichtAntwort.
+// The question with its five answer buttons. One window serves the whole run: it is hidden, never closed, and
+// keeps the answer to the question that it was given last.
 #pragma once
 
+#include "core/meldungstext.h"
 #include "dialogs/dialoggrund.h"
 
 #include <array>
@@ -15,8 +16,9 @@ class frmNachricht : public Dialoggrund {
 public:
     frmNachricht();
 
-    // Text and title; the picture and the buttons follow NachrichtBild and NachrichtTasten.
-    void Stellen(const QString& text, const QString& titel);
+    // Puts a question, as it is shown. Closing it by its frame counts as beimSchliessen.
+    void Stellen(const NachrichtText& frage, Antwort beimSchliessen);
+    [[nodiscard]] Antwort antwort() const { return antwort_; }
 
     void reject() override;
 
@@ -29,8 +31,11 @@ private:
     void TastenBauen();
     void TastenAnordnen();
     void BildZeigen(bool sichtbar);
-    void Antwort_Click(int taste);
+    void Beantworten(int taste);
 
+    int bild_ = 0;   // of picSymbol; a number that has none shows no picture
+    int tasten_ = 0; // button set
+    Antwort antwort_ = Antwort::Abbrechen;
     std::array<QLabel*, 13> picSymbol_{}; // 1 to 12
     std::array<QPushButton*, 5> cmdAntwort_{};
     Textschild* lblNachrichtentext_;

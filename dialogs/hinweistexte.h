@@ -1,7 +1,7 @@
 // Tips and status lines of the message, the question and the input line.
 #pragma once
 
-#include "periphery/hinweistext.h"
+#include "core/hinweistext.h"
 
 #include <array>
 

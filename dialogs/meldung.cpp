@@ -3,7 +3,7 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/plattform.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/einzelfenster.h"
 #include "dialogs/fehlertexte.h"
 #include "dialogs/frmMeldung.h"
@@ -11,20 +11,18 @@
 #include "dialogs/klangtabelle.h"
 #include "dialogs/modal.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include <array>
+#include <optional>
+#include <string>
 
-void Meldung(int /*flag*/, int bildNr, std::string_view text, std::string_view nummer,
-             std::string_view antwortText) {
-    MeldungBild = static_cast<std::int16_t>(bildNr);
-    MeldungNummer = nummer;
+void Meldung(const MeldungsText& meldung, std::initializer_list<std::string_view> werte) {
+    const std::string text = Einsetzen(meldung.text, werte);
     std::optional<Laufzeitfehler> bildfehler;
     {
-        frmMeldung fenster;
-        fenster.Beschriften(Anzeige(text), Anzeige(antwortText));
+        frmMeldung fenster({meldung.bild, text, meldung.nummer, meldung.taste});
         ModalZeigen(fenster);
         bildfehler = fenster.bildfehler();
     }
@@ -32,48 +30,46 @@ void Meldung(int /*flag*/, int bildNr, std::string_view text, std::string_view n
     BildfehlerMelden("MELDUNG.bmp", bildfehler);
 }
 
-void Meldung(const MeldungsText& meldung) {
-    Meldung(0, meldung.bild, meldung.text, meldung.nummer, meldung.taste);
-}
-
-void Meldung(const MeldungsText& meldung, std::initializer_list<std::string_view> werte) {
-    Meldung(0, meldung.bild, Einsetzen(meldung.text, werte), meldung.nummer, meldung.taste);
-}
-
-int Nachricht(int bildNr, std::string_view titel, std::string_view text, int tastenArt, int nummer) {
+Antwort Nachricht(const NachrichtText& frage, std::initializer_list<std::string_view> werte,
+                  Antwort beimSchliessen) {
+    const std::string text = Einsetzen(frage.text, werte);
     frmNachricht& fenster = Einzelfenster<frmNachricht>("NACHRICHT.bmp");
-    NachrichtTasten = static_cast<std::int16_t>(tastenArt);
-    NachrichtBild = static_cast<std::int16_t>(bildNr);
-    NachrichtNummer = std::to_string(nummer);
-    fenster.Stellen(Anzeige(text), Anzeige(titel) + QLatin1Char(' '));
+    fenster.Stellen({frage.bild, frage.titel, text, frage.tasten, frage.nummer}, beimSchliessen);
     ModalZeigen(fenster);
-    return NachrichtAntwort;
+    return fenster.antwort();
 }
 
-int Nachricht(const NachrichtText& frage) {
-    return Nachricht(frage.bild, frage.titel, frage.text, frage.tasten, frage.nummer);
+bool NachrichtJaNein(const NachrichtText& frage, std::initializer_list<std::string_view> werte) {
+    for (;;) {
+        const Antwort antwort = Nachricht(frage, werte);
+        if (antwort == Antwort::Ja || antwort == Antwort::Nein) {
+            return antwort == Antwort::Ja;
+        }
+    }
 }
 
-int Nachricht(const NachrichtText& frage, std::initializer_list<std::string_view> werte) {
-    return Nachricht(frage.bild, frage.titel, Einsetzen(frage.text, werte), frage.tasten, frage.nummer);
+bool ErsetzenErlaubt(const NachrichtText& frage) {
+    Antwort antwort = Nachricht(frage);
+    while (antwort != Antwort::Ja && antwort != Antwort::Abbrechen) {
+        antwort = Nachricht(frage);
+    }
+    return antwort == Antwort::Ja;
+}
+
+bool Bestaetigt(const NachrichtText& frage, std::initializer_list<std::string_view> werte) {
+    return Nachricht(frage, werte) != Antwort::Abbrechen;
 }
 
 void FehlerMelden(std::string_view ort, const Laufzeitfehler& fehler) {
     const Fehlerbericht bericht = FehlerberichtBilden(ort, fehler.nummer(), fehler.text());
-    Meldung(0, 1, bericht.text, "1", bericht.taste);
+    Meldung({1, bericht.text, "1", bericht.taste});
 }
 
 void SoundSpielen(std::string_view name) {
-    if (SoundSignal == 1) {
-        for (int i = 0; i < 4; ++i) {
-            QApplication::beep();
-        }
-        return;
-    }
     const std::string_view datei = KlangDatei(name);
     if (!datei.empty()) {
         // A file that is missing or can't be played is passed over: there is nothing to fall back on.
-        plattform::KlangAbspielen(NativerPfad(AppPfad + std::string(datei)));
+        plattform::KlangAbspielen(NativerPfad(Stand.AppPfad + std::string(datei)));
     }
 }
 

@@ -1,4 +1,4 @@
-feldkranz_quellen(modell dialogs/texte.cpp dialogs/fehlertexte.cpp)
+feldkranz_quellen(modell dialogs/fehlertexte.cpp)
 feldkranz_quellen(fenster
   dialogs/modal.cpp
   dialogs/meldung.cpp

@@ -1,7 +1,7 @@
 #include "editor/editor.h"
 
 #include "core/hauptfenster.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "editor/editordateien.h"
 #include "editor/editorpfad.h"
@@ -39,7 +39,7 @@ void Oeffnen() {
     if (rahmen != nullptr) {
         Platzieren(*rahmen);
     }
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
 }
 
 } // namespace
@@ -54,7 +54,7 @@ void EditorZeigen() {
         }
     }
     fenster->show();
-    KindNachVorn("Editor");
+    KindNachVorn(fenster);
     if (fenster->txtNotiz->isEnabled()) {
         fenster->txtNotiz->setFocus();
     }
@@ -76,7 +76,7 @@ void EditorEntladen() {
     QWidget* alt = qobject_cast<QMdiSubWindow*>(rahmen) != nullptr ? rahmen : fenster.data();
     fenster->disconnect();
     EditorpfadVergessen();
-    EditorGeaendert = 0;
+    Stand.EditorGeaendert = false;
     delete alt;
 }
 

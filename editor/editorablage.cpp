@@ -13,15 +13,6 @@
 
 namespace {
 
-// Asks until the answer is Ja or Nein.
-bool Bejaht(const NachrichtText& frage) {
-    do {
-        NachrichtAntwort = antwortAbbrechen; // closing the question by its frame asks again
-        Nachricht(frage);
-    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortNein);
-    return NachrichtAntwort == antwortJa;
-}
-
 bool IstMarkiert(const frmEditor& editor) {
     return editor.txtNotiz->textCursor().hasSelection();
 }
@@ -40,7 +31,7 @@ void Anhaengen(frmEditor& editor) {
 }
 
 void Ausschneiden(frmEditor& editor, void (*vorher)(frmEditor&)) {
-    EditorStatusSetzen(1);
+    EditorStatusSetzen(true);
     if (IstMarkiert(editor)) {
         vorher(editor);
         editor.txtNotiz->Ersetzen(QString());
@@ -48,27 +39,27 @@ void Ausschneiden(frmEditor& editor, void (*vorher)(frmEditor&)) {
 }
 
 void Einfuegen(frmEditor& editor) {
-    EditorStatusSetzen(1);
+    EditorStatusSetzen(true);
     editor.txtNotiz->Ersetzen(QGuiApplication::clipboard()->text());
 }
 
 // The text becomes what stands ahead of the selection and what stands behind it, with the cursor between. Not
 // by way of a new text for the field: what was deleted can be taken back.
 void Loeschen(frmEditor& editor) {
-    EditorStatusSetzen(1);
+    EditorStatusSetzen(true);
     editor.txtNotiz->Ersetzen(QString());
 }
 
-void AblageLeeren(frmEditor& /*editor*/) {
-    if (Bejaht(editortexte::ablageLeeren)) {
+void AblageLeeren(frmEditor&) {
+    if (NachrichtJaNein(editortexte::ablageLeeren)) {
         QGuiApplication::clipboard()->clear();
     }
 }
 
 // Counts as a change also when the question is answered Nein: it is meant.
 void TextLeeren(frmEditor& editor) {
-    EditorStatusSetzen(1);
-    if (Bejaht(editortexte::textLeeren)) {
+    EditorStatusSetzen(true);
+    if (NachrichtJaNein(editortexte::textLeeren)) {
         editor.txtNotiz->selectAll();
         editor.txtNotiz->Ersetzen(QString());
     }

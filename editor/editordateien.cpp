@@ -3,7 +3,8 @@
 #include "core/datei.h"
 #include "core/hauptfenster.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "editor/editordaten.h"
 #include "editor/editorpfad.h"
@@ -11,8 +12,7 @@
 #include "editor/katalogtext.h"
 #include "editor/texte.h"
 #include "filetools/dateidialog.h"
-#include "persistence/speichern.h"
-#include "persistence/wartezeiger.h"
+#include "persistence/sicherung.h"
 
 #include <functional>
 #include <new>
@@ -32,7 +32,7 @@ Dateiauswahl Auswahl(std::string_view titel, bool backupBenutzbar, std::vector<s
             std::move(filter),
             std::move(muster),
             "*.TXT",
-            ordner.empty() ? AppPfad + "\\WISSEN" : ordner,
+            ordner.empty() ? Stand.AppPfad + "\\WISSEN" : ordner,
             "",
             false};
 }
@@ -52,110 +52,100 @@ bool Gelungen(const std::function<void()>& schritt) {
 
 // --- Loading ---
 
-// The chosen path in DateiName; false for none.
-bool DateiWaehlen() {
-    DateidialogZeigen(Auswahl(oeffnen, false,
-                              {"Feldkranz-Fragen (*.TXT)", "Feldkranz-Fragen (*.BAK)", "Alle Dateien (*.*)"},
-                              {"*.txt", "*.*"}));
-    DateiAbbruch = 0; // a cancelled dialog has left its mark in the empty DateiName
-    return !DateiName.empty();
+// The path chosen, "" for none.
+std::string GewaehlteDatei() {
+    Dateiauswahl auswahl = Auswahl(
+        oeffnen, false, {"Feldkranz-Fragen (*.TXT)", "Feldkranz-Fragen (*.BAK)", "Alle Dateien (*.*)"},
+        {"*.txt", "*.*"});
+    auswahl.pfad = Editor.Pfad;
+    return DateidialogZeigen(auswahl).value_or("");
 }
 
-// The text of DateiName, or nothing after the user was told why not.
-std::optional<Katalogtext> Gelesen() {
+// The text of a file, or nothing after the user was told why not.
+std::optional<Katalogtext> Gelesen(const std::string& pfad) {
     std::optional<Katalogtext> gelesen;
     bool istText = true;
     Gelungen([&] {
         const Wartezeiger warten;
-        const std::string bytes = DateiLesen(DateiName, groessterKatalogtext);
+        const std::string bytes = DateiLesen(pfad, groessterKatalogtext);
         istText = IstTextdatei(bytes);
         if (istText) {
             gelesen = KatalogtextLesen(bytes);
         }
     });
     if (!istText) {
-        Meldung(keinText, {NurDateiname(DateiName)});
+        Meldung(keinText, {NurDateiname(pfad)});
     }
     return gelesen;
 }
 
 // While a part of the text stands in the field, it belongs to no file: nothing could be saved over the whole.
-void Zeigen(frmEditor& editor, Katalogtext gelesen) {
+void Zeigen(frmEditor& editor, const std::string& pfad, Katalogtext gelesen) {
     const Wartezeiger warten;
     EditorpfadVergessen();
-    BemerkungMarke = std::move(gelesen.marke);
-    Bemerkung = std::move(gelesen.text);
-    DateiAlt = DateiName;
-    editor.TextZeigen(Bemerkung, DateiAlt);
-    EditorpfadMerken();
-    DateiAlt.clear();
-    EditorStatusSetzen(0);
+    Editor.BemerkungMarke = std::move(gelesen.marke);
+    Editor.Bemerkung = std::move(gelesen.text);
+    editor.TextZeigen(Editor.Bemerkung, pfad);
+    EditorpfadMerken(pfad);
+    Editor.DateiAlt.clear();
+    EditorStatusSetzen(false);
 }
 
 // A part of a text under the name of its file would be taken for the whole.
 void Leeren(frmEditor& editor) {
-    BemerkungMarke.clear();
-    Bemerkung.clear();
-    DateiName.clear();
+    Editor.BemerkungMarke.clear();
+    Editor.Bemerkung.clear();
     editor.txtNotiz->clear();
     editor.NamenZeigen("");
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
 }
 
 // --- Saving ---
 
-// A name in DateiName; false when the dialog was cancelled.
-bool NameErfragt() {
-    DateiAbbruch = 0;
+// The name asked for, with that one proposed; none when the dialog was cancelled.
+std::optional<std::string> ErfragterName(const std::string& bisher) {
     Dateiauswahl auswahl = Auswahl(speichernUnter, true, {"Feldkranz-Fragen (*.TXT)", "Alle Dateien (*.*)"},
                                    {"*.txt", "*.bak", "*.*"}); // two names face three patterns: it is meant
-    auswahl.vorschlag = NurDateiname(DateiName);
-    DateidialogZeigen(auswahl);
-    const bool abgelehnt = DateiAbbruch == 1;
-    DateiAbbruch = 0;
-    return !abgelehnt;
+    auswahl.vorschlag = NurDateiname(bisher);
+    auswahl.pfad = bisher;
+    return DateidialogZeigen(auswahl);
 }
 
-// Asks until the answer is Ja or Nein. False when the existing file is to stay.
-bool DarfUeberschreiben() {
-    if (!DateiDa(DateiName)) {
+// False when the existing file is to stay.
+bool DarfUeberschreiben(const std::string& pfad) {
+    if (!DateiDa(pfad) || NachrichtJaNein(ueberschreiben, {NurDateiname(pfad)})) {
         return true;
     }
-    do {
-        NachrichtAntwort = antwortAbbrechen;
-        Nachricht(ueberschreiben, {NurDateiname(DateiName)});
-    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortNein);
-    if (NachrichtAntwort == antwortNein) {
-        Meldung(abgebrochen);
-    }
-    return NachrichtAntwort == antwortJa;
+    Meldung(abgebrochen);
+    return false;
 }
 
-// A path for the text in DateiName; false when there is none, which the user knows.
-bool NameGefunden() {
-    if (SpeichernMitDialog == 0 && !DateiName.empty()) {
-        return true;
+// A path for the text, or nothing, which the user knows.
+std::optional<std::string> Speicherpfad(Namensfrage wann) {
+    const std::string eigener = Editorpfad();
+    if (wann == Namensfrage::NurOhneDatei && !eigener.empty()) {
+        return eigener;
     }
-    if (!NameErfragt()) {
-        return false;
+    std::optional<std::string> pfad = ErfragterName(eigener);
+    if (!pfad) {
+        return std::nullopt;
     }
-    if (NurDateiname(DateiName).empty()) {
+    if (NurDateiname(*pfad).empty()) {
         Systemkasten(Kastenart::Schlicht, kastentitel, nameFehlt);
-        return false;
+        return std::nullopt;
     }
-    if (!Grossschreiben(DateiName).ends_with(".TXT")) {
-        DateiName += ".TXT";
+    if (!Grossschreiben(*pfad).ends_with(".TXT")) {
+        *pfad += ".TXT";
     }
-    return DarfUeberschreiben();
+    return DarfUeberschreiben(*pfad) ? pfad : std::nullopt;
 }
 
-// Writes mark and text to DateiName. The old file is whole until the new one is. False after a failure, which
-// is told.
-bool Geschrieben() {
-    SicherungAnlegenKatalog();
-    return Gelungen([] {
+// Writes mark and text. The old file is whole until the new one is. False after a failure, which is told.
+bool Geschrieben(const std::string& pfad) {
+    SicherungAnlegenKatalog(pfad);
+    return Gelungen([&pfad] {
         const Wartezeiger warten;
-        DateiSchreiben(DateiName, KatalogtextBytes(BemerkungMarke, Bemerkung));
+        DateiSchreiben(pfad, KatalogtextBytes(Editor.BemerkungMarke, Editor.Bemerkung));
     });
 }
 
@@ -165,59 +155,48 @@ void KatalogLaden(frmEditor& editor) {
     if (!TextGesichert(editor)) {
         return;
     }
-    const std::string vorher = DateiName;
-    if (!DateiWaehlen()) {
+    const std::string pfad = GewaehlteDatei();
+    if (pfad.empty()) {
         Meldung(keineDatei);
-    } else if (std::optional<Katalogtext> gelesen = Gelesen(); gelesen) {
-        if (!Gelungen([&] { Zeigen(editor, std::move(*gelesen)); })) {
-            Leeren(editor);
-        }
         return;
     }
-    DateiName = vorher;
+    std::optional<Katalogtext> gelesen = Gelesen(pfad);
+    if (gelesen && !Gelungen([&] { Zeigen(editor, pfad, std::move(*gelesen)); })) {
+        Leeren(editor);
+    }
 }
 
-bool KatalogSpeichern(frmEditor& editor, int mitDialog) {
-    SpeichernMitDialog = static_cast<std::int16_t>(mitDialog);
-    if (!Gelungen([&] { Bemerkung = editor.txtNotiz->text(); })) {
+bool KatalogSpeichern(frmEditor& editor, Namensfrage wann) {
+    if (!Gelungen([&] { Editor.Bemerkung = editor.txtNotiz->text(); })) {
         return false;
     }
-    std::erase(Bemerkung, '\0'); // one pasted just now: the file wouldn't be opened again
-    EditorpfadEinsetzen();
-    if (!NameGefunden()) {
+    std::erase(Editor.Bemerkung, '\0'); // one pasted just now: the file wouldn't be opened again
+    const std::optional<std::string> pfad = Speicherpfad(wann);
+    if (!pfad) {
         EditorpfadEinsetzen(); // the editor keeps the file it had
         return false;
     }
-    if (!Geschrieben()) {
+    if (!Geschrieben(*pfad)) {
         EditorpfadEinsetzen();
-        EditorStatusSetzen(1); // what the field shows may stand in no file by now
+        EditorStatusSetzen(true); // what the field shows may stand in no file by now
         return false;
     }
-    EditorpfadMerken();
-    editor.NamenZeigen(DateiName);
-    Meldung(gespeichert, {NurDateiname(DateiName)});
-    EditorStatusSetzen(0);
+    EditorpfadMerken(*pfad);
+    editor.NamenZeigen(*pfad);
+    Meldung(gespeichert, {NurDateiname(*pfad)});
+    EditorStatusSetzen(false);
     return true;
 }
 
 bool TextGesichert(frmEditor& editor) {
-    if (EditorGeaendert != 1) {
+    if (!Stand.EditorGeaendert) {
         return true;
     }
-    do {
-        NachrichtAntwort = antwortAbbrechen;
-        Nachricht(textSpeichern);
-        if (NachrichtAntwort == antwortAbbrechen) {
-            return false;
-        }
-    } while (NachrichtAntwort != antwortJa && NachrichtAntwort != antwortNein);
-    if (NachrichtAntwort == antwortNein) {
+    const Antwort antwort = Nachricht(textSpeichern);
+    if (antwort == Antwort::Nein) {
         Meldung(nichtGespeichert);
         return true;
     }
-    return KatalogSpeichern(editor, 0); // a save that did not come about counts as Abbrechen
-}
-
-bool DarfSchliessen(frmEditor& editor) {
-    return Gelungen([&] { EditorText = editor.txtNotiz->text(); }) && TextGesichert(editor);
+    // A save that did not come about counts as Abbrechen.
+    return antwort == Antwort::Ja && KatalogSpeichern(editor, Namensfrage::NurOhneDatei);
 }

@@ -2,6 +2,8 @@
 // question about unsaved text. The bytes are editor/katalogtext.h, the writing core/datei.h.
 #pragma once
 
+#include <cstdint>
+
 class frmEditor;
 
 // Asks about unsaved text, then for a file, and shows it. Whatever fails is told. A file that
@@ -9,13 +11,12 @@ class frmEditor;
 // file.
 void KatalogLaden(frmEditor& editor);
 
-// Saves the field's text. mitDialog: 1 asks for a name; 0 goes to the file that the editor has, and asks for
-// a name if it has none. False when nothing was saved; the text stays unsaved then.
-bool KatalogSpeichern(frmEditor& editor, int mitDialog);
+// When a save asks for a name: only where the editor has no file to save to, or in any case.
+enum class Namensfrage : std::uint8_t { NurOhneDatei, Immer };
+
+// Saves the field's text. False when nothing was saved; the text stays unsaved then.
+bool KatalogSpeichern(frmEditor& editor, Namensfrage wann);
 
 // Asks about unsaved text, if there is any. False when the user cancelled or the save did not come about: the
-// text has to stay.
+// text has to stay, and so has the window.
 [[nodiscard]] bool TextGesichert(frmEditor& editor);
-
-// The check before the window goes: keeps a copy of the text in EditorText and asks as above.
-[[nodiscard]] bool DarfSchliessen(frmEditor& editor);

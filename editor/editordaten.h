@@ -1,19 +1,27 @@
-// The text that travels between the catalogue's files and the editor, and the note a form file may hold. The
-// text being edited stands in the window's field alone; here are the copies that a load or a save takes.
+// What the editor keeps beside the text in its window's field: the text that travels between the catalogue's
+// files and the field, and the file that it belongs to. Lives as long as the process.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-// The text of the file behind its first token, UTF-8 with CR LF. Opening a form sets it as well.
-inline std::string Bemerkung;
-inline std::string BemerkungMarke; // first token of the catalogue file
+struct Editordaten {
+    // The text of the file behind its first token, UTF-8 with CR LF, as of the last load or save. Opening a
+    // form sets it as well, to the note that its file may hold.
+    std::string Bemerkung;
 
-// Copy of the field's text, taken when the editor is left.
-inline std::string EditorText;
+    // First token of the catalogue file. It outlives the window.
+    std::string BemerkungMarke;
 
-// 1: the next save of the editor asks for a name; 0: it goes to the file that the editor has.
-inline std::int16_t SpeichernMitDialog = 0;
+    // Path that a window opened without a file of its own names all the same, and that is meant: the form
+    // file that was read or named last. Written by the ways of opening and saving a form; a loaded catalogue
+    // file takes it away.
+    std::string DateiAlt;
 
-// 1 while the editor's window exists. Written by the window.
-inline std::int16_t EditorOffen = 0;
+    // Path of the editor's file in the program's own notation, "" for none, and the file that it meant when
+    // it was noted, as the file system names it. Written by editor/editorpfad.
+    std::string Pfad, Nativ;
+
+    friend bool operator==(const Editordaten&, const Editordaten&) = default;
+};
+
+inline Editordaten Editor;

@@ -2,38 +2,40 @@
 
 #include "core/datei.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "editor/editordaten.h"
 
 #include <QFileInfo>
 
 namespace {
 
-struct Gemerkt {
-    std::string pfad;
-    QString nativ;
-};
-Gemerkt gemerkt;
+QString Nativ() {
+    return QString::fromStdString(Editor.Nativ);
+}
 
 } // namespace
 
-void EditorpfadMerken() {
-    gemerkt = {DateiName, NativerPfad(DateiName)};
-}
-
-void EditorpfadEinsetzen() {
-    DateiName = gemerkt.pfad;
-    if (!DateiName.empty()) {
-        AuswahlMerken(DateiName, gemerkt.nativ);
-        if (NativerPfad(DateiName) != gemerkt.nativ && DateiDa(DateiName)) {
-            DateiName.clear(); // the file has gone and another one answers to its name: a save asks for one
-        }
-    }
+void EditorpfadMerken(const std::string& pfad) {
+    Editor.Pfad = pfad;
+    Editor.Nativ = NativerPfad(pfad).toStdString();
 }
 
 void EditorpfadVergessen() {
-    gemerkt = {};
+    Editor.Pfad.clear();
+    Editor.Nativ.clear();
+}
+
+void EditorpfadEinsetzen() {
+    if (!Editor.Pfad.empty()) {
+        AuswahlMerken(Editor.Pfad, Nativ());
+    }
+}
+
+std::string Editorpfad() {
+    EditorpfadEinsetzen();
+    const bool andere = !Editor.Pfad.empty() && NativerPfad(Editor.Pfad) != Nativ() && DateiDa(Editor.Pfad);
+    return andere ? std::string() : Editor.Pfad;
 }
 
 std::string Editorordner() {
-    return gemerkt.pfad.empty() ? std::string() : EigenerPfad(QFileInfo(gemerkt.nativ).path());
+    return Editor.Pfad.empty() ? std::string() : EigenerPfad(QFileInfo(Nativ()).path());
 }

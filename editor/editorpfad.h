@@ -1,15 +1,18 @@
-// The path of the file that the editor has, beside DateiName, which forms, the file dialog and the form list
-// set as well.
+// The path of the file that the editor has. Files that differ in case only share a path, so it is kept
+// together with the very file that it means.
 #pragma once
 
 #include <string>
 
-// DateiName becomes the editor's file, together with the very file that it means now.
-void EditorpfadMerken();
-// The editor's path back into DateiName, meaning the same file as when it was noted, also if another file
-// that differs only in case was chosen since. "" while the editor has no file.
-void EditorpfadEinsetzen();
+// The editor has that file now: the one that the path means at this moment.
+void EditorpfadMerken(const std::string& pfad);
 // The editor has no file any more.
 void EditorpfadVergessen();
+// Makes the path mean the editor's file again, also if another file that differs only in case was chosen
+// since.
+void EditorpfadEinsetzen();
+// The path, put in force as above. "" while the editor has no file, and where it has gone and another one
+// answers to its name: a save asks for one then.
+[[nodiscard]] std::string Editorpfad();
 // Folder of the editor's file in the program's own notation, "" while it has none.
 [[nodiscard]] std::string Editorordner();

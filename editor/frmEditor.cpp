@@ -3,14 +3,14 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "editor/editorablage.h"
 #include "editor/editordateien.h"
 #include "editor/editordaten.h"
 #include "editor/texte.h"
-#include "periphery/hinweise.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
+#include "tooltips/hinweise.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -23,7 +23,6 @@ frmEditor::frmEditor() {
     setProperty("tag", QStringLiteral("Editor"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
-    EditorOffen = 1;
     ToolbarBauen();
     FeldBauen();
     HinweiseSetzen(*this, editortexte::hinweise);
@@ -31,19 +30,15 @@ frmEditor::frmEditor() {
         taste->setAccessibleName(taste->toolTip()); // a caption alone may be a word or a picture
     }
     setWindowTitle(Anzeige(editortexte::fenstertitel));
-    NamenZeigen(DateiAlt);
+    NamenZeigen(Editor.DateiAlt); // meant: without a file of its own it names the one opened last
     Verbinden();
     Sperren(false);
     SicherungZeigen();
 }
 
-frmEditor::~frmEditor() {
-    EditorOffen = 0;
-}
-
 void frmEditor::Verbinden() {
     TastenVerbinden();
-    connect(txtNotiz, &QPlainTextEdit::textChanged, this, [] { EditorStatusSetzen(1); });
+    connect(txtNotiz, &QPlainTextEdit::textChanged, this, [] { EditorStatusSetzen(true); });
     // The rule asks at each release of mouse or key; the selection can also change through the menu.
     connect(txtNotiz, &QPlainTextEdit::selectionChanged, this, &frmEditor::TastenFreigeben);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &frmEditor::AblageLesen);
@@ -61,10 +56,10 @@ void frmEditor::TastenVerbinden() {
     const auto beiKlick = [this](const char* name, auto befehl) {
         connect(Taste(QLatin1String(name)), &QAbstractButton::clicked, this, befehl);
     };
-    beiKlick("cmdDatei(0)", [this] { KatalogSpeichern(*this, 0); });
+    beiKlick("cmdDatei(0)", [this] { KatalogSpeichern(*this, Namensfrage::NurOhneDatei); });
     beiKlick("cmdDatei(1)", [this] { KatalogLaden(*this); });
-    beiKlick("cmdDatei(2)", [this] { KatalogSpeichern(*this, 1); });
-    beiKlick("grpBackUp", [](bool an) { OptionDatei = static_cast<std::int16_t>(an ? 1 : 0); });
+    beiKlick("cmdDatei(2)", [this] { KatalogSpeichern(*this, Namensfrage::Immer); });
+    beiKlick("grpBackUp", [](bool an) { Spiel.OptionDatei = an; });
     beiKlick("cmdSchreiben", [this] { Sperren(true); });
     beiKlick("cmdNichtSchreiben", [this] { Sperren(false); });
     // The help button has no action: it is meant.
@@ -88,7 +83,7 @@ void frmEditor::TextZeigen(std::string_view text, std::string_view pfad) {
 }
 
 void frmEditor::NamenZeigen(std::string_view pfad) {
-    pnlLaufname->setCaption(Anzeige(BemerkungMarke + " "));
+    pnlLaufname->setCaption(Anzeige(Editor.BemerkungMarke + " "));
     pnlDatei->setCaption(Anzeige(NurDateiname(pfad) + " "));
 }
 
@@ -134,15 +129,15 @@ void frmEditor::AblageLesen() {
 }
 
 void frmEditor::SicherungZeigen() {
-    Taste(QStringLiteral("grpBackUp"))->setChecked(OptionDatei == 1);
+    Taste(QStringLiteral("grpBackUp"))->setChecked(Spiel.OptionDatei);
 }
 
 void frmEditor::closeEvent(QCloseEvent* ereignis) {
-    if (!DarfSchliessen(*this)) {
+    if (!TextGesichert(*this)) {
         ereignis->ignore();
         return;
     }
-    EditorGeaendert = 0;
+    Stand.EditorGeaendert = false;
     ereignis->accept();
     Q_EMIT geschlossen();
 }

@@ -17,7 +17,6 @@ class frmEditor : public QWidget {
 
 public:
     frmEditor();
-    ~frmEditor() override;
 
     // Shows a text that was read, with its mark and its file's name.
     void TextZeigen(std::string_view text, std::string_view pfad);

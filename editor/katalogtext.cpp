@@ -2,7 +2,7 @@
 
 #include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
-#include "persistence/wertgrammatik.h"
+#include "core/wertgrammatik.h"
 
 namespace {
 

@@ -19,7 +19,7 @@ inline constexpr std::size_t meisteKatalogzeilen = 2'000'000;
 // False for bytes that no text file holds: a zero byte is among them.
 [[nodiscard]] bool IstTextdatei(std::string_view bytes);
 
-// Takes the bytes of a file apart. The first token follows the rules of persistence/wertgrammatik.h: quotes
+// Takes the bytes of a file apart. The first token follows the rules of core/wertgrammatik.h: quotes
 // around the first line fall away, and behind a comma in it the rest becomes the first line of the text. No
 // bytes at all are run-time error 62, a file beyond the sizes above is 7.
 [[nodiscard]] Katalogtext KatalogtextLesen(std::string_view bytes);

@@ -16,16 +16,15 @@ namespace {
 
 using namespace dateitexte;
 
-// A question whose Ja destroys something: closing it by its frame is no Ja.
+// A question whose Ja destroys something.
 bool JaAuf(const NachrichtText& frage, const std::string& name) {
-    NachrichtAntwort = antwortAbbrechen;
-    return Nachricht(frage, {name}) == antwortJa;
+    return Nachricht(frage, {name}) == Antwort::Ja;
 }
 
 // The new name without extension, asked for until it is good; "" ends the command.
 std::string NeuerName() {
     for (;;) {
-        std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "", 1111);
+        std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "").value_or("");
         const auto fehler = KopiernamePruefen(name);
         for (const Namensfehler art : fehler) {
             Meldung(namensfehler[static_cast<std::size_t>(art)]);

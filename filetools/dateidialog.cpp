@@ -1,20 +1,20 @@
 #include "filetools/dateidialog.h"
 
 #include "core/datei.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
 #include "filetools/frmDatei.h"
 
-void DateidialogZeigen(const Dateiauswahl& auswahl) {
+std::optional<std::string> DateidialogZeigen(const Dateiauswahl& auswahl) {
     static std::string letzterOrdner;
     Dateiauswahl mitOrdner = auswahl;
     if (mitOrdner.ordner.empty()) {
-        mitOrdner.ordner = OrdnerDa(letzterOrdner) ? letzterOrdner : AppPfad + "\\KRANZ";
+        mitOrdner.ordner = OrdnerDa(letzterOrdner) ? letzterOrdner : Stand.AppPfad + "\\KRANZ";
     }
-    DateiAbbruch = 0;
     frmDatei fenster(mitOrdner);
     ModalZeigen(fenster);
     if (auswahl.ordnerMerken) {
         letzterOrdner = fenster.ordner();
     }
+    return fenster.gewaehlt();
 }

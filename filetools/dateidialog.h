@@ -1,7 +1,7 @@
-// The program's own file dialog as its callers see it. What it did stands in DateiName and DateiAbbruch
-// (core/zustand.h). The window itself is filetools/frmDatei.h.
+// The program's own file dialog as its callers see it. The window itself is filetools/frmDatei.h.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +14,10 @@ struct Dateiauswahl {
     std::string ordner;              // folder to start in, own notation; "" keeps the last one
     std::string vorschlag;           // name proposed in the name box
     bool ordnerMerken = true;        // the folder shown last is where the next dialog starts
+    std::string pfad{};              // what the button for the path tells until a file is chosen
 };
 
-// Shows the dialog modally.
-void DateidialogZeigen(const Dateiauswahl& auswahl);
+// Shows the dialog modally. The path chosen, in the program's own notation: in upper case to open a file,
+// with the name as it stands in its box to save one, and "" where that names no file. No value when the
+// dialog was cancelled.
+std::optional<std::string> DateidialogZeigen(const Dateiauswahl& auswahl);

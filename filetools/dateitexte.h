@@ -1,8 +1,8 @@
 // Every text with which the file dialog speaks.
 #pragma once
 
-#include "dialogs/texte.h"
-#include "periphery/hinweistext.h"
+#include "core/hinweistext.h"
+#include "core/meldungstext.h"
 
 #include <array>
 #include <string_view>

@@ -6,7 +6,7 @@
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "persistence/formulardatei.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 
 #include <QHeaderView>
 #include <QPushButton>
@@ -17,7 +17,11 @@ namespace {
 
 // The numbers of the file's head; a file without one, as a test form is, shows the numbers in force.
 FKIni Zahlen(const std::string& bytes) {
-    return FKIniAusBytes(bytes).value_or(FKIni{"", FelderGesamt, FragenProWissen, AnzahlWissen});
+    FKIni geltende;
+    geltende.felderGesamt = Spiel.FelderGesamt;
+    geltende.fragenProWissen = Spiel.FragenProWissen;
+    geltende.anzahlWissen = Spiel.AnzahlWissen;
+    return FKIniAusBytes(bytes).value_or(geltende);
 }
 
 } // namespace

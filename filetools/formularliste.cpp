@@ -8,12 +8,14 @@
 namespace {
 
 QPointer<frmFKformulare> fenster;
+Formularoeffner oeffnen = nullptr;
 
 // The window, made on first touch; nullptr without a main window that could own it.
 frmFKformulare* Fenster() {
     QWidget* haupt = Hauptfenster();
     if (fenster == nullptr && haupt != nullptr) {
-        fenster = new frmFKformulare(haupt);
+        fenster = new frmFKformulare(
+            haupt, [](const std::string& pfad) { return oeffnen != nullptr && oeffnen(pfad); });
         QObject::connect(fenster, &frmFKformulare::geschlossen, haupt, [] { fenster = nullptr; });
     }
     return fenster;
@@ -43,13 +45,17 @@ void FormularlisteMitStartZeigen() {
     liste->show();
 }
 
-void FormularlisteTastenSetzen(std::string_view formTyp) {
+void FormularlisteTastenSetzen(Formart art) {
     frmFKformulare* liste = Fenster();
     if (liste != nullptr) {
-        liste->TastenSetzen(formTyp == "FK", formTyp == "Test");
+        liste->TastenSetzen(art == Formart::Quiz, art == Formart::Test);
     }
 }
 
 frmFKformulare* FormularlisteOffen() {
     return fenster;
+}
+
+void FormularlisteOeffnetMit(Formularoeffner oeffner) {
+    oeffnen = oeffner;
 }

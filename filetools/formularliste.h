@@ -2,7 +2,9 @@
 // closed; the window itself is filetools/frmFKformulare.h. Each routine does nothing without a main window.
 #pragma once
 
-#include <string_view>
+#include "core/formart.h"
+
+#include <string>
 
 class frmFKformulare;
 
@@ -11,10 +13,13 @@ void FormularlisteZeigen();
 // The same as the main window starts: the focus stays there, and a folder that can't be read is no message.
 void FormularlisteMitStartZeigen();
 
-// The list's two buttons follow the form in work, by its mode tag: "FK" takes the button of the quiz forms
-// into use and the other out of use, "Test" the reverse. Makes the window, without showing it, where it
-// isn't.
-void FormularlisteTastenSetzen(std::string_view formTyp);
+// The list's two buttons follow the form in work: its own kind's comes into use and the other out of use.
+// Makes the window, without showing it, where it isn't.
+void FormularlisteTastenSetzen(Formart art);
+
+// What opens the file chosen in the list, by its path; true when it was taken. Without one nothing happens.
+using Formularoeffner = bool (*)(const std::string& pfad);
+void FormularlisteOeffnetMit(Formularoeffner oeffner);
 
 // The window, nullptr while there is none.
 [[nodiscard]] frmFKformulare* FormularlisteOffen();

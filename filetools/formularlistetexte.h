@@ -2,7 +2,7 @@
 // filetools/frmFKformulare.h.
 #pragma once
 
-#include "periphery/hinweistext.h"
+#include "core/hinweistext.h"
 
 #include <array>
 #include <string>

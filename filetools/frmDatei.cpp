@@ -3,14 +3,13 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
 #include "filetools/kopiername.h"
 #include "filetools/laufwerksfeld.h"
 #include "filetools/ordneraktionen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -51,59 +50,57 @@ void frmDatei::ListenVerbinden() {
         connect(wahl, &QRadioButton::clicked, this,
                 [this, wahl] { MusterSetzen(wahl->text().toStdString()); });
     }
-    connect(chkBackUp_, &QCheckBox::clicked, this,
-            [](bool an) { OptionDatei = static_cast<std::int16_t>(an ? 1 : 0); });
+    connect(chkBackUp_, &QCheckBox::clicked, this, [](bool an) { Spiel.OptionDatei = an; });
 }
 
 void frmDatei::TastenVerbinden() {
     for (std::size_t i = 0; i < cmdDatei_.size(); ++i) {
-        connect(cmdDatei_[i], &QPushButton::clicked, this, [this, i] { Datei_Click(static_cast<int>(i)); });
+        connect(cmdDatei_[i], &QPushButton::clicked, this, [this, i] { DateiBefehl(static_cast<int>(i)); });
     }
     for (std::size_t i = 0; i < cmdOrdner_.size(); ++i) {
-        connect(cmdOrdner_[i], &QPushButton::clicked, this, [this, i] { Ordner_Click(static_cast<int>(i)); });
+        connect(cmdOrdner_[i], &QPushButton::clicked, this, [this, i] { OrdnerBefehl(static_cast<int>(i)); });
     }
-    connect(cmdVorschau_, &QPushButton::clicked, this, &frmDatei::Vorschau_Click);
+    connect(cmdVorschau_, &QPushButton::clicked, this, &frmDatei::VorschauZeigen);
     connect(pnlDatei_, &Dateivorschau::beendet, this, &frmDatei::VorschauBeenden);
-    connect(cmdPfadZerlegen_, &QPushButton::clicked, this, [] { PfadAnzeigen(DateiName); });
-    connect(cmdLaden_, &QPushButton::clicked, this, &frmDatei::Laden_Click);
-    connect(cmdSpeichern_, &QPushButton::clicked, this, &frmDatei::Speichern_Click);
+    connect(cmdPfadZerlegen_, &QPushButton::clicked, this, [this] { PfadAnzeigen(gewaehlt_.value_or("")); });
+    connect(cmdLaden_, &QPushButton::clicked, this, &frmDatei::Laden);
+    connect(cmdSpeichern_, &QPushButton::clicked, this, &frmDatei::Speichern);
     connect(cmdAbbrechen_, &QPushButton::clicked, this, &frmDatei::reject);
     connect(cmdHilfe_, &QPushButton::clicked, this, [] { SoundSpielen("Hilfe"); });
 }
 
 void frmDatei::Bestaetigen() {
     if (windowTitle() == Anzeige(dateitexte::titelSpeichern)) {
-        Speichern_Click();
+        Speichern();
     } else {
-        Laden_Click();
+        Laden();
     }
 }
 
 // With no file chosen the result is empty, which the callers have their words for.
-void frmDatei::Laden_Click() {
+void frmDatei::Laden() {
     const Dateiort ort = Ort();
-    DateiName = NichtsGewaehlt(ort.name) ? std::string() : Grossschreiben(ort.pfad());
-    if (!DateiName.empty()) {
-        AuswahlMerken(DateiName, ort.nativ());
+    gewaehlt_ = NichtsGewaehlt(ort.name) ? std::string() : Grossschreiben(ort.pfad());
+    if (!gewaehlt_->empty()) {
+        AuswahlMerken(*gewaehlt_, ort.nativ());
     }
     accept();
 }
 
 // The name keeps its case: it is the name of a file to be.
-void frmDatei::Speichern_Click() {
+void frmDatei::Speichern() {
     const Dateiort ort = Ort();
-    DateiName = NichtsGewaehlt(ort.name) ? std::string() : ort.pfad();
+    gewaehlt_ = NichtsGewaehlt(ort.name) ? std::string() : ort.pfad();
     accept();
 }
 
 void frmDatei::reject() {
     SoundSpielen("falscherWeg");
-    DateiName.clear();
-    DateiAbbruch = 1;
+    gewaehlt_.reset();
     QDialog::reject();
 }
 
-void frmDatei::Datei_Click(int index) {
+void frmDatei::DateiBefehl(int index) {
     switch (index) {
     case 0:
         DateiKopierenMitFrage(Ort(), [this](const std::string& name) { Auffrischen(name); });
@@ -123,7 +120,7 @@ void frmDatei::Datei_Click(int index) {
     }
 }
 
-void frmDatei::Ordner_Click(int index) {
+void frmDatei::OrdnerBefehl(int index) {
     if (index == 0) {
         OrdnerAnlegenMitFrage(ordner_, [this] { OrdnerSetzen(ordner_); });
     } else if (index == 1) {
@@ -132,7 +129,7 @@ void frmDatei::Ordner_Click(int index) {
     // The third button has no action: it is meant.
 }
 
-void frmDatei::Vorschau_Click() {
+void frmDatei::VorschauZeigen() {
     const Dateiort ort = Ort();
     if (NichtsGewaehlt(ort.name)) {
         Systemkasten(Kastenart::Schlicht, dateitexte::hinweisTitel, dateitexte::nichtsSelektiert);

@@ -1,6 +1,6 @@
 // The program's own file dialog: choose a file to open or name one to save, and small work on files and
-// folders in place. What it did stands in DateiName and DateiAbbruch. Its caption tells which of the two it
-// is for. The questions around files and folders are dateiaktionen.h and ordneraktionen.h.
+// folders in place. Its caption tells which of the two it is for. The questions around files and folders are
+// dateiaktionen.h and ordneraktionen.h.
 #pragma once
 
 #include "filetools/dateiaktionen.h"
@@ -9,6 +9,7 @@
 #include <QDialog>
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ public:
 
     // Folder that the dialog shows, own notation.
     [[nodiscard]] const std::string& ordner() const { return ordner_; }
+    // Path chosen, as DateidialogZeigen gives it. While the dialog shows it is that of the last click on a
+    // file, and before any the caller's; no value once it was cancelled.
+    [[nodiscard]] const std::optional<std::string>& gewaehlt() const { return gewaehlt_; }
 
     // Esc and the frame's close box are cmdAbbrechen.
     void reject() override;
@@ -70,17 +74,18 @@ private:
 
     // Commands
     void Bestaetigen();
-    void Laden_Click();
-    void Speichern_Click();
-    void Datei_Click(int index);
-    void Ordner_Click(int index);
-    void Vorschau_Click();
+    void Laden();
+    void Speichern();
+    void DateiBefehl(int index);
+    void OrdnerBefehl(int index);
+    void VorschauZeigen();
     void VorschauBeenden();
     void Suchansicht();
 
     std::string ordner_;
     std::string muster_;
     std::vector<std::string> alleDateien_; // of the folder, whatever the pattern
+    std::optional<std::string> gewaehlt_;
 
     QWidget* picDatei_ = nullptr;
     QWidget* picList_ = nullptr;

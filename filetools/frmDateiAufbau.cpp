@@ -5,8 +5,8 @@
 #include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
 #include "filetools/laufwerksfeld.h"
-#include "periphery/hinweise.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
+#include "tooltips/hinweise.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -63,7 +63,7 @@ Anordnung* Rahmenlos(QWidget* feld) {
 
 } // namespace
 
-frmDatei::frmDatei(const Dateiauswahl& auswahl) {
+frmDatei::frmDatei(const Dateiauswahl& auswahl) : gewaehlt_(auswahl.pfad) {
     setObjectName(QStringLiteral("frmDatei"));
     setWindowTitle(Anzeige(auswahl.titel));
     setWindowIcon(Bildzeichen("datei/ordner"));
@@ -213,7 +213,7 @@ QWidget* frmDatei::SicherungBauen(bool benutzbar) {
     auto* reihe = Rahmenlos<QHBoxLayout>(feld);
     chkBackUp_ = new QCheckBox(QStringLiteral("&Back Up"), feld);
     chkBackUp_->setObjectName(QStringLiteral("chkBackUp"));
-    chkBackUp_->setChecked(OptionDatei == 1);
+    chkBackUp_->setChecked(Spiel.OptionDatei);
     chkBackUp_->setEnabled(benutzbar);
     auto* lblBackUp = Schild(feld, "lblBackUp", QStringLiteral("(sichert vor dem Speichern)"));
     lblBackUp->setEnabled(benutzbar);

@@ -3,13 +3,12 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
 #include "dialogs/dialoggrund.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "filetools/frmDatei.h"
 #include "filetools/kopiername.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -142,8 +141,8 @@ void frmDatei::Waehlen(const QListWidgetItem* eintrag) {
         return;
     }
     const Dateiort ort{ordner_, eintrag->text().toStdString()};
-    DateiName = Grossschreiben(ort.pfad());
-    AuswahlMerken(DateiName, ort.nativ());
+    gewaehlt_ = Grossschreiben(ort.pfad());
+    AuswahlMerken(*gewaehlt_, ort.nativ());
     txtDateiname_->setText(eintrag->text());
 }
 

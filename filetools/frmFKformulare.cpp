@@ -1,14 +1,14 @@
 #include "filetools/frmFKformulare.h"
 
 #include "core/bilder.h"
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/pfad.h"
+#include "core/programmstand.h"
+#include "filetools/dateiaktionen.h"
 #include "filetools/formularlistetexte.h"
 #include "filetools/ordnerwaechter.h"
-#include "persistence/oeffnen.h"
-#include "quizform/fkformular.h"
-#include "testform/hbformular.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -19,23 +19,20 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
-constexpr std::string_view quizTag = "FKFragen";
-constexpr std::string_view testTag = "HBFragen";
-
 struct Listenart {
-    std::string_view tag;
+    Formart art;
     std::string_view ordner;
     Farbe grund;
-    std::string_view formTyp;
 };
-constexpr std::array<Listenart, 2> arten{{{quizTag, listentexte::quizordner, {255, 255, 191}, "FK"},
-                                          {testTag, listentexte::testordner, {191, 255, 191}, "Test"}}};
+constexpr std::array<Listenart, 2> arten{{{Formart::Quiz, listentexte::quizordner, {255, 255, 191}},
+                                          {Formart::Test, listentexte::testordner, {191, 255, 191}}}};
 
-const Listenart& ArtFuer(std::string_view tag) {
-    return tag == testTag ? arten.back() : arten.front();
+const Listenart& Listenzeile(Formart art) {
+    return art == Formart::Test ? arten.back() : arten.front();
 }
 
 void Faerben(QWidget* liste, Farbe grund) {
@@ -46,29 +43,31 @@ void Faerben(QWidget* liste, Farbe grund) {
 
 } // namespace
 
-frmFKformulare::frmFKformulare(QWidget* eltern)
+frmFKformulare::frmFKformulare(QWidget* eltern, std::function<bool(const std::string& pfad)> oeffnen)
     : QWidget(eltern, Qt::Tool),
-      ordner_(AppPfad + std::string(listentexte::quizordner)),
-      muster_(listentexte::muster.front()) {
+      ordner_(Stand.AppPfad + std::string(listentexte::quizordner)),
+      muster_(listentexte::muster.front()),
+      oeffnen_(std::move(oeffnen)) {
     setObjectName(QStringLiteral("frmFKformulare"));
     setWindowTitle(Anzeige(listentexte::fenstertitel));
     setWindowIcon(Bildzeichen("leiste/dateiliste"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setProperty("tag", Anzeige(quizTag)); // the quiz list is shown; the program's mode stays as it is
+    setProperty("tag", Anzeige(Fensterzeichen(
+                           Formart::Quiz))); // the quiz list is shown; the program's mode stays as it is
     vorschau_ = new QTimer(this);
     vorschau_->setSingleShot(true);
     waechter_ = new Ordnerwaechter(this, [this] { Auffrischen(false); });
     Aufbauen();
-    Faerben(filDateiliste_, ArtFuer(quizTag).grund);
+    Faerben(filDateiliste_, Listenzeile(Formart::Quiz).grund);
     Verbinden();
     // While a form is open only its own kind can be chosen.
-    TastenSetzen(HBFragenOffen() == nullptr, FKFragenOffen() == nullptr);
+    TastenSetzen(OffeneArt() != Formart::Test, OffeneArt() != Formart::Quiz);
     Einpassen();
 }
 
 void frmFKformulare::Verbinden() {
-    connect(cmdNeuFK_, &QPushButton::clicked, this, [this] { ListeWaehlen(quizTag); });
-    connect(cmdNeuHB_, &QPushButton::clicked, this, [this] { ListeWaehlen(testTag); });
+    connect(cmdNeuFK_, &QPushButton::clicked, this, [this] { ListeWaehlen(Formart::Quiz); });
+    connect(cmdNeuHB_, &QPushButton::clicked, this, [this] { ListeWaehlen(Formart::Test); });
     connect(cmdAbbruch_, &QPushButton::clicked, this, &QWidget::close);
     for (std::size_t i = 0; i < optPattern_.size(); ++i) {
         connect(optPattern_.at(i), &QRadioButton::clicked, this, [this, i] {
@@ -77,7 +76,6 @@ void frmFKformulare::Verbinden() {
         });
     }
     connect(filDateiliste_, &QListWidget::itemSelectionChanged, this, &frmFKformulare::Markieren);
-    connect(filDateiliste_, &QListWidget::itemClicked, this, &frmFKformulare::DateiUebernehmen);
     // Behind the click that caused it: both may ask the user something.
     connect(filDateiliste_, &QListWidget::itemDoubleClicked, this, &frmFKformulare::Oeffnen,
             Qt::QueuedConnection);
@@ -90,16 +88,17 @@ void frmFKformulare::TastenSetzen(bool fk, bool hb) {
 }
 
 // The list of one kind of forms. It sets the mode of the program too, and that is meant.
-void frmFKformulare::ListeWaehlen(std::string_view tag) {
-    const Listenart& art = ArtFuer(tag);
-    Faerben(filDateiliste_, art.grund);
+void frmFKformulare::ListeWaehlen(Formart art) {
+    const Listenart& zeile = Listenzeile(art);
+    Faerben(filDateiliste_, zeile.grund);
     MusterSetzen(0);
-    ordner_ = AppPfad + std::string(art.ordner);
-    setProperty("tag", Anzeige(art.tag));
+    ordner_ = Stand.AppPfad + std::string(zeile.ordner);
+    const QString zeichen = Anzeige(Fensterzeichen(art));
+    setProperty("tag", zeichen);
     if (QWidget* haupt = Hauptfenster(); haupt != nullptr) {
-        haupt->setProperty("tag", Anzeige(art.tag));
+        haupt->setProperty("tag", zeichen);
     }
-    FormTyp = art.formTyp;
+    Stand.FormTyp = art;
     Auffrischen(true);
 }
 
@@ -116,9 +115,10 @@ void frmFKformulare::Oeffnen() {
         vorschau_->stop();
         Vorschau(); // a key was faster; behind the opening it would speak over what that says
     }
-    DateiUebernehmen();
+    const Dateiort ort{ordner_, Markiert()};
+    AuswahlMerken(ort.pfad(), ort.nativ()); // exactly the file of that name
     QWidget* haupt = Hauptfenster();
-    if (FormularErsetzen() && haupt != nullptr) {
+    if (oeffnen_(ort.pfad()) && haupt != nullptr) {
         haupt->activateWindow(); // the user goes on in the form
     }
 }

@@ -1,4 +1,6 @@
 // The list of forms: the files of one folder by name, with the numbers of the marked one. A double click or
+#include "core/formart.h"
+#include "persistence/formulardatei.h"
 // Enter opens it. A tool window that stays above the main window. Reading and opening a form are
 // persistence/oeffnen.
 #pragma once
@@ -6,7 +8,7 @@
 #include <QWidget>
 
 #include <array>
-#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,7 +26,8 @@ class frmFKformulare : public QWidget {
     Q_OBJECT
 
 public:
-    explicit frmFKformulare(QWidget* eltern);
+    // oeffnen opens the file of a path; true when it was taken.
+    frmFKformulare(QWidget* eltern, std::function<bool(const std::string& pfad)> oeffnen);
 
     // Takes the two buttons that choose the list into or out of use.
     void TastenSetzen(bool fk, bool hb);
@@ -43,19 +46,9 @@ protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
-    // The values that the preview of a form changes.
-    struct Kopfzahlen {
-        std::string formTyp;
-        std::int16_t felderGesamt = 0;
-        std::int16_t fragenProWissen = 0;
-        std::int16_t anzahlWissen = 0;
-        bool operator==(const Kopfzahlen&) const = default;
-        [[nodiscard]] static Kopfzahlen Jetzt();
-        void Einsetzen() const;
-    };
     struct Vorschaustand {
-        Kopfzahlen eigene;  // of the open form
-        Kopfzahlen gezeigt; // of the files marked since
+        FKIni inKraft; // as they were when the preview was made
+        FKIni gezeigt; // of the files marked since
     };
 
     void Aufbauen();
@@ -66,11 +59,10 @@ private:
     void Verbinden();
     void Einpassen();
 
-    void ListeWaehlen(std::string_view tag);
+    void ListeWaehlen(Formart art);
     void MusterSetzen(std::size_t stelle);
     void ListeFuellen(std::vector<std::string> namen);
     [[nodiscard]] std::string Markiert() const;
-    void DateiUebernehmen();
     void Markieren();
     void Vorschau();
     void Oeffnen();
@@ -79,6 +71,7 @@ private:
     std::string muster_;
     std::vector<std::string> namen_; // as the list shows them
     std::optional<Vorschaustand> stand_;
+    std::function<bool(const std::string& pfad)> oeffnen_;
 
     QListWidget* filDateiliste_ = nullptr;
     QLabel* lblDateiInfo_ = nullptr;

@@ -4,7 +4,7 @@
 #include "core/oberflaeche.h"
 #include "filetools/formularlistetexte.h"
 #include "filetools/frmFKformulare.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QFrame>
 #include <QGroupBox>

@@ -1,17 +1,16 @@
 // What the list of forms shows: the names of its folder, which one is marked, and that one's numbers.
 #include "core/datei.h"
+#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateiaktionen.h"
 #include "filetools/formularlistetexte.h"
 #include "filetools/frmFKformulare.h"
 #include "filetools/ordnerwaechter.h"
-#include "persistence/oeffnen.h"
-#include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
-#include "testform/hbformular.h"
+#include "persistence/texte.h"
+#include "rules/spielwerte.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -24,22 +23,37 @@
 
 namespace {
 
-bool FormularOffen() {
-    return FKFragenOffen() != nullptr || HBFragenOffen() != nullptr;
+// The numbers in force, which a file without its own leaves standing in the preview.
+FKIni InKraft() {
+    return {Spiel.FelderGesamt, Spiel.FragenProWissen, Spiel.AnzahlWissen};
+}
+
+// The last count characters of a text in UTF-8.
+std::string Schluss(const std::string& text, int zeichen) {
+    std::size_t anfang = text.size();
+    while (anfang > 0 && zeichen > 0) {
+        --anfang;
+        zeichen -= (static_cast<unsigned char>(text[anfang]) & 0xC0U) == 0x80U ? 0 : 1;
+    }
+    return text.substr(anfang);
+}
+
+// The numbers of the file, none where it has none; one that can't be read is reported.
+std::optional<FKIni> Dateizahlen(const Dateiort& ort) {
+    using namespace persistenztexte;
+    AuswahlMerken(ort.pfad(), ort.nativ()); // exactly the file of that name
+    HilfeText(std::string(ichLade) + Schluss(ort.pfad(), 12));
+    try {
+        const Wartezeiger warten;
+        // A file that is too large for a form isn't searched for the numbers of one.
+        return FKIniAusBytes(DateiLesen(ort.pfad(), groesstesFormular));
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden("DATEI : Oeffnen_Vorschau", fehler);
+        return std::nullopt;
+    }
 }
 
 } // namespace
-
-frmFKformulare::Kopfzahlen frmFKformulare::Kopfzahlen::Jetzt() {
-    return {FormTyp, FelderGesamt, FragenProWissen, AnzahlWissen};
-}
-
-void frmFKformulare::Kopfzahlen::Einsetzen() const {
-    FormTyp = formTyp;
-    FelderGesamt = felderGesamt;
-    FragenProWissen = fragenProWissen;
-    AnzahlWissen = anzahlWissen;
-}
 
 void frmFKformulare::Auffrischen(bool melden) {
     waechter_->Beobachten(NativerPfad(ordner_)); // before reading, so that nothing slips between
@@ -81,37 +95,23 @@ std::string frmFKformulare::Markiert() const {
     return markierte.isEmpty() ? std::string() : markierte.first()->text().toStdString();
 }
 
-// The marked file becomes the program's current one, exactly the one of that name.
-void frmFKformulare::DateiUebernehmen() {
+void frmFKformulare::Markieren() {
+    vorschau_->start(0);
+}
+
+// A look at a file changes no value of the program. A file without such numbers goes on showing those of the
+// file before, as long as the numbers in force are the same.
+void frmFKformulare::Vorschau() {
     const Dateiort ort{ordner_, Markiert()};
     if (ort.name.empty()) {
         return;
     }
-    DateiName = ort.pfad();
-    AuswahlMerken(DateiName, ort.nativ());
-}
-
-void frmFKformulare::Markieren() {
-    DateiUebernehmen();
-    vorschau_->start(0);
-}
-
-// The reader changes the values in force. While a form is open they are its own, and a look at another file
-// must not change what is saved with it: they come back. A file without such values goes on showing those of
-// the file before.
-void frmFKformulare::Vorschau() {
-    if (Markiert().empty()) {
-        return;
+    if (!stand_ || stand_->inKraft != InKraft()) {
+        stand_ = {InKraft(), InKraft()};
     }
-    const Kopfzahlen eigene = Kopfzahlen::Jetzt();
-    if (FormularOffen() && stand_ && stand_->eigene == eigene) {
-        stand_->gezeigt.Einsetzen();
+    if (const auto zahlen = Dateizahlen(ort)) {
+        stand_->gezeigt = *zahlen;
     }
-    FormularInfoLesen();
-    lblDateiInfo_->setText(Anzeige(Vorschautext(FelderGesamt, AnzahlWissen, FragenProWissen)));
-    stand_.reset();
-    if (FormularOffen()) {
-        stand_ = {eigene, Kopfzahlen::Jetzt()};
-        eigene.Einsetzen();
-    }
+    const FKIni& z = stand_->gezeigt;
+    lblDateiInfo_->setText(Anzeige(Vorschautext(z.felderGesamt, z.anzahlWissen, z.fragenProWissen)));
 }

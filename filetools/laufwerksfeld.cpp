@@ -5,7 +5,7 @@
 #include "core/pfad.h"
 #include "core/pfadname.h"
 #include "filetools/dateitexte.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QComboBox>
 #include <QGridLayout>

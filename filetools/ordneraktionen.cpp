@@ -13,7 +13,7 @@ using namespace dateitexte;
 bool OrdnerAnlegenMitFrage(const std::string& ordner, const std::function<void()>& aktualisieren) {
     std::string name;
     for (;;) {
-        name = Eingabe(ordnerBild, ordnerTitel, ordnerFrage, "", 1111);
+        name = Eingabe(ordnerBild, ordnerTitel, ordnerFrage, "").value_or("");
         if (name.empty()) {
             Meldung(keinOrdnerAngelegt);
             return false;
@@ -39,13 +39,11 @@ bool OrdnerAnlegenMitFrage(const std::string& ordner, const std::function<void()
 
 bool OrdnerLoeschenMitFrage(const std::string& ordner, const std::function<void()>& aktualisieren) {
     const std::string name = Ordnername(ordner);
-    NachrichtAntwort = antwortAbbrechen;
-    if (Nachricht(ordnerLoeschen, {name}) != antwortJa) {
+    if (Nachricht(ordnerLoeschen, {name}) != Antwort::Ja) {
         Meldung(ordnerBehaltenErst);
         return false;
     }
-    NachrichtAntwort = antwortAbbrechen;
-    if (Nachricht(ordnerWirklichLoeschen, {name}) != antwortJa) {
+    if (Nachricht(ordnerWirklichLoeschen, {name}) != Antwort::Ja) {
         Meldung(ordnerBehaltenDann);
         return false;
     }

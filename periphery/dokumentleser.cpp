@@ -3,9 +3,9 @@
 #include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "periphery/dokumentansicht.h"
-#include "periphery/hinweise.h"
 #include "periphery/texte.h"
 #include "periphery/zusatz.h"
+#include "tooltips/hinweise.h"
 
 #include <QHBoxLayout>
 #include <QIntValidator>

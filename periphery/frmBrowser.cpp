@@ -4,8 +4,8 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "periphery/dokumentleser.h"
-#include "periphery/hinweise.h"
 #include "periphery/texte.h"
+#include "tooltips/hinweise.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -104,7 +104,7 @@ frmBrowser& BrowserZeigen() {
             Aufnehmen(*fenster);
         }
     }
-    KindNachVorn("Browser");
+    KindNachVorn(offen);
     offen->raise();
     offen->setFocus(); // the pages' own keys answer at once
     return *offen;

@@ -2,14 +2,14 @@
 
 #include "core/hauptfenster.h"
 #include "core/konfiguration.h"
+#include "core/meldungstext.h"
 #include "core/oberflaeche.h"
 #include "core/plattform.h"
-#include "dialogs/texte.h"
-#include "periphery/hinweise.h"
 #include "periphery/netzansicht.h"
 #include "periphery/texte.h"
 #include "periphery/uebergabe.h"
 #include "periphery/zusatz.h"
+#include "tooltips/hinweise.h"
 
 #include <QLabel>
 #include <QMdiSubWindow>
@@ -132,7 +132,7 @@ void HomepageZeigen() {
     } else {
         offen->NeuVersuchen();
     }
-    KindNachVorn("Homepage");
+    KindNachVorn(offen);
 }
 
 frmHomepage* HomepageOffen() {

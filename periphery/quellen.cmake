@@ -1,10 +1,3 @@
-feldkranz_quellen(modell periphery/tooltipregeln.cpp)
-feldkranz_quellen(fenster
-  periphery/hinweise.cpp
-  periphery/hinweiswaechter.cpp
-  periphery/tooltip.cpp periphery/tooltip.h
-  periphery/tooltipfenster.cpp periphery/tooltipfenster.h
-  periphery/tooltipps.cpp)
 feldkranz_quellen(modell periphery/mailadresse.cpp periphery/netzadresse.cpp)
 feldkranz_quellen(rand periphery/dateivorhanden.cpp periphery/uebergabe.cpp)
 feldkranz_quellen(fenster

@@ -1,13 +1,13 @@
 #include "periphery/spielregel.h"
 
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "periphery/dateivorhanden.h"
 #include "periphery/frmBrowser.h"
 #include "periphery/texte.h"
 
 std::string SpielregelPfad() {
-    return AppPfad + std::string(periphertexte::regelDatei);
+    return Stand.AppPfad + std::string(periphertexte::regelDatei);
 }
 
 std::string SpielregelAdresse() {

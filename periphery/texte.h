@@ -1,8 +1,8 @@
 // What the rule document's window and the homepage's window say. Only texts.
 #pragma once
 
-#include "dialogs/texte.h"
-#include "periphery/hinweistext.h"
+#include "core/hinweistext.h"
+#include "core/meldungstext.h"
 
 #include <array>
 #include <string_view>

@@ -7,6 +7,7 @@ namespace {
 struct Lesen {
     WertLeser& leser;
     void operator()(Blindwert) const { leser.Token(); }
+    void operator()(bool* wert) const { *wert = leser.Ganzzahl() == 1; }
     void operator()(std::int16_t* wert) const { *wert = leser.Ganzzahl(); }
     void operator()(float* wert) const { *wert = leser.Einfach(); }
     void operator()(std::string* wert) const { *wert = leser.Text(); }
@@ -16,6 +17,7 @@ struct Lesen {
 struct Schreiben {
     WertSchreiber& schreiber;
     void operator()(Blindwert wert) const { schreiber.Text(wert.text); }
+    void operator()(const bool* wert) const { schreiber.Ganzzahl(*wert ? 1 : 0); }
     void operator()(const std::int16_t* wert) const { schreiber.Ganzzahl(*wert); }
     void operator()(const float* wert) const { schreiber.Einfach(*wert); }
     void operator()(const std::string* wert) const { schreiber.Text(*wert); }

@@ -1,19 +1,12 @@
 #include "persistence/dateiliste.h"
 
-#include "settings/einstellungen.h"
-
 #include <algorithm>
-#include <array>
 
-void DateilisteErgaenzen(std::string_view pfad) {
-    const std::array<std::string*, 4> liste{&Datei1, &Datei2, &Datei3, &Datei4};
-    if (std::any_of(liste.begin(), liste.end(),
-                    [pfad](const std::string* datei) { return *datei == pfad; })) {
+void DateilisteErgaenzen(std::array<std::string, 4>& liste, std::string_view pfad) {
+    if (std::ranges::find(liste, pfad) != liste.end()) {
         return;
     }
-    const std::string neu(pfad);
-    for (std::size_t i = liste.size() - 1; i > 0; --i) {
-        *liste[i] = *liste[i - 1];
-    }
-    *liste[0] = neu;
+    const std::string neu(pfad); // may be one of those that move
+    std::ranges::rotate(liste, liste.end() - 1);
+    liste.front() = neu;
 }

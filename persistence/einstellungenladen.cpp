@@ -1,7 +1,7 @@
 #include "persistence/einstellungenladen.h"
 
 #include "core/datei.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "persistence/einstellungsdatei.h"
 
 namespace {
@@ -10,15 +10,15 @@ namespace {
 constexpr std::size_t groessteEinstellungen = std::size_t{1} << 20U;
 
 std::string Einstellungspfad() {
-    return AppPfad + "\\CONFIG\\Feldkranz.INI";
+    return Stand.AppPfad + "\\CONFIG\\Feldkranz.INI";
 }
 
 } // namespace
 
 void EinstellungenLesen() {
-    EinstellungenAusBytes(DateiLesen(Einstellungspfad(), groessteEinstellungen));
+    EinstellungenAusBytes(DateiLesen(Einstellungspfad(), groessteEinstellungen), Spiel);
 }
 
 void EinstellungenSchreiben() {
-    DateiSchreiben(Einstellungspfad(), EinstellungenBytes());
+    DateiSchreiben(Einstellungspfad(), EinstellungenBytes(Spiel));
 }

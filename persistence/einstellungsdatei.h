@@ -2,21 +2,13 @@
 // the file itself is einstellungenladen.h.
 #pragma once
 
-#include "persistence/wertgrammatik.h"
+#include "rules/spielwerte.h"
 
 #include <string>
 #include <string_view>
 
-void SchreibeStandard(WertSchreiber& schreiber);
-void SchreibeStandard2(WertSchreiber& schreiber);
-void SchreibeDateiliste(WertSchreiber& schreiber);
+// The bytes of a whole settings file.
+[[nodiscard]] std::string EinstellungenBytes(const Spielwerte& spiel);
 
-void LeseStandard(WertLeser& leser);
-void LeseStandard2(WertLeser& leser);
-void LeseDateiliste(WertLeser& leser);
-
-// The bytes of a whole settings file from the shared variables.
-[[nodiscard]] std::string EinstellungenBytes();
-
-// Reads a settings file into the shared variables. Throws Laufzeitfehler; what was read so far is in force.
-void EinstellungenAusBytes(std::string_view bytes);
+// Reads a settings file over the values. Throws Laufzeitfehler; what was read so far is in force.
+void EinstellungenAusBytes(std::string_view bytes, Spielwerte& spiel);

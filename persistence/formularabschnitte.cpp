@@ -1,125 +1,154 @@
-#include "core/zustand.h"
-#include "editor/editordaten.h"
-#include "persistence/abschnitt.h"
-#include "persistence/formulardatei.h"
-#include "quizform/formdaten.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "persistence/formularabschnitte.h"
 
-#include <array>
+#include "persistence/abschnitt.h"
+
+#include <vector>
 
 namespace {
 
-constexpr std::array<Platz, 5> fkIni{&FormTyp, &FelderGesamt, &FragenProWissen, &AnzahlWissen, reserviert};
+using Plaetze = std::vector<Platz>;
 
-constexpr std::array<Platz, 3> allgemeines{&FormNr, &FormDatum, &FormZeit};
+constexpr std::string_view kennungQuiz = "FK";
+constexpr std::string_view kennungTest = "Test";
+
+// Behind the kind's word.
+Plaetze FKIniPlaetze(Spielwerte& s) {
+    return {&s.FelderGesamt, &s.FragenProWissen, &s.AnzahlWissen, reserviert};
+}
+
+Plaetze AllgemeinesPlaetze(Quizformular& f) {
+    return {&f.FormNr, &f.FormDatum, &f.FormZeit};
+}
 
 // Kinds in the order A, G, J, R, E and the count first: unlike the settings file, and meant.
-constexpr std::array<Platz, 15> fkPunkte{
-    &FelderA, &PunkteA, &FelderG,   &PunkteG,   &FelderJ,   &PunkteJ,         &FelderR,         &PunkteR,
-    &FelderE, &PunkteE, reserviert, reserviert, reserviert, &Zwischenabstand, &FarbeHintergrund};
+Plaetze FKPunktePlaetze(Spielwerte& s) {
+    Plaetze plaetze;
+    for (const Spezialart art : {Spezialart::Aktion, Spezialart::Glueck, Spezialart::Joker,
+                                 Spezialart::Risiko, Spezialart::Ereignis}) {
+        plaetze.insert(plaetze.end(), {&s.Felder[art], &s.Punkte[art]});
+    }
+    plaetze.insert(plaetze.end(),
+                   {reserviert, reserviert, reserviert, &s.Zwischenabstand, &s.FarbeHintergrund});
+    return plaetze;
+}
 
-constexpr std::array<Platz, 3> hbAllgemeines{&HBKopf1, &HBKopf2, &HBKopf3};
+Plaetze HBAllgemeinesPlaetze(Testformular& f) {
+    return {&f.HBKopf1, &f.HBKopf2, &f.HBKopf3};
+}
 
-constexpr std::array<Platz, 10> hilfe{&HilfeEintrag[1], &HilfeEintrag[2], &HilfeEintrag[3], &HilfeEintrag[4],
-                                      &HilfeEintrag[5], reserviert,       reserviert,       reserviert,
-                                      reserviert,       reserviert};
+Plaetze HilfePlaetze(Spielwerte& s) {
+    return {&s.HilfeEintrag[1], &s.HilfeEintrag[2], &s.HilfeEintrag[3], &s.HilfeEintrag[4],
+            &s.HilfeEintrag[5], reserviert,         reserviert,         reserviert,
+            reserviert,         reserviert};
+}
+
+// Writes the places of a copy: they point into what is also read into.
+template <typename Wert>
+void Schreiben(WertSchreiber& schreiber, std::string_view marke, Plaetze (*plaetze)(Wert&), Wert kopie) {
+    schreiber.Text(marke);
+    PlaetzeSchreiben(schreiber, plaetze(kopie));
+}
 
 } // namespace
 
-void SchreibeFKIni(WertSchreiber& schreiber) {
+std::string_view Formkennung(Formart art) {
+    return art == Formart::Quiz ? kennungQuiz : art == Formart::Test ? kennungTest : std::string_view();
+}
+
+Formart ArtVonKennung(std::string_view kennung) {
+    if (kennung.empty()) {
+        return Formart::Keine;
+    }
+    return kennung == kennungQuiz ? Formart::Quiz : kennung == kennungTest ? Formart::Test : Formart::Fremd;
+}
+
+void SchreibeFKIni(WertSchreiber& schreiber, const Spielwerte& spiel) {
     schreiber.Text("[FKINI]");
-    // The tag of the layout, also should FormTyp say something else: a file without it would open no form.
-    schreiber.Text("FK");
-    PlaetzeSchreiben(schreiber, std::span(fkIni).subspan(1));
+    // The kind of the layout, whatever is open: a file without it would open no form.
+    schreiber.Text(kennungQuiz);
+    Spielwerte kopie = spiel;
+    PlaetzeSchreiben(schreiber, FKIniPlaetze(kopie));
 }
 
-void LeseFKIni(WertLeser& leser) {
-    // The tag overwrites the one at the head of the file without any check, and that is meant.
-    PlaetzeLesen(leser, fkIni);
+void LeseFKIni(WertLeser& leser, Formularwerte& werte) {
+    // The kind overwrites the one at the head of the file without any check, and that is meant.
+    werte.art = ArtVonKennung(leser.Text());
+    PlaetzeLesen(leser, FKIniPlaetze(werte.spiel));
 }
 
-void SchreibeAllgemeines(WertSchreiber& schreiber) {
-    schreiber.Text("[ALLGEMEINES]");
-    PlaetzeSchreiben(schreiber, allgemeines);
+void SchreibeAllgemeines(WertSchreiber& schreiber, const Quizformular& form) {
+    Schreiben(schreiber, "[ALLGEMEINES]", AllgemeinesPlaetze, form);
 }
 
-void LeseAllgemeines(WertLeser& leser) {
-    PlaetzeLesen(leser, allgemeines);
+void LeseAllgemeines(WertLeser& leser, Quizformular& form) {
+    PlaetzeLesen(leser, AllgemeinesPlaetze(form));
 }
 
-void SchreibeFKPunkte(WertSchreiber& schreiber) {
-    schreiber.Text("[FKPUNKTE]");
-    PlaetzeSchreiben(schreiber, fkPunkte);
+void SchreibeFKPunkte(WertSchreiber& schreiber, const Spielwerte& spiel) {
+    Schreiben(schreiber, "[FKPUNKTE]", FKPunktePlaetze, spiel);
 }
 
-void LeseFKPunkte(WertLeser& leser) {
-    PlaetzeLesen(leser, fkPunkte);
+void LeseFKPunkte(WertLeser& leser, Spielwerte& spiel) {
+    PlaetzeLesen(leser, FKPunktePlaetze(spiel));
 }
 
 // All six areas and all thirty cells, whatever the shape of the board.
-void SchreibeFragen(WertSchreiber& schreiber) {
+void SchreibeFragen(WertSchreiber& schreiber, const Quizformular& form) {
     schreiber.Text("[FRAGEN]");
     for (std::size_t a = 1; a <= anzahlGebiete; ++a) {
-        schreiber.Text(WissenTitel[a]);
+        schreiber.Text(form.WissenTitel[a]);
         for (std::size_t n = fragenJeGebiet * (a - 1) + 1; n <= fragenJeGebiet * a; ++n) {
-            schreiber.Text(FrageText[n]);
-            schreiber.Text(AntwortText[n]);
-            schreiber.Text(FeldSpezial[n]);
+            schreiber.Text(form.FrageText[n]);
+            schreiber.Text(form.AntwortText[n]);
+            schreiber.Text(form.FeldSpezial[n]);
         }
     }
 }
 
-void LeseFragen(WertLeser& leser) {
+void LeseFragen(WertLeser& leser, Quizformular& form) {
     for (std::size_t a = 1; a <= anzahlGebiete; ++a) {
-        WissenTitel[a] = leser.Text();
+        form.WissenTitel[a] = leser.Text();
         for (std::size_t n = fragenJeGebiet * (a - 1) + 1; n <= fragenJeGebiet * a; ++n) {
-            FrageText[n] = leser.Text();
-            AntwortText[n] = leser.Text();
-            FeldSpezial[n] = leser.Text();
+            form.FrageText[n] = leser.Text();
+            form.AntwortText[n] = leser.Text();
+            form.FeldSpezial[n] = leser.Text();
         }
     }
 }
 
-void SchreibeHBAllgemeines(WertSchreiber& schreiber) {
-    schreiber.Text("[HB-ALLGEMEINES]");
-    PlaetzeSchreiben(schreiber, hbAllgemeines);
+void SchreibeHBAllgemeines(WertSchreiber& schreiber, const Testformular& form) {
+    Schreiben(schreiber, "[HB-ALLGEMEINES]", HBAllgemeinesPlaetze, form);
 }
 
-void LeseHBAllgemeines(WertLeser& leser) {
-    PlaetzeLesen(leser, hbAllgemeines);
+void LeseHBAllgemeines(WertLeser& leser, Testformular& form) {
+    PlaetzeLesen(leser, HBAllgemeinesPlaetze(form));
 }
 
-void SchreibeHBFragen(WertSchreiber& schreiber) {
+void SchreibeHBFragen(WertSchreiber& schreiber, const Testformular& form) {
     schreiber.Text("[HB-FRAGEN]");
-    schreiber.Text(HBFach);
+    schreiber.Text(form.HBFach);
     for (std::size_t i = 1; i <= anzahlTestfragen; ++i) {
-        schreiber.Text(HBFrageText[i]);
-        schreiber.Text(HBAntwortText[i]);
-        schreiber.Ganzzahl(HBPunkte[i]);
+        schreiber.Text(form.HBFrageText[i]);
+        schreiber.Text(form.HBAntwortText[i]);
+        schreiber.Ganzzahl(form.HBPunkte[i]);
     }
-    schreiber.Ganzzahl(HBGesamtpunkte);
+    schreiber.Ganzzahl(form.HBGesamtpunkte);
 }
 
-void LeseHBFragen(WertLeser& leser) {
-    HBFach = leser.Text();
+void LeseHBFragen(WertLeser& leser, Testformular& form) {
+    form.HBFach = leser.Text();
     for (std::size_t i = 1; i <= anzahlTestfragen; ++i) {
-        HBFrageText[i] = leser.Text();
-        HBAntwortText[i] = leser.Text();
-        HBPunkte[i] = leser.Ganzzahl();
+        form.HBFrageText[i] = leser.Text();
+        form.HBAntwortText[i] = leser.Text();
+        form.HBPunkte[i] = leser.Ganzzahl();
     }
-    HBGesamtpunkte = leser.Ganzzahl();
+    form.HBGesamtpunkte = leser.Ganzzahl();
 }
 
-void SchreibeHilfe(WertSchreiber& schreiber) {
-    schreiber.Text("[HILFE]");
-    PlaetzeSchreiben(schreiber, hilfe);
+void SchreibeHilfe(WertSchreiber& schreiber, const Spielwerte& spiel) {
+    Schreiben(schreiber, "[HILFE]", HilfePlaetze, spiel);
 }
 
-void LeseHilfe(WertLeser& leser) {
-    PlaetzeLesen(leser, hilfe);
-}
-
-void LeseBemerkung(WertLeser& leser) {
-    Bemerkung = leser.Text();
+void LeseHilfe(WertLeser& leser, Spielwerte& spiel) {
+    PlaetzeLesen(leser, HilfePlaetze(spiel));
 }

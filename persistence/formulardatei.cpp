@@ -1,90 +1,100 @@
 #include "persistence/formulardatei.h"
 
-#include "core/cp1252.h"
-#include "core/zustand.h"
 #include "persistence/abschnitt.h"
-#include "settings/einstellungen.h"
+#include "persistence/formularabschnitte.h"
 
 #include <array>
 
 namespace {
 
-constexpr std::string_view kennungFormular = "Feldkranz";
+constexpr std::string_view typwort = "Feldkranz";
 
-constexpr std::array<Abschnitt, 8> abschnitte{{{"[FKINI]", LeseFKIni},
-                                               {"[ALLGEMEINES]", LeseAllgemeines},
-                                               {"[HB-ALLGEMEINES]", LeseHBAllgemeines},
-                                               {"[FRAGEN]", LeseFragen},
-                                               {"[HB-FRAGEN]", LeseHBFragen},
-                                               {"[FKPUNKTE]", LeseFKPunkte},
-                                               {"[HILFE]", LeseHilfe},
-                                               {"[BEMERKUNG]", LeseBemerkung}}};
-
-// Values that no form can do without. PunkteR and the five counts are left as they are, and that is meant.
-void FehlendeWerteErgaenzen() {
-    struct Vorgabe {
-        std::int16_t* wert;
-        std::int16_t vorgabe;
-    };
-    constexpr std::array<Vorgabe, 5> vorgaben{
-        {{&PunkteA, 5}, {&PunkteE, 10}, {&PunkteG, 10}, {&PunkteJ, 5}, {&FarbeHintergrund, 7}}};
-    for (const Vorgabe& v : vorgaben) {
-        if (*v.wert == 0) {
-            *v.wert = v.vorgabe;
-        }
-    }
+std::array<Abschnitt, 8> Abschnitte(Formularwerte& werte) {
+    return {{{"[FKINI]", [&](WertLeser& l) { LeseFKIni(l, werte); }},
+             {"[ALLGEMEINES]", [&](WertLeser& l) { LeseAllgemeines(l, werte.quiz); }},
+             {"[HB-ALLGEMEINES]", [&](WertLeser& l) { LeseHBAllgemeines(l, werte.test); }},
+             {"[FRAGEN]", [&](WertLeser& l) { LeseFragen(l, werte.quiz); }},
+             {"[HB-FRAGEN]", [&](WertLeser& l) { LeseHBFragen(l, werte.test); }},
+             {"[FKPUNKTE]", [&](WertLeser& l) { LeseFKPunkte(l, werte.spiel); }},
+             {"[HILFE]", [&](WertLeser& l) { LeseHilfe(l, werte.spiel); }},
+             {"[BEMERKUNG]", [&](WertLeser& l) { werte.Bemerkung = l.Text(); }}}};
 }
 
-// Type word and mode tag; the result's code is set where the file goes no further.
-void KopfLesen(WertLeser& leser, FormularErgebnis& ergebnis) {
-    if (leser.Token() != kennungFormular) {
-        ergebnis.code = 1;
-        return;
+// Values that no form can do without. The points of Risiko and the five counts are left as they are, and that
+// is meant.
+void FehlendeWerteErgaenzen(Spielwerte& spiel) {
+    const auto ergaenzen = [](std::int16_t& wert, std::int16_t vorgabe) {
+        wert = wert == 0 ? vorgabe : wert;
+    };
+    ergaenzen(spiel.Punkte[Spezialart::Aktion], 5);
+    ergaenzen(spiel.Punkte[Spezialart::Ereignis], 10);
+    ergaenzen(spiel.Punkte[Spezialart::Glueck], 10);
+    ergaenzen(spiel.Punkte[Spezialart::Joker], 5);
+    ergaenzen(spiel.FarbeHintergrund, 7);
+}
+
+// Type word and kind. No value where the file goes on.
+std::optional<Leseende> KopfLesen(WertLeser& leser, Formart offen, Formart& kennung) {
+    if (leser.Token() != typwort) {
+        return Leseende::KeinFormular;
     }
-    ergebnis.kennung = leser.Text();
-    if (!FormTyp.empty() && ergebnis.kennung != FormTyp) {
-        ergebnis.code = 2;
-    }
+    kennung = ArtVonKennung(leser.Text());
+    return offen != Formart::Keine && kennung != offen ? std::optional(Leseende::Abgelehnt) : std::nullopt;
 }
 
 } // namespace
 
 bool IstFormular(std::string_view bytes) {
     WertLeser leser(bytes);
-    return !leser.AmEnde() && leser.Token() == kennungFormular;
+    return !leser.AmEnde() && leser.Token() == typwort;
 }
 
-bool FormularAnnehmbar(std::string_view bytes) {
-    FormularErgebnis ergebnis;
+bool FormularAnnehmbar(std::string_view bytes, Formart offen) {
     try {
+        Formart kennung = Formart::Keine;
         WertLeser leser(bytes);
-        if (!leser.AmEnde()) {
-            KopfLesen(leser, ergebnis);
-        }
+        return leser.AmEnde() || !KopfLesen(leser, offen, kennung);
     } catch (const Laufzeitfehler&) {
         return false; // cut short inside its head
     }
-    return !ergebnis.code;
 }
 
-std::string FormularBytes(std::string_view tag) {
+std::string FormularBytes(const Quizformular& form, const Spielwerte& spiel) {
     WertSchreiber schreiber;
-    schreiber.Text(kennungFormular);
-    if (tag == "FKFragen") {
-        schreiber.Text("FK");
-        SchreibeFKIni(schreiber);
-        SchreibeAllgemeines(schreiber);
-        SchreibeFKPunkte(schreiber);
-        SchreibeFragen(schreiber);
-    } else if (tag == "HBFragen") {
-        schreiber.Text("Test");
-        SchreibeHBAllgemeines(schreiber);
-        SchreibeHBFragen(schreiber);
-    }
+    schreiber.Text(typwort);
+    schreiber.Text(Formkennung(Formart::Quiz));
+    SchreibeFKIni(schreiber, spiel);
+    SchreibeAllgemeines(schreiber, form);
+    SchreibeFKPunkte(schreiber, spiel);
+    SchreibeFragen(schreiber, form);
     return schreiber.bytes();
 }
 
-FormularErgebnis FormularAusBytes(std::string_view bytes, const WertLeser::Fehlermelder& melder) {
+std::string FormularBytes(const Testformular& form) {
+    WertSchreiber schreiber;
+    schreiber.Text(typwort);
+    schreiber.Text(Formkennung(Formart::Test));
+    SchreibeHBAllgemeines(schreiber, form);
+    SchreibeHBFragen(schreiber, form);
+    return schreiber.bytes();
+}
+
+std::string FormularBytes(Formart art, const Formularwerte& werte) {
+    switch (art) {
+    case Formart::Quiz:
+        return FormularBytes(werte.quiz, werte.spiel);
+    case Formart::Test:
+        return FormularBytes(werte.test);
+    default: {
+        WertSchreiber schreiber;
+        schreiber.Text(typwort);
+        return schreiber.bytes();
+    }
+    }
+}
+
+FormularErgebnis FormularAusBytes(std::string_view bytes, Formart offen, Formularwerte& werte,
+                                  const WertLeser::Fehlermelder& melder) {
     FormularErgebnis ergebnis;
     WertLeser leser(bytes, [&melder](const Laufzeitfehler& fehler) {
         if (melder) {
@@ -94,14 +104,15 @@ FormularErgebnis FormularAusBytes(std::string_view bytes, const WertLeser::Fehle
     try {
         // An empty file counts as read to the end.
         if (!leser.AmEnde()) {
-            KopfLesen(leser, ergebnis);
-            FormTyp = ergebnis.code ? FormTyp : ergebnis.kennung;
+            if (const auto ende = KopfLesen(leser, offen, ergebnis.kennung)) {
+                ergebnis.ende = *ende;
+                return ergebnis;
+            }
+            werte.art = ergebnis.kennung;
         }
-        if (!ergebnis.code) {
-            AbschnitteLesen(leser, abschnitte);
-            FehlendeWerteErgaenzen();
-            ergebnis.code = 0;
-        }
+        AbschnitteLesen(leser, Abschnitte(werte));
+        FehlendeWerteErgaenzen(werte.spiel);
+        ergebnis.ende = Leseende::Ganz;
     } catch (const Laufzeitfehler& fehler) {
         ergebnis.fehler = fehler;
     }
@@ -113,13 +124,9 @@ std::optional<FKIni> FKIniAusBytes(std::string_view bytes) {
     WertLeser leser(bytes);
     while (!leser.AmEnde()) {
         if (IstMarke(leser.Token(), "[FKINI]")) {
-            FKIni werte;
-            werte.formTyp = leser.Text();
-            werte.felderGesamt = leser.Ganzzahl();
-            werte.fragenProWissen = leser.Ganzzahl();
-            werte.anzahlWissen = leser.Ganzzahl();
-            leser.Token();
-            ergebnis = werte;
+            Formularwerte werte;
+            LeseFKIni(leser, werte);
+            ergebnis = {werte.spiel.FelderGesamt, werte.spiel.FragenProWissen, werte.spiel.AnzahlWissen};
         }
     }
     return ergebnis;

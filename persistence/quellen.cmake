@@ -4,14 +4,6 @@ feldkranz_quellen(modell
   persistence/einstellungsdatei.cpp
   persistence/formularabschnitte.cpp
   persistence/formulardatei.cpp
-  persistence/rettungsname.cpp
-  persistence/wertlesen.cpp
-  persistence/wertschreiben.cpp)
-feldkranz_quellen(rand persistence/einstellungenladen.cpp persistence/formularpfad.cpp)
-feldkranz_quellen(fenster
-  persistence/formularlesen.cpp
-  persistence/oeffnen.cpp
-  persistence/rettung.cpp
-  persistence/schliessen.cpp
-  persistence/sicherung.cpp
-  persistence/speichern.cpp)
+  persistence/rettungsname.cpp)
+feldkranz_quellen(rand persistence/einstellungenladen.cpp)
+feldkranz_quellen(fenster persistence/sicherung.cpp)

@@ -1,10 +1,10 @@
+#include "persistence/sicherung.h"
+
 #include "core/datei.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
 #include "dialogs/meldung.h"
-#include "persistence/speichern.h"
 #include "persistence/texte.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 
 namespace {
 
@@ -12,30 +12,32 @@ using namespace persistenztexte;
 
 enum class Sicherung : std::uint8_t { Angelegt, Gescheitert, NichtsDa };
 
-std::string Sicherungspfad() {
-    const std::string endung = Dateiendung(NurDateiname(DateiName));
-    return DateiName.substr(0, DateiName.size() - endung.size()) + ".BAK";
+std::string Sicherungspfad(const std::string& pfad) {
+    const std::string endung = Dateiendung(NurDateiname(pfad));
+    return pfad.substr(0, pfad.size() - endung.size()) + ".BAK";
 }
 
-Sicherung Anlegen() {
-    if (!DateiDa(DateiName)) {
+Sicherung Anlegen(const std::string& pfad) {
+    if (!DateiDa(pfad)) {
         return Sicherung::NichtsDa;
     }
-    const std::string ziel = Sicherungspfad();
-    if (Grossschreiben(ziel) == Grossschreiben(DateiName)) {
+    const std::string ziel = Sicherungspfad(pfad);
+    if (Grossschreiben(ziel) == Grossschreiben(pfad)) {
         return Sicherung::Gescheitert; // an opened backup can't be its own backup
     }
     try {
-        DateiKopieren(DateiName, ziel);
+        DateiKopieren(pfad, ziel);
         return Sicherung::Angelegt;
     } catch (const Laufzeitfehler&) {
         return Sicherung::Gescheitert; // told by the caller; the save goes on
     }
 }
 
-void KeineMelden(std::string_view zusatz) {
-    const std::string text = Einsetzen(keineSicherung.text, {NurDateiname(DateiName)}) + std::string(zusatz);
-    Meldung(0, keineSicherung.bild, text, keineSicherung.nummer, keineSicherung.taste);
+void KeineMelden(const std::string& pfad, std::string_view zusatz) {
+    const std::string text = std::string(keineSicherung.text) + std::string(zusatz);
+    MeldungsText meldung = keineSicherung;
+    meldung.text = text;
+    Meldung(meldung, {NurDateiname(pfad)});
 }
 
 // The path less its last four characters, whatever they are: it is meant.
@@ -49,26 +51,26 @@ std::string OhneVierZeichen(std::string pfad) {
 
 } // namespace
 
-void SicherungAnlegenForm() {
-    if (OptionDatei != 1) {
+void SicherungAnlegenForm(const std::string& pfad) {
+    if (!Spiel.OptionDatei) {
         return;
     }
-    const Sicherung ergebnis = Anlegen();
+    const Sicherung ergebnis = Anlegen(pfad);
     if (ergebnis == Sicherung::Angelegt) {
-        Meldung(sicherungAngelegt, {NurDateiname(Sicherungspfad())});
+        Meldung(sicherungAngelegt, {NurDateiname(Sicherungspfad(pfad))});
     } else {
-        KeineMelden(ergebnis == Sicherung::NichtsDa ? dateiWarNeu : "");
+        KeineMelden(pfad, ergebnis == Sicherung::NichtsDa ? dateiWarNeu : "");
     }
 }
 
-void SicherungAnlegenKatalog() {
-    if (OptionDatei != 1) {
+void SicherungAnlegenKatalog(const std::string& pfad) {
+    if (!Spiel.OptionDatei) {
         return;
     }
-    if (Anlegen() == Sicherung::Angelegt) {
-        Meldung(gespeichert, {NurDateiname(DateiName)});
-        Meldung(sicherungKatalog, {OhneVierZeichen(DateiName)});
+    if (Anlegen(pfad) == Sicherung::Angelegt) {
+        Meldung(gespeichert, {NurDateiname(pfad)});
+        Meldung(sicherungKatalog, {OhneVierZeichen(pfad)});
     } else {
-        KeineMelden("");
+        KeineMelden(pfad, "");
     }
 }

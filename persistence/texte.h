@@ -2,7 +2,7 @@
 // oeffnen.h.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <string_view>
 
@@ -27,6 +27,11 @@ inline constexpr MeldungsText sicherungKatalog{7, "BackUp angelegt : \r\n[ {}.BA
 inline constexpr MeldungsText keineSicherung{5, "Ich konnte kein BackUp anlegen von : \r\n[ {} ]", "1",
                                              "Das finde ich nicht so gut"};
 inline constexpr std::string_view dateiWarNeu = "\r\n(Die Datei gab es bisher wahrscheinlich noch nicht.)";
+
+// --- Settings file; {} is the system's text of the failure ---
+
+inline constexpr MeldungsText iniFehler{5, "Feldkranz.INI konnte ich nicht schreiben !\r\n{}", "987",
+                                        "Dann eben beim nächsten Mal"};
 
 // --- Unsaved changes ---
 

@@ -1,7 +1,7 @@
 #include "printing/drucker.h"
 
+#include "core/meldungstext.h"
 #include "core/pfad.h"
-#include "dialogs/texte.h"
 #include "printing/texte.h"
 
 #include <QCoreApplication>

@@ -1,18 +1,16 @@
 #include "core/hauptfenster.h"
-#include "core/zustand.h"
 #include "dialogs/modal.h"
 #include "printing/drucken.h"
 #include "printing/drucker.h"
-#include "printing/pdfpfad.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
 
 // The dialog works on a copy: it changes its printer while the user only looks around. It proposes five
 // copies each time, and what the user confirms serves.
-void DruckerWahl() {
+void DruckerWahl(const std::string& pdfVorschlag) {
     constexpr int kopien = 5;
-    std::unique_ptr<QPrinter> drucker = DruckerKopie(FormTyp == "Test" ? PdfPfadHB() : PdfPfadFK());
+    std::unique_ptr<QPrinter> drucker = DruckerKopie(pdfVorschlag);
     drucker->setCopyCount(kopien);
     QPrintDialog dialog(drucker.get(), Hauptfenster());
     if (ModalZeigen(dialog) == QDialog::Accepted) {

@@ -1,56 +1,36 @@
 #include "printing/feldlayout.h"
 
-#include "printing/texte.h"
 #include "printing/zeilenumbruch.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
 
 #include <cstddef>
 
 namespace {
 
-// What the kind of a cell decides. A kind with a word shows only that, without dividers and texts.
-struct Feldart {
-    char buchstabe;
-    Farbe grund;
-    Farbe linie;
-    std::string_view wort;
-};
-
-constexpr std::array<Feldart, 5> feldarten{{
-    {'J', {255, 255, 191}, {159, 159, 0}, drucktexte::joker},
-    {'E', {255, 223, 191}, {255, 127, 0}, drucktexte::ereignis},
-    {'R', {255, 223, 223}, {255, 0, 0}, {}},
-    {'G', {223, 255, 223}, {0, 255, 0}, {}},
-    {'A', {223, 223, 255}, {0, 0, 255}, {}},
-}};
-
 // The kind of a cell; nullptr for a plain one and for one that is not in play.
-const Feldart* ArtVon(const FKDruckfeld& feld) {
-    if (feld.frageSichtbar && feld.spezial.size() == 1) {
-        for (const Feldart& art : feldarten) {
-            if (art.buchstabe == feld.spezial.front()) {
-                return &art;
-            }
-        }
-    }
-    return nullptr;
+const Artzeile* Feldart(const FKDruckfeld& feld) {
+    const auto art = feld.frageSichtbar ? ArtVon(feld.spezial) : std::nullopt;
+    return art ? &ArtzeileVon(*art) : nullptr;
 }
 
-bool HatWort(const Feldart* art) {
-    return art != nullptr && !art->wort.empty();
+// A kind with a word shows only that, without dividers and texts.
+bool HatWort(const Artzeile* art) {
+    return art != nullptr && !art->druckWort.empty();
 }
 
 // A cell with its place on the page and everything the passes need.
-struct Stelle {
+struct Feldplatz {
     const FKDruckdaten& daten;
     const Druckgeometrie& g;
     const Schriftmass& mass;
     const FKDruckfeld& feld;
-    const Feldart* art;
+    const Artzeile* art;
     int zeile; // 1 to 5, the worth of a plain cell
     float x, y;
 };
 
-void RahmenZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+void RahmenZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     const Druckgeometrie& g = s.g;
     const float hoehe = g.FrageHoehe + g.AntwortHoehe;
     const Rechteck aussen{s.x, s.y, g.SpaltenBreite, hoehe, {g.StrichDuenn, farbeSchwarz}, {}};
@@ -66,10 +46,10 @@ void RahmenZeichnen(Zeichnung& zeichnung, const Stelle& s) {
                    {g.StrichFeld, farbeSchwarz},
                    {}};
     if (s.daten.rahmenFarbig) {
-        innen.stift.farbe = s.art->linie;
+        innen.stift.farbe = s.art->druckLinie;
     }
     if (s.daten.spezialFarbig) {
-        innen.fuellung = s.art->grund;
+        innen.fuellung = s.art->druckGrund;
     }
     zeichnung.emplace_back(innen);
     if (!HatWort(s.art)) {
@@ -77,7 +57,7 @@ void RahmenZeichnen(Zeichnung& zeichnung, const Stelle& s) {
     }
 }
 
-void TeilerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+void TeilerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     const Druckgeometrie& g = s.g;
     const Stift stift{g.StrichDuenn, farbeSchwarz};
     const float links = s.x + g.NummerBreite;
@@ -87,7 +67,7 @@ void TeilerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
 }
 
 // Lines run on below the cell when there are many: nothing is cut off, and that is meant.
-void FeldtextZeichnen(Zeichnung& zeichnung, const Stelle& s, const std::string& text, float y, bool fett) {
+void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::string& text, float y, bool fett) {
     const Schrift schrift{Schriftart::Arial, 8.0F * s.g.Massstab, fett};
     const auto zeilen = Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) {
         return s.mass.BreiteGegen(teil, schrift, s.g.TextBreite);
@@ -95,12 +75,12 @@ void FeldtextZeichnen(Zeichnung& zeichnung, const Stelle& s, const std::string& 
     TextZeilen(zeichnung, s.mass, s.x + s.g.TextEinzug, y, schrift, zeilen);
 }
 
-void FrageZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+void FrageZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     RahmenZeichnen(zeichnung, s);
     if (HatWort(s.art)) {
         const Schrift schrift{Schriftart::Arial, 18.0F * s.g.Massstab, true};
         TextZentriert(zeichnung, s.mass, s.x + s.g.SpaltenBreite / 2.0F,
-                      s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->wort);
+                      s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->druckWort);
         return;
     }
     TeilerZeichnen(zeichnung, s);
@@ -109,33 +89,24 @@ void FrageZeichnen(Zeichnung& zeichnung, const Stelle& s) {
     }
 }
 
-void AntwortZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+void AntwortZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     if (!HatWort(s.art) && s.feld.antwortSichtbar) {
         FeldtextZeichnen(zeichnung, s, s.feld.antwort, s.y + s.g.AntwortOben + s.g.FrageHoehe, true);
     }
 }
 
 // Points of the cell's kind, or what stands for them.
-std::string Nummer(const Stelle& s) {
-    const auto oder = [&](bool gilt, int punkte) { return std::to_string(gilt ? punkte : s.zeile); };
-    const FKDruckdaten& d = s.daten;
-    switch (s.art == nullptr ? ' ' : s.art->buchstabe) {
-    case 'J':
-        return oder(d.punkteJ > 0, d.punkteJ);
-    case 'E':
-        return oder(d.punkteJ > 0, d.punkteE); // the Joker's points decide here too, and that is meant
-    case 'R':
-        return d.punkteR > 0 ? std::to_string(d.punkteR) : "?";
-    case 'G':
-        return oder(d.punkteG > 0, d.punkteG);
-    case 'A':
-        return oder(d.punkteA > 0, d.punkteA);
-    default:
+std::string Nummer(const Feldplatz& s) {
+    if (s.art == nullptr) {
         return std::to_string(s.zeile);
     }
+    if (s.daten.punkte[s.art->druckBedingung] > 0) {
+        return std::to_string(s.daten.punkte[s.art->art]);
+    }
+    return s.art->druckErsatz == Druckersatz::Fragezeichen ? "?" : std::to_string(s.zeile);
 }
 
-void NummerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
+void NummerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     if (!s.feld.frageSichtbar) {
         return; // not in play
     }
@@ -152,16 +123,16 @@ void NummerZeichnen(Zeichnung& zeichnung, const Stelle& s) {
 
 void FelderZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
                     const Schriftmass& mass) {
-    using Durchgang = void (*)(Zeichnung&, const Stelle&);
+    using Durchgang = void (*)(Zeichnung&, const Feldplatz&);
     for (const Durchgang durchgang :
          {Durchgang{FrageZeichnen}, Durchgang{AntwortZeichnen}, Durchgang{NummerZeichnen}}) {
         for (std::size_t n = 1; n < daten.felder.size(); ++n) {
             const std::size_t spalte = (n - 1) / 5;
             const std::size_t zeile = (n - 1) % 5;
             const FKDruckfeld& feld = daten.felder[n];
-            durchgang(zeichnung, Stelle{daten, g, mass, feld, ArtVon(feld), static_cast<int>(zeile) + 1,
-                                        g.RandLinks + static_cast<float>(spalte) * g.SpaltenRaster,
-                                        g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
+            durchgang(zeichnung, Feldplatz{daten, g, mass, feld, Feldart(feld), static_cast<int>(zeile) + 1,
+                                           g.RandLinks + static_cast<float>(spalte) * g.SpaltenRaster,
+                                           g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
         }
     }
 }

@@ -1,9 +1,6 @@
 #include "printing/pdfpfad.h"
 
 #include "core/pfadname.h"
-#include "core/zustand.h"
-#include "quizform/formdaten.h"
-#include "testform/formdaten.h"
 
 std::string PdfPfadZu(std::string_view formular, std::string_view ohneNamen) {
     if (formular.empty()) {
@@ -16,10 +13,7 @@ std::string PdfPfadZu(std::string_view formular, std::string_view ohneNamen) {
     return std::string(formular) + ".pdf";
 }
 
-std::string PdfPfadFK() {
-    return PdfPfadZu(FKDateiName, AppPfad + "\\KRANZ\\Feldkranz.pdf");
-}
-
-std::string PdfPfadHB() {
-    return PdfPfadZu(HBDateiName, AppPfad + "\\TEST\\Test.pdf");
+std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad) {
+    const std::string_view ohneNamen = art == Formart::Test ? "\\TEST\\Test.pdf" : "\\KRANZ\\Feldkranz.pdf";
+    return PdfPfadZu(formular, std::string(appPfad) + std::string(ohneNamen));
 }

@@ -2,6 +2,8 @@
 // the program's notation. Writes nothing.
 #pragma once
 
+#include "core/formart.h"
+
 #include <string>
 #include <string_view>
 
@@ -9,6 +11,5 @@
 // .pdf is never named.
 [[nodiscard]] std::string PdfPfadZu(std::string_view formular, std::string_view ohneNamen);
 
-// For the open quiz form and for the open test form.
-[[nodiscard]] std::string PdfPfadFK();
-[[nodiscard]] std::string PdfPfadHB();
+// For a form of that kind; one without a path lies in the folder of its kind under appPfad.
+[[nodiscard]] std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad);

@@ -4,9 +4,9 @@
 
 #include "printing/druckgeometrie.h"
 #include "printing/zeichnung.h"
+#include "rules/spezialart.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 struct FKDruckgebiet {
@@ -26,7 +26,7 @@ struct FKDruckdaten {
     std::string datum, zeit, nummer;
     std::array<FKDruckgebiet, 7> gebiete;
     std::array<FKDruckfeld, 31> felder;
-    std::int16_t punkteA = 0, punkteE = 0, punkteG = 0, punkteJ = 0, punkteR = 0;
+    Artwerte punkte;
     bool titelGrau = false;     // shading of the head strip
     bool gebieteGrau = false;   // shading of the area heads
     bool spezialFarbig = false; // shading of all five kinds of special fields

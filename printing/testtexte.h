@@ -1,7 +1,7 @@
 // The texts of printing a test: what stands on the page, what is asked and told on the way.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 // The texts of printing: what stands on the page, what is asked and told on the way.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <string_view>
 
@@ -13,8 +13,6 @@ inline constexpr std::string_view datum = "Datum :  ";
 inline constexpr std::string_view zeit = "Zeit :  ";
 inline constexpr std::string_view nummer = "Nr :  ";
 inline constexpr std::string_view keinTitel = "Wissen"; // caption of an area without a title
-inline constexpr std::string_view joker = "Joker";
-inline constexpr std::string_view ereignis = "Ereignis";
 
 // On the screen.
 inline constexpr std::string_view status = " Ich drucke das Fragenformular ...";

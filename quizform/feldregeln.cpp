@@ -44,3 +44,18 @@ void WissenRegelAnwenden(Feldsichten& sichten, int anzahlWissen) {
 bool GebietGeschlossen(int gebiet, int anzahlWissen) {
     return anzahlWissen >= 1 && anzahlWissen <= 5 && gebiet > anzahlWissen;
 }
+
+Feldsichten BrettSichten(const Spielwerte& spiel) {
+    Feldsichten sichten;
+    if (spiel.OptionMaxFelder) {
+        FragenRegelAnwenden(sichten, spiel.FragenProWissen);
+    }
+    if (spiel.OptionMaxWissen) {
+        WissenRegelAnwenden(sichten, spiel.AnzahlWissen);
+    }
+    return sichten;
+}
+
+bool GebietOffen(const Spielwerte& spiel, int gebiet) {
+    return !spiel.OptionMaxWissen || !GebietGeschlossen(gebiet, spiel.AnzahlWissen);
+}

@@ -2,7 +2,8 @@
 // only; hiding and clearing is the window's.
 #pragma once
 
-#include "quizform/formdaten.h"
+#include "quizform/quizformular.h"
+#include "rules/spielwerte.h"
 
 #include <array>
 
@@ -27,6 +28,11 @@ void FragenRegelAnwenden(Feldsichten& sichten, int fragenProWissen);
 
 // Rule of areas: hides the cells of the areas above anzahlWissen (1 to 5; other numbers hide nothing).
 void WissenRegelAnwenden(Feldsichten& sichten, int anzahlWissen);
+
+// Which cells are in play for the rules in force, with which of their controls: the board's shape.
+[[nodiscard]] Feldsichten BrettSichten(const Spielwerte& spiel);
+// True when the rules in force leave the area (1 to 6) open.
+[[nodiscard]] bool GebietOffen(const Spielwerte& spiel, int gebiet);
 
 // True when the area (1 to 6) is closed for that number of areas.
 [[nodiscard]] bool GebietGeschlossen(int gebiet, int anzahlWissen);

@@ -1,11 +1,12 @@
 // Where the controls of the quiz form stand, in which order Tab visits them and what they tell about
 // themselves.
 #include "core/oberflaeche.h"
-#include "periphery/hinweise.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 #include "quizform/texte.h"
+#include "rules/spezialfelder.h"
+#include "tooltips/hinweise.h"
 
 #include <algorithm>
 
@@ -135,7 +136,7 @@ void frmFKFragen::HinweiseSetzen() {
 }
 
 void frmFKFragen::SpezialTippsErneuern() {
-    const std::string tipp = fktexte::SpezialTipp();
+    const std::string tipp = SpezialTipp(Spiel);
     for (int n = 1; n <= anzahlFelder; ++n) {
         HinweisSetzen(pnlSpezial.at(Stelle(n)), tipp, "Feldkranz", fktexte::spezialStatus);
     }

@@ -2,9 +2,11 @@
 // untouched.
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/spezialfelder.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
 
 namespace {
 
@@ -17,8 +19,8 @@ void SpezialfeldLoeschen(frmFKFragen& form, int n) {
     Panel* punkte = form.pnlPunkte.at(Stelle(n));
     Textfeld* frage = form.txtFrage.at(Stelle(n));
     Textfeld* antwort = form.txtAntwort.at(Stelle(n));
-    const std::string buchstabe = Modelltext(spezial->caption());
-    if (buchstabe == "J" || buchstabe == "E") {
+    const auto art = ArtVon(Modelltext(spezial->caption()));
+    if (art && !ArtzeileVon(*art).frageMarke.empty()) {
         frage->setText(""); // the marker texts go, no stored text comes back
         antwort->setText("");
     }
@@ -26,7 +28,7 @@ void SpezialfeldLoeschen(frmFKFragen& form, int n) {
     MiniaturFaerben(n, farbeSilber);
     spezial->setFarben(QColor(), Qt::black);
     punkte->setFarben(QColor(), Qt::black);
-    punkte->setCaption(QString::number(FeldPunkte.at(Stelle(n))));
+    punkte->setCaption(QString::number(FKForm.FeldPunkte.at(Stelle(n))));
     for (Textfeld* feld : {frage, antwort}) {
         feld->setGrund(Qt::white);
         feld->setZentriert(false);
@@ -41,13 +43,11 @@ void FK_FragenLoeschen() {
     if (form == nullptr) {
         return;
     }
-    LoeschLauf = 1;
     for (int n = 1; n <= anzahlFelder; ++n) {
         FK_FeldLeeren(n);
     }
     FK_SpezialZaehlen();
-    FK_FelderFaerben();
-    LoeschLauf = 0;
+    AlleFaerben(*form, true);
     FK_EingabeGilt();
 }
 
@@ -68,7 +68,7 @@ void FK_SpezialEinfuegen() {
         return;
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
-        form->pnlSpezial.at(Stelle(n))->setCaption(Anzeige(FeldSpezial.at(Stelle(n))));
+        form->pnlSpezial.at(Stelle(n))->setCaption(Anzeige(FKForm.FeldSpezial.at(Stelle(n))));
     }
     FK_SpezialZaehlen();
     FK_FelderFaerben();

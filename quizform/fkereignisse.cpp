@@ -5,9 +5,9 @@
 #include "dialogs/meldung.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/spezialfelder.h"
-#include "quizform/texte.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
+#include "rules/spielwerte.h"
 
 #include <QAbstractItemView>
 
@@ -19,32 +19,22 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
-// What the cell shows is what its boxes took the focus with.
-void FokusTexteNehmen(frmFKFragen& form, int n) {
-    form.FokusFrage = form.txtFrage.at(Stelle(n))->text();
-    form.FokusAntwort = form.txtAntwort.at(Stelle(n))->text();
-}
-
 void TexteGelten(frmFKFragen& form, int n) {
-    FokusTexteNehmen(form, n);
-    form.AlteFrage = form.FokusFrage;
-    form.AlteAntwort = form.FokusAntwort;
+    form.Fokus = form.Alt = form.Texte(n);
 }
 
 void Merken() {
     FK_Merken();
     FK_FelderFaerben();
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
 }
 
 // Typed text reaches the stored copy when its box loses the focus with another text than the one it took it
 // with. A form that is closing loses it too, and must not count as changed any more.
 void NachAenderungMerken(frmFKFragen& form, int n) {
-    if (FKFragenOffen() != &form || (form.txtFrage.at(Stelle(n))->text() == form.AlteFrage &&
-                                     form.txtAntwort.at(Stelle(n))->text() == form.AlteAntwort)) {
-        return;
+    if (FKFragenOffen() == &form && form.Texte(n) != form.Alt) {
+        Merken();
     }
-    Merken();
 }
 
 // The cell whose question or answer has the focus in the form's window, 0 for none.
@@ -86,12 +76,12 @@ void WissenListeSchliessen(frmFKFragen& form) {
 }
 
 // True when the limits let the letter through; else the user is told and the panel reads empty.
-bool GrenzeErlaubt(Panel* panel, const std::string& buchstabe) {
-    const int art = SpezialIndex(buchstabe);
-    if (OptionMaxSpezial != 1 || art < 0 || !GrenzeErreicht(art)) {
+bool GrenzeErlaubt(const frmFKFragen& form, Panel* panel, const std::string& buchstabe) {
+    const auto art = ArtVon(buchstabe);
+    if (!Spiel.OptionMaxSpezial || !art || !GrenzeErreicht(Spiel, *art, form.SpezialAnzahl[*art])) {
         return true;
     }
-    Meldung(fktexte::grenze.at(Stelle(art)), {std::to_string(FelderGrenze(art))});
+    Meldung(ArtzeileVon(*art).grenze, {std::to_string(Spiel.Felder[*art])});
     // Meant: the old letter isn't restored, and the cell keeps its colours until the next repaint.
     panel->setCaption(QString());
     return false;
@@ -102,8 +92,7 @@ bool GrenzeErlaubt(Panel* panel, const std::string& buchstabe) {
 void FK_EingabeAbschliessen() {
     frmFKFragen* form = FKFragenOffen();
     const int n = form == nullptr ? 0 : FokusZelle(*form);
-    if (n > 0 && (form->txtFrage.at(Stelle(n))->text() != form->FokusFrage ||
-                  form->txtAntwort.at(Stelle(n))->text() != form->FokusAntwort)) {
+    if (n > 0 && form->Texte(n) != form->Fokus) {
         Merken();
         TexteGelten(*form, n);
     }
@@ -124,13 +113,13 @@ void ListenSchliessen(frmFKFragen& form) {
 
 void FeldEreignisseVerbinden(frmFKFragen& form) {
     for (Textzeile* zeile : {form.txtNr, form.txtDatum, form.txtZeit}) {
-        QObject::connect(zeile, &QLineEdit::textChanged, &form, [] { FormStatusSetzen(1); });
+        QObject::connect(zeile, &QLineEdit::textChanged, &form, [] { FormStatusSetzen(true); });
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
         Textfeld* antwort = form.txtAntwort.at(Stelle(n));
         for (Textfeld* feld : {frage, antwort}) {
-            QObject::connect(feld, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(1); });
+            QObject::connect(feld, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(true); });
             QObject::connect(feld, &Textfeld::fokusVerloren, &form,
                              [&form, n] { NachAenderungMerken(form, n); });
             QObject::connect(feld, &Textfeld::fokusUnterbrochen, &form, [] { FK_EingabeAbschliessen(); });
@@ -139,10 +128,10 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
             TextMarkieren(frage);
             TexteGelten(form, n);
         });
-        // Meant: the answer's own focus takes no AlteFrage and AlteAntwort.
+        // Meant: the answer's own focus renews Fokus only.
         QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [&form, n, antwort] {
             TextMarkieren(antwort);
-            FokusTexteNehmen(form, n);
+            form.Fokus = form.Texte(n);
         });
         QObject::connect(form.pnlSpezial.at(Stelle(n)), &Panel::geklickt, &form,
                          [&form, n] { SpezialListeOeffnen(form, n); });
@@ -151,7 +140,7 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
 
 void SpezialListeOeffnen(frmFKFragen& form, int feld) {
     ListenSchliessen(form);
-    AktuellesFeld = static_cast<std::int16_t>(feld);
+    form.AktuellesFeld = feld;
     Panel* panel = form.pnlSpezial.at(Stelle(feld));
     const std::string buchstabe = Modelltext(panel->caption());
     for (int i = 0; i < form.cmbSpezial->count(); ++i) {
@@ -164,29 +153,29 @@ void SpezialListeOeffnen(frmFKFragen& form, int feld) {
 
 void SpezialGewaehlt(frmFKFragen& form, int eintrag) {
     form.cmbSpezial->hide();
-    if (AktuellesFeld < 1 || eintrag < 0) {
+    if (form.AktuellesFeld < 1 || eintrag < 0) {
         return;
     }
     const std::string buchstabe = SpezialBuchstabe(Modelltext(form.cmbSpezial->itemText(eintrag)));
-    Panel* panel = form.pnlSpezial.at(Stelle(AktuellesFeld));
+    Panel* panel = form.pnlSpezial.at(Stelle(form.AktuellesFeld));
     panel->show();
     panel->setFocus(Qt::OtherFocusReason);
     if (buchstabe == Modelltext(panel->caption())) {
         return;
     }
     panel->setCaption(Anzeige(buchstabe));
-    if (!GrenzeErlaubt(panel, buchstabe)) {
+    if (!GrenzeErlaubt(form, panel, buchstabe)) {
         return;
     }
     FK_SpezialMerken();
     FK_SpezialFeldZaehlen();
     FK_FeldFaerben();
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
 }
 
 void WissenListeOeffnen(frmFKFragen& form, int gebiet) {
     ListenSchliessen(form);
-    AktuellesFeld = static_cast<std::int16_t>(gebiet);
+    form.AktuellesFeld = gebiet;
     Panel* panel = form.pnlWissen.at(Stelle(gebiet));
     form.cmbWissen->setCurrentIndex(form.cmbWissen->findText(panel->caption()));
     ListeZeigen(form, form.cmbWissen, panel, panel->width());
@@ -194,14 +183,14 @@ void WissenListeOeffnen(frmFKFragen& form, int gebiet) {
 
 void WissenGewaehlt(frmFKFragen& form, int eintrag) {
     form.cmbWissen->hide();
-    if (AktuellesFeld < 1 || AktuellesFeld > anzahlGebiete || eintrag < 0) {
+    if (form.AktuellesFeld < 1 || form.AktuellesFeld > anzahlGebiete || eintrag < 0) {
         return;
     }
-    Panel* panel = form.pnlWissen.at(Stelle(AktuellesFeld));
+    Panel* panel = form.pnlWissen.at(Stelle(form.AktuellesFeld));
     panel->setCaption(form.cmbWissen->itemText(eintrag));
     panel->show();
     panel->setFocus(Qt::OtherFocusReason);
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
 }
 
 void frmFKFragen::EreignisseVerbinden() {

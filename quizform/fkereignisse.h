@@ -15,3 +15,6 @@ void WissenListeOeffnen(frmFKFragen& form, int gebiet);
 void WissenGewaehlt(frmFKFragen& form, int eintrag);
 // Takes an open list away without a choice; the panels come back.
 void ListenSchliessen(frmFKFragen& form);
+
+// Repaints all cells from their letters; blanken: the texts that a blanking has taken away don't come back.
+void AlleFaerben(frmFKFragen& form, bool blanken);

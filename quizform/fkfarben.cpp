@@ -3,10 +3,12 @@
 #include "core/oberflaeche.h"
 #include "dialogs/meldung.h"
 #include "quizform/feldbild.h"
+#include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/texte.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
+#include "rules/spielwerte.h"
 
 namespace {
 
@@ -24,7 +26,7 @@ std::string Buchstabe(const frmFKFragen& form, int n) {
 }
 
 void RahmenZeigen(QWidget* rahmen, const std::optional<Farbe>& farbe) {
-    const bool zeigen = farbe.has_value() && OptionRahmen == 1;
+    const bool zeigen = farbe.has_value() && Spiel.OptionRahmen;
     if (zeigen) {
         QPalette farben = rahmen->palette();
         farben.setColor(QPalette::Window, Qfarbe(*farbe));
@@ -33,20 +35,20 @@ void RahmenZeigen(QWidget* rahmen, const std::optional<Farbe>& farbe) {
     rahmen->setVisible(zeigen);
 }
 
-// Marker texts stand whatever LoeschLauf says; the stored texts only while no blanking runs.
-void TexteSetzen(frmFKFragen& form, int n, const FeldBild& bild) {
+// Marker texts stand also while a blanking runs, the stored texts don't.
+void TexteSetzen(frmFKFragen& form, int n, const FeldBild& bild, bool blanken) {
     if (!bild.frageMarke.empty()) {
         form.txtFrage.at(Stelle(n))->setText(bild.frageMarke);
         form.txtAntwort.at(Stelle(n))->setText(bild.antwortMarke);
-    } else if (LoeschLauf == 0) {
-        form.txtFrage.at(Stelle(n))->setText(FrageText.at(Stelle(n)));
-        form.txtAntwort.at(Stelle(n))->setText(AntwortText.at(Stelle(n)));
+    } else if (!blanken) {
+        form.txtFrage.at(Stelle(n))->setText(FKForm.FrageText.at(Stelle(n)));
+        form.txtAntwort.at(Stelle(n))->setText(FKForm.AntwortText.at(Stelle(n)));
     }
 }
 
-void Faerben(frmFKFragen& form, int n, bool einzeln) {
+void Faerben(frmFKFragen& form, int n, bool einzeln, bool blanken) {
     const std::string buchstabe = Buchstabe(form, n);
-    TexteSetzen(form, n, FeldBildFuer(buchstabe, false, einzeln));
+    TexteSetzen(form, n, FeldBildFuer(buchstabe, false, einzeln), blanken);
     const bool leer = form.txtFrage.at(Stelle(n))->text().empty();
     const FeldBild bild = FeldBildFuer(buchstabe, leer, einzeln);
     form.pnlSpezial.at(Stelle(n))->setFarben(Grund(bild.spezialGrund), Qfarbe(bild.spezialSchrift));
@@ -59,36 +61,43 @@ void Faerben(frmFKFragen& form, int n, bool einzeln) {
 }
 
 void PunkteMalen(frmFKFragen& form, int n) {
-    const PunkteBild bild = PunkteBildFuer(Buchstabe(form, n), FeldPunkte.at(Stelle(n)));
+    const PunkteBild bild = PunkteBildFuer(Spiel, Buchstabe(form, n), FKForm.FeldPunkte.at(Stelle(n)));
     Panel* panel = form.pnlPunkte.at(Stelle(n));
     panel->setCaption(Anzeige(bild.caption));
     panel->setFarben(Grund(bild.grund), Qfarbe(bild.schrift));
 }
 
-void Zaehlen(const frmFKFragen& form) {
-    std::array<std::string, anzahlFelder + 1> buchstaben;
+void Zaehlen(frmFKFragen& form) {
+    std::vector<std::string> buchstaben;
     for (int n = 1; n <= anzahlFelder; ++n) {
-        buchstaben.at(Stelle(n)) = Buchstabe(form, n);
+        buchstaben.push_back(Buchstabe(form, n));
     }
-    SpezialAnzahlZaehlen(buchstaben);
+    form.SpezialAnzahl = SpezialAnzahl(buchstaben);
+}
+
+bool FeldDa(const frmFKFragen* form) {
+    return form != nullptr && form->AktuellesFeld >= 1 && form->AktuellesFeld <= anzahlFelder;
 }
 
 } // namespace
 
+void AlleFaerben(frmFKFragen& form, bool blanken) {
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        Faerben(form, n, false, blanken);
+    }
+}
+
 void FK_FelderFaerben() {
     frmFKFragen* form = FKFragenOffen();
-    if (form == nullptr) {
-        return;
-    }
-    for (int n = 1; n <= anzahlFelder; ++n) {
-        Faerben(*form, n, false);
+    if (form != nullptr) {
+        AlleFaerben(*form, false);
     }
 }
 
 void FK_FeldFaerben() {
     frmFKFragen* form = FKFragenOffen();
-    if (form != nullptr && AktuellesFeld >= 1 && AktuellesFeld <= anzahlFelder) {
-        Faerben(*form, AktuellesFeld, true);
+    if (FeldDa(form)) {
+        Faerben(*form, form->AktuellesFeld, true, false);
     }
 }
 
@@ -109,26 +118,43 @@ void FK_SpezialFeldZaehlen() {
     if (form == nullptr) {
         return;
     }
-    if (AktuellesFeld >= 1 && AktuellesFeld <= anzahlFelder) {
-        PunkteMalen(*form, AktuellesFeld);
+    if (FeldDa(form)) {
+        PunkteMalen(*form, form->AktuellesFeld);
     }
     Zaehlen(*form);
     FK_RegelHinweis();
 }
 
 void FK_SpezialMerken() {
-    frmFKFragen* form = FKFragenOffen();
-    if (form != nullptr && AktuellesFeld >= 1 && AktuellesFeld <= anzahlFelder) {
-        FeldSpezial.at(Stelle(AktuellesFeld)) = Buchstabe(*form, AktuellesFeld);
+    const frmFKFragen* form = FKFragenOffen();
+    if (FeldDa(form)) {
+        FKForm.FeldSpezial.at(Stelle(form->AktuellesFeld)) = Buchstabe(*form, form->AktuellesFeld);
     }
 }
 
 void FK_RegelHinweis() {
-    if (OptionMaxSpezial != 1) {
+    // No key is ever noted: the hint never speaks, and that is meant.
+    constexpr char regelTaste = '\0';
+    const frmFKFragen* form = FKFragenOffen();
+    if (form == nullptr || !Spiel.OptionMaxSpezial) {
         return;
     }
-    const int art = FaelligerRegelHinweis();
-    if (art >= 0) {
-        Meldung(fktexte::hinweis.at(Stelle(art)));
+    if (const auto art = FaelligerRegelHinweis(regelTaste, form->SpezialAnzahl)) {
+        Meldung(ArtzeileVon(*art).hinweis);
+    }
+}
+
+void FK_Auffrischen() {
+    FK_SpezialMerken();
+    FK_SpezialZaehlen();
+    FK_FelderFaerben();
+    if (frmFKFragen* form = FKFragenOffen(); form != nullptr) {
+        form->SpezialTippsErneuern(); // they name the limits
+    }
+}
+
+void FK_HintergrundMalen(int farbe) {
+    if (frmFKFragen* form = FKFragenOffen(); form != nullptr) {
+        form->HintergrundMalen(farbe);
     }
 }

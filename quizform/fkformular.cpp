@@ -1,16 +1,11 @@
 #include "quizform/fkformular.h"
 
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
-#include "dialogs/meldung.h"
-#include "filetools/formularliste.h"
-#include "persistence/speichern.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/texte.h"
-#include "settings/einstellungen.h"
-#include "testform/hbformular.h"
+#include "rules/spielwerte.h"
 
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -19,15 +14,36 @@ namespace {
 
 QPointer<frmFKFragen> fenster;
 
+// What others may do with the open quiz form.
+class FKSicht : public Formularfenster {
+public:
+    [[nodiscard]] Formart art() const override { return Formart::Quiz; }
+    [[nodiscard]] QWidget* fenster() override { return FKFragenOffen(); }
+    void NachVorn() override { FK_NachVorn(); }
+    void TitelSetzen(std::string_view titel) override { FK_FenstertitelSetzen(titel); }
+    bool Schliessen() override { return FK_Schliessen(); }
+    void Entladen() override { FK_Entladen(); }
+    void EingabeAbschliessen() override { FK_EingabeAbschliessen(); }
+    void Merken() override { FK_Merken(); }
+    void KopfMerken() override { FK_KopfMerken(); }
+    void Faerben() override { FK_FelderFaerben(); }
+    void FeldLeeren(int feld) override { FK_FeldLeeren(feld); }
+};
+
+FKSicht& Sicht() {
+    static FKSicht sicht;
+    return sicht;
+}
+
 std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
-void Freigeben() {
+void Freigeben(const FKAnlass& anlass) {
     fenster = nullptr;
-    FormTyp.clear();
-    FKDateiName.clear();
-    BefehleFKFreigeben(false);
+    FormularAbmelden(Sicht());
+    anlass.geschlossen();
+    BefehleFreigeben(Formart::Quiz, false);
 }
 
 void Platzieren() {
@@ -44,23 +60,27 @@ QWidget* Rahmen() {
     return qobject_cast<QMdiSubWindow*>(rahmen) != nullptr ? rahmen : fenster.data();
 }
 
-// The window, made on first touch.
-frmFKFragen& Fenster() {
-    if (fenster.isNull()) {
-        fenster = new frmFKFragen; // owned by the child window that takes it
-        QObject::connect(fenster, &frmFKFragen::geschlossen, fenster, [] { Freigeben(); });
-        Platzieren();
-        BefehleFKFreigeben(true);
-        FK_FragenRegel();
-        FK_WissenRegel();
-    }
-    return *fenster;
-}
-
 void TitelFuellen(frmFKFragen& form) {
     for (int a = 1; a <= anzahlGebiete; ++a) {
-        form.pnlWissen.at(Stelle(a))->setCaption(Anzeige(WissenTitel.at(Stelle(a))));
+        form.pnlWissen.at(Stelle(a))->setCaption(Anzeige(FKForm.WissenTitel.at(Stelle(a))));
     }
+}
+
+void TexteAblesen(const frmFKFragen& form, Quizformular& ziel) {
+    for (int a = 1; a <= anzahlGebiete; ++a) {
+        ziel.WissenTitel.at(Stelle(a)) = Modelltext(form.pnlWissen.at(Stelle(a))->caption());
+    }
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        ziel.FrageText.at(Stelle(n)) = form.txtFrage.at(Stelle(n))->text();
+        ziel.AntwortText.at(Stelle(n)) = form.txtAntwort.at(Stelle(n))->text();
+        ziel.FeldSpezial.at(Stelle(n)) = Modelltext(form.pnlSpezial.at(Stelle(n))->caption());
+    }
+}
+
+void KopfAblesen(const frmFKFragen& form, Quizformular& ziel) {
+    ziel.FormNr = form.txtNr->wert();
+    ziel.FormDatum = form.txtDatum->wert();
+    ziel.FormZeit = form.txtZeit->wert();
 }
 
 } // namespace
@@ -69,35 +89,17 @@ frmFKFragen* FKFragenOffen() {
     return fenster;
 }
 
-void FK_Neu() {
-    NachrichtAntwort = antwortAbbrechen;
-    if (Nachricht(fktexte::neu) == antwortAbbrechen) {
-        return;
+frmFKFragen& FK_Fenster(const FKAnlass& anlass) {
+    if (fenster.isNull()) {
+        fenster = new frmFKFragen(anlass.darfSchliessen); // owned by the child window that takes it
+        QObject::connect(fenster, &frmFKFragen::geschlossen, fenster, [anlass] { Freigeben(anlass); });
+        FormularAnmelden(Sicht());
+        Platzieren();
+        BefehleFreigeben(Formart::Quiz, true);
+        FK_FragenRegel();
+        FK_WissenRegel();
     }
-    if (FormGeaendert == 1) {
-        NachrichtAntwort = antwortAbbrechen;
-        if (Nachricht(fktexte::neuSpeichern) == antwortAbbrechen) {
-            return;
-        }
-        if (NachrichtAntwort == antwortJa) {
-            FK_Merken();
-            HB_Merken(); // does nothing while there is no test form
-            if (!Speichern()) {
-                return; // a save that did not come about counts as Abbrechen
-            }
-        }
-    }
-    FK_Entladen();
-    HB_Entladen(); // only one form can be open
-    FK_ModusSetzen();
-    FK_Leeren();
-    DateiName.clear();
-    FKDateiName.clear();
-    Fenster().show();
-    KindNachVorn("FKFragen");
-    FK_FenstertitelSetzen(fktexte::neuerTitel);
-    FormularlisteTastenSetzen("FK");
-    FormStatusSetzen(0);
+    return *fenster;
 }
 
 void FK_Entladen() {
@@ -105,8 +107,7 @@ void FK_Entladen() {
         return;
     }
     QWidget* alt = Rahmen();
-    fenster->disconnect();
-    Freigeben();
+    Q_EMIT fenster->geschlossen();
     delete alt;
 }
 
@@ -117,59 +118,45 @@ bool FK_Schliessen() {
     return fenster.isNull();
 }
 
-void FK_ModusSetzen() {
-    try {
-        ModusFK();
-    } catch (const Laufzeitfehler& fehler) {
-        // A shape whose product fits no counter would keep every new form away: the full board takes its
-        // place.
-        FehlerMelden("FK : FK_ModusSetzen", fehler);
-        AnzahlWissen = FragenProWissen = 0;
-        ModusFK();
+void FK_FormularZeigen() {
+    frmFKFragen* form = fenster;
+    if (form == nullptr) {
+        return;
     }
-}
-
-void FK_FormularZeigen(std::string_view titel) {
-    frmFKFragen& form = Fenster();
-    ListenSchliessen(form);
+    ListenSchliessen(*form);
     FK_AlleFelderZeigen();
     for (int n = 1; n <= anzahlFelder; ++n) {
-        form.pnlSpezial.at(Stelle(n))->setCaption(QString()); // no marker text of a former form stays
+        form->pnlSpezial.at(Stelle(n))->setCaption(QString()); // no marker text of a former form stays
     }
-    form.txtNr->setWert(FormNr);
-    form.txtDatum->setWert(FormDatum);
-    form.txtZeit->setWert(FormZeit);
-    form.HintergrundMalen(FarbeHintergrund);
-    form.SpezialTippsErneuern();
+    form->txtNr->setWert(FKForm.FormNr);
+    form->txtDatum->setWert(FKForm.FormDatum);
+    form->txtZeit->setWert(FKForm.FormZeit);
+    form->HintergrundMalen(Spiel.FarbeHintergrund);
+    form->SpezialTippsErneuern();
     FK_FragenEinfuegen();
     FK_FragenRegel();
     FK_WissenRegel();
     FK_SpezialEinfuegen();
-    FK_FenstertitelSetzen(titel);
-    form.show();
-    KindNachVorn("FKFragen");
 }
 
-void FK_Zeigen() {
-    if (fenster.isNull()) {
-        FK_ModusSetzen();
-        Fenster();
-        FK_FenstertitelSetzen(fktexte::neuerTitel);
-        FormStatusSetzen(0);
+void FK_NachVorn() {
+    if (!fenster.isNull()) {
+        fenster->show();
+        KindNachVorn(fenster);
     }
-    Fenster().show();
-    KindNachVorn("FKFragen");
 }
 
 void FK_FenstertitelSetzen(std::string_view titel) {
-    frmFKFragen* form = fenster;
-    if (form != nullptr) {
-        form->setWindowTitle(Anzeige(titel));
+    if (!fenster.isNull()) {
+        fenster->setWindowTitle(Anzeige(titel));
     }
 }
 
 void FK_Leeren() {
-    frmFKFragen& form = Fenster();
+    frmFKFragen* form = fenster;
+    if (form == nullptr) {
+        return;
+    }
     FK_KopfLeeren();
     FK_TitelLeeren();
     FK_FragenLoeschen();
@@ -177,9 +164,7 @@ void FK_Leeren() {
     FK_KopfMerken();
     FK_SpezialLoeschen();
     FK_SpezialMerken();
-    for (std::string* text : {&form.AlteFrage, &form.AlteAntwort, &form.FokusFrage, &form.FokusAntwort}) {
-        text->clear();
-    }
+    form->Alt = form->Fokus = {};
 }
 
 void FK_KopfLeeren() {
@@ -198,34 +183,30 @@ void FK_TitelLeeren() {
         return;
     }
     for (int a = 1; a <= anzahlGebiete; ++a) {
-        WissenTitel.at(Stelle(a)).clear();
+        FKForm.WissenTitel.at(Stelle(a)).clear();
         form->pnlWissen.at(Stelle(a))->setCaption(QStringLiteral("Wissen"));
     }
 }
 
 void FK_Merken() {
-    frmFKFragen* form = fenster;
-    if (form == nullptr) {
-        return;
-    }
-    for (int a = 1; a <= anzahlGebiete; ++a) {
-        WissenTitel.at(Stelle(a)) = Modelltext(form->pnlWissen.at(Stelle(a))->caption());
-    }
-    for (int n = 1; n <= anzahlFelder; ++n) {
-        FrageText.at(Stelle(n)) = form->txtFrage.at(Stelle(n))->text();
-        AntwortText.at(Stelle(n)) = form->txtAntwort.at(Stelle(n))->text();
-        FeldSpezial.at(Stelle(n)) = Modelltext(form->pnlSpezial.at(Stelle(n))->caption());
+    if (!fenster.isNull()) {
+        TexteAblesen(*fenster, FKForm);
     }
 }
 
 void FK_KopfMerken() {
-    frmFKFragen* form = fenster;
-    if (form == nullptr) {
-        return;
+    if (!fenster.isNull()) {
+        KopfAblesen(*fenster, FKForm);
     }
-    FormNr = form->txtNr->wert();
-    FormDatum = form->txtDatum->wert();
-    FormZeit = form->txtZeit->wert();
+}
+
+Quizformular FK_Ablesen() {
+    Quizformular form = FKForm;
+    if (!fenster.isNull()) {
+        TexteAblesen(*fenster, form);
+        KopfAblesen(*fenster, form);
+    }
+    return form;
 }
 
 void FK_FragenEinfuegen() {
@@ -235,15 +216,15 @@ void FK_FragenEinfuegen() {
     }
     TitelFuellen(*form);
     for (int n = 1; n <= anzahlFelder; ++n) {
-        form->txtFrage.at(Stelle(n))->setText(FrageText.at(Stelle(n)));
-        form->txtAntwort.at(Stelle(n))->setText(AntwortText.at(Stelle(n)));
+        form->txtFrage.at(Stelle(n))->setText(FKForm.FrageText.at(Stelle(n)));
+        form->txtAntwort.at(Stelle(n))->setText(FKForm.AntwortText.at(Stelle(n)));
     }
     FK_SpezialZaehlen();
     FK_FelderFaerben();
     FK_EingabeGilt();
 }
 
-void FK_TitellisteFuellen(const std::array<std::string, anzahlListenplaetze + 1>& liste) {
+void FK_TitellisteFuellen(const Namensliste& liste) {
     frmFKFragen* form = fenster;
     if (form == nullptr) {
         return;

@@ -5,7 +5,7 @@
 #include "quizform/feldregeln.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 
 namespace {
 
@@ -35,12 +35,12 @@ void VerborgeneLeeren(frmFKFragen& form) {
         if (!form.txtFrage.at(Stelle(n))->isHidden()) {
             continue;
         }
-        FeldSpezial.at(Stelle(n)).clear();
+        FKForm.FeldSpezial.at(Stelle(n)).clear();
         form.pnlSpezial.at(Stelle(n))->setCaption(QString());
         form.txtFrage.at(Stelle(n))->setText("");
-        FrageText.at(Stelle(n)).clear();
+        FKForm.FrageText.at(Stelle(n)).clear();
         form.txtAntwort.at(Stelle(n))->setText("");
-        AntwortText.at(Stelle(n)).clear();
+        FKForm.AntwortText.at(Stelle(n)).clear();
         form.shpFrage.at(Stelle(n))->hide();
         MiniaturFaerben(n, std::nullopt);
     }
@@ -71,14 +71,30 @@ void FK_AlleSpezialZeigen() {
     }
 }
 
+void FK_VorgabenAnwenden() {
+    frmFKFragen* form = FKFragenOffen();
+    if (form == nullptr) {
+        return;
+    }
+    // A list that still stands open over a cell or a title belongs to a board that is gone.
+    form->cmbSpezial->hide();
+    form->cmbWissen->hide();
+    for (int a = 1; a <= anzahlGebiete; ++a) {
+        form->pnlWissen.at(Stelle(a))->show();
+    }
+    FK_AlleFelderZeigen();
+    FK_FragenRegel();
+    FK_WissenRegel();
+}
+
 void FK_FragenRegel() {
     frmFKFragen* form = FKFragenOffen();
-    if (form == nullptr || OptionMaxFelder != 1) {
+    if (form == nullptr || !Spiel.OptionMaxFelder) {
         return;
     }
     FK_AlleFelderZeigen();
     Feldsichten sichten;
-    FragenRegelAnwenden(sichten, FragenProWissen);
+    FragenRegelAnwenden(sichten, Spiel.FragenProWissen);
     SichtenAnwenden(*form, sichten);
     VerborgeneLeeren(*form);
 }
@@ -89,16 +105,16 @@ void FK_WissenRegel() {
         return;
     }
     for (int a = 1; a <= anzahlGebiete; ++a) {
-        const bool zu = OptionMaxWissen == 1 && GebietGeschlossen(a, AnzahlWissen);
+        const bool zu = Spiel.OptionMaxWissen && GebietGeschlossen(a, Spiel.AnzahlWissen);
         Panel* titel = form->pnlWissen.at(Stelle(a));
         titel->setEnabled(!zu);
         if (zu) {
             titel->setCaption(QStringLiteral("Wissen"));
         }
     }
-    if (OptionMaxWissen == 1) {
+    if (Spiel.OptionMaxWissen) {
         Feldsichten sichten;
-        WissenRegelAnwenden(sichten, AnzahlWissen);
+        WissenRegelAnwenden(sichten, Spiel.AnzahlWissen);
         SichtenAnwenden(*form, sichten);
     }
     VerborgeneLeeren(*form);
@@ -106,12 +122,12 @@ void FK_WissenRegel() {
 
 void FK_SpezialRegel() {
     frmFKFragen* form = FKFragenOffen();
-    if (form == nullptr || OptionMaxFelder != 1) {
+    if (form == nullptr || !Spiel.OptionMaxFelder) {
         return;
     }
     FK_AlleSpezialZeigen();
     Feldsichten sichten;
-    FragenRegelAnwenden(sichten, FragenProWissen);
+    FragenRegelAnwenden(sichten, Spiel.FragenProWissen);
     for (int n = 1; n <= anzahlFelder; ++n) {
         Verbergen(form->pnlSpezial.at(Stelle(n)), sichten.at(Stelle(n)).spezial);
     }
@@ -124,7 +140,7 @@ void FK_SpezialWissenRegel() {
     }
     // Meant: unlike the rule of areas this one doesn't ask whether the rule is in force.
     Feldsichten sichten;
-    WissenRegelAnwenden(sichten, AnzahlWissen);
+    WissenRegelAnwenden(sichten, Spiel.AnzahlWissen);
     for (int n = 1; n <= anzahlFelder; ++n) {
         Verbergen(form->pnlSpezial.at(Stelle(n)), sichten.at(Stelle(n)).spezial);
     }

@@ -1,6 +1,4 @@
 // Questions that leave a cell of the quiz form and questions that land in one.
-#include "catalogue/auswahl.h"
-#include "core/ablage.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/ziehen.h"
@@ -19,23 +17,18 @@ std::size_t Stelle(int n) {
 
 // A press on the question of cell n. True when it was more than an ordinary click.
 bool Druck(frmFKFragen& form, int n, Qt::KeyboardModifiers tasten) {
-    DragHerkunft = "FKFragen";
     Textfeld* frage = form.txtFrage.at(Stelle(n));
     const std::string buchstabe = Modelltext(form.pnlSpezial.at(Stelle(n))->caption());
-    const ZiehBeginn beginn =
-        ZiehBeginnFuer(tasten.testFlag(Qt::ShiftModifier), tasten.testFlag(Qt::ControlModifier),
-                       tasten.testFlag(Qt::AltModifier), buchstabe, frage->text().empty());
-    if (beginn.ablehnung != nullptr) {
+    const Ziehbeginn beginn = FeldZiehbeginn(ZugartFuer(tasten), buchstabe, frage->text().empty());
+    if (beginn.ablehnung) {
         Meldung(*beginn.ablehnung);
         return true;
     }
-    if (beginn.art == 0) {
+    if (!beginn.art) {
         return false;
     }
     frage->setFocus(Qt::MouseFocusReason);
-    DragArt = beginn.art;
-    DragFeld = static_cast<std::int16_t>(n);
-    Ziehen(frage, frage->text());
+    Ziehen(frage, {*beginn.art, Formart::Quiz, n, frage->text(), FK_Antwort(n)});
     return true;
 }
 
@@ -45,7 +38,7 @@ void ZiehenVerbinden(frmFKFragen& form) {
     for (int n = 1; n <= anzahlFelder; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
         DruckEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { return Druck(form, n, tasten); });
-        ZielEinrichten(frage, ZiehBild::Ablegen, [n] { FK_Ablegen(n, GezogeneFrage()); });
+        ZielEinrichten(frage, ZiehBild::Ablegen, [n](const Ziehwert& wert) { FK_Ablegen(n, wert); });
         TastenEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { Druck(form, n, tasten); });
         KeinZiel(form.txtAntwort.at(Stelle(n)));
         KeinZiel(form.pnlSpezial.at(Stelle(n)));
@@ -61,7 +54,7 @@ void ZiehenVerbinden(frmFKFragen& form) {
     }
 }
 
-void FK_Ablegen(int n, const std::string& frage) {
+void FK_Ablegen(int n, const Ziehwert& wert) {
     frmFKFragen* form = FKFragenOffen();
     if (form == nullptr || n < 1 || n > anzahlFelder) {
         return;
@@ -70,19 +63,13 @@ void FK_Ablegen(int n, const std::string& frage) {
     if (!FK_Frage(n).empty() && !ErsetzenErlaubt(fktexte::feldBesetzt)) {
         return;
     }
-    const bool ausForm = DragArt == 1 || DragArt == 2;
-    const std::string antwort =
-        !ausForm ? AuswahlAntwort() : (DragFeld == 0 ? AblageAntwort() : FK_Antwort(DragFeld));
-    form->txtFrage.at(Stelle(n))->setText(frage);
-    form->txtAntwort.at(Stelle(n))->setText(antwort);
-    if (DragArt == 1) {
+    form->txtFrage.at(Stelle(n))->setText(wert.frage);
+    form->txtAntwort.at(Stelle(n))->setText(wert.antwort);
+    if (wert.art == Zugart::Verschieben) {
         // Meant: a cell dropped on itself loses its question here.
-        FK_FeldLeeren(DragFeld);
-    }
-    if (ausForm) {
-        DragArt = 0;
+        FK_FeldLeeren(wert.feld);
     }
     FK_Merken();
     FK_FelderFaerben();
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
 }

@@ -1,4 +1,4 @@
-// What drags, the trash and the printing ask of the open form.
+// What drags and the trash ask of the open form.
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 
@@ -28,19 +28,4 @@ void FK_FeldLeeren(int n) {
         form->txtFrage.at(Stelle(n))->setText("");
         form->txtAntwort.at(Stelle(n))->setText("");
     }
-}
-
-bool FK_FrageSichtbar(int n) {
-    const frmFKFragen* form = FKFragenOffen();
-    return form != nullptr && !form->txtFrage.at(Stelle(n))->isHidden();
-}
-
-bool FK_AntwortSichtbar(int n) {
-    const frmFKFragen* form = FKFragenOffen();
-    return form != nullptr && !form->txtAntwort.at(Stelle(n))->isHidden();
-}
-
-bool FK_GebietBenutzbar(int a) {
-    const frmFKFragen* form = FKFragenOffen();
-    return form != nullptr && form->pnlWissen.at(Stelle(a))->isEnabled();
 }

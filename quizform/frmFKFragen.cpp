@@ -2,14 +2,14 @@
 
 #include "catalogue/katalogladen.h"
 #include "core/bilder.h"
+#include "core/formularfenster.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
-#include "persistence/speichern.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
-#include "quizform/spezialfelder.h"
 #include "quizform/texte.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialfelder.h"
+#include "rules/spielwerte.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -28,14 +28,13 @@ QString Name(const char* feld, int n) {
 
 } // namespace
 
-frmFKFragen::frmFKFragen() {
-    FK_Vorgaben();
+frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_(std::move(darfSchliessen)) {
     setObjectName(QStringLiteral("frmFKFragen"));
-    setProperty("tag", QStringLiteral("FKFragen"));
+    setProperty("tag", Anzeige(Fensterzeichen(Formart::Quiz)));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
     for (int n = 1; n <= anzahlFelder; ++n) {
-        FeldPunkte.at(Stelle(n)) = static_cast<std::int16_t>(ZeileVon(n));
+        FKForm.FeldPunkte.at(Stelle(n)) = static_cast<std::int16_t>(ZeileVon(n));
     }
     KopfBauen();
     TitelBauen();
@@ -46,10 +45,10 @@ frmFKFragen::frmFKFragen() {
     BilderBauen();
     Anordnen(FormMasseFuer(HolAuflösungX()));
     TabfolgeSetzen();
-    if (FarbeHintergrund == 0) {
-        FarbeHintergrund = 7;
+    if (Spiel.FarbeHintergrund == 0) {
+        Spiel.FarbeHintergrund = 7;
     }
-    HintergrundMalen(FarbeHintergrund);
+    HintergrundMalen(Spiel.FarbeHintergrund);
     HinweiseSetzen();
     EreignisseVerbinden();
 }
@@ -60,6 +59,10 @@ int frmFKFragen::HolAuflösungX() const {
 
 int frmFKFragen::HolAuflösungY() const {
     return Bildschirmgroesse(this).height();
+}
+
+frmFKFragen::Zelltexte frmFKFragen::Texte(int n) const {
+    return {txtFrage.at(Stelle(n))->text(), txtAntwort.at(Stelle(n))->text()};
 }
 
 void frmFKFragen::HintergrundMalen(int farbe) {
@@ -110,7 +113,7 @@ void frmFKFragen::FeldBauen(int n) {
     rahmen->hide();
     shpFrage.at(Stelle(n)) = rahmen;
     auto* punkte = new Panel(this, Name("pnlPunkte", n));
-    punkte->setCaption(QString::number(FeldPunkte.at(Stelle(n))));
+    punkte->setCaption(QString::number(FKForm.FeldPunkte.at(Stelle(n))));
     pnlPunkte.at(Stelle(n)) = punkte;
     auto* spezial = new Panel(this, Name("pnlSpezial", n));
     spezial->setFocusPolicy(Qt::TabFocus);
@@ -127,7 +130,7 @@ void frmFKFragen::ListenBauen() {
     cmbSpezial = new QComboBox(this);
     cmbSpezial->setObjectName(QStringLiteral("cmbSpezial"));
     cmbSpezial->setAccessibleName(QStringLiteral("Spezialfeld"));
-    for (const std::string_view eintrag : spezialListe) {
+    for (const std::string_view eintrag : Spezialliste()) {
         cmbSpezial->addItem(Anzeige(eintrag));
     }
     cmbSpezial->hide();
@@ -138,7 +141,7 @@ void frmFKFragen::ListenBauen() {
     ThemenLaden();
     cmbWissen->addItem(QString());
     for (int i = 1; i <= anzahlListenplaetze; ++i) {
-        cmbWissen->addItem(Anzeige(ThemenListe.at(Stelle(i))));
+        cmbWissen->addItem(Anzeige(Katalog.ThemenListe.at(Stelle(i))));
     }
     cmbWissen->hide();
 }
@@ -156,7 +159,7 @@ void frmFKFragen::BilderBauen() {
 }
 
 void frmFKFragen::closeEvent(QCloseEvent* ereignis) {
-    if (SchliessenPruefen("FKFragen") == 1) {
+    if (!darfSchliessen_()) {
         ereignis->ignore();
         return;
     }

@@ -5,14 +5,16 @@
 
 #include "core/panel.h"
 #include "core/textfeld.h"
-#include "quizform/formdaten.h"
 #include "quizform/formmasse.h"
+#include "quizform/quizformular.h"
+#include "rules/spezialart.h"
 
 #include <QComboBox>
 #include <QPushButton>
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <string>
 
 template <typename Steuerelement>
@@ -22,7 +24,8 @@ class frmFKFragen : public QWidget {
     Q_OBJECT
 
 public:
-    frmFKFragen();
+    // darfSchliessen is asked before the window closes.
+    explicit frmFKFragen(std::function<bool()> darfSchliessen);
 
     // Width and height of the screen in pixels.
     [[nodiscard]] int HolAuflösungX() const;
@@ -53,12 +56,20 @@ public:
     QComboBox* cmbWissen = nullptr;
     QPushButton* cmdFKSchliessen = nullptr;
 
-    // Texts of the cell at the moment its question took the focus.
-    std::string AlteFrage;
-    std::string AlteAntwort;
-    // The same for either box of a cell, renewed when its text has been merged or a command has set it.
-    std::string FokusFrage;
-    std::string FokusAntwort;
+    // Texts of the cell at the moment its question took the focus; the same for either box of a cell, renewed
+    // when its text has been merged or a command has set it.
+    struct Zelltexte {
+        std::string frage, antwort;
+        friend bool operator==(const Zelltexte&, const Zelltexte&) = default;
+    };
+    Zelltexte Alt, Fokus;
+    [[nodiscard]] Zelltexte Texte(int n) const;
+
+    // The cell, or the area, over which a list was opened last.
+    int AktuellesFeld = 0;
+    // Cells of each kind as of the last count. Only the counting routines write it, and the limit test reads
+    // it as it stands.
+    Artwerte SpezialAnzahl;
 
 Q_SIGNALS:
     // The window has been closed after its check and is about to go.
@@ -77,4 +88,6 @@ private:
     void TabfolgeSetzen();
     void HinweiseSetzen();
     void EreignisseVerbinden();
+
+    std::function<bool()> darfSchliessen_;
 };

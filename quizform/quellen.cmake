@@ -1,8 +1,6 @@
 feldkranz_quellen(modell
   quizform/feldbild.cpp
   quizform/feldregeln.cpp
-  quizform/spezialfelder.cpp
-  quizform/texte.cpp
   quizform/ziehregeln.cpp)
 feldkranz_quellen(fenster
   quizform/fkanordnung.cpp

@@ -1,11 +1,8 @@
 // Every text with which the quiz form speaks: messages, questions, tips, status lines.
 #pragma once
 
-#include "dialogs/texte.h"
-#include "quizform/spezialfelder.h"
+#include "core/meldungstext.h"
 
-#include <array>
-#include <string>
 #include <string_view>
 
 namespace fktexte {
@@ -18,17 +15,9 @@ inline constexpr NachrichtText neuSpeichern{7, "Neues Feldkranz-Formular",
                                             "Soll ich das vorhandene Formular vorher speichern ?", 2, 1111};
 inline constexpr std::string_view neuerTitel = " Neues Feldkranz-Formular";
 
-struct ZiehTexte {
-    MeldungsText joker;
-    MeldungsText ereignis;
-    MeldungsText leer;
-};
-inline constexpr ZiehTexte verschieben{{5, "Joker kann nicht verschoben werden.", "39", "Aha"},
-                                       {5, "Ereignis kann nicht verschoben werden.", "49", "Aha"},
-                                       {5, "Keine Frage zum Verschieben vorhanden.", "59", "Ach ja ..."}};
-inline constexpr ZiehTexte kopieren{{5, "Joker kann nicht kopiert werden.", "69", "Aha"},
-                                    {5, "Ereignis kann nicht kopiert werden.", "79", "Aha"},
-                                    {5, "Keine Frage zum Kopieren vorhanden.", "89", "Ach ja ..."}};
+inline constexpr MeldungsText nichtsZuVerschieben{5, "Keine Frage zum Verschieben vorhanden.", "59",
+                                                  "Ach ja ..."};
+inline constexpr MeldungsText nichtsZuKopieren{5, "Keine Frage zum Kopieren vorhanden.", "89", "Ach ja ..."};
 
 // A cell joins the two lines with a line feed alone, the other places with CR LF; that is meant.
 inline constexpr NachrichtText feldBesetzt{7, "Fragenauswahl",
@@ -40,52 +29,6 @@ inline constexpr NachrichtText ablageBesetzt{7, "Fragenauswahl",
                                              "Soll ich diese Frage durch die neue Frage ersetzen ?",
                                              4, 1111};
 inline constexpr std::string_view keineFrage = "Keine Frage vorhanden !";
-
-// Refusals at the limit, in the order A, E, G, J, R; {} is the limit.
-inline constexpr std::array<MeldungsText, anzahlArten> grenze{
-    {{4,
-      "Wir wollten uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl von {} Aktionsfeldern wurde bereits erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollten uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl von {} Ereignisfeldern wurde bereits erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollten uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl von {} Glücksfeldern wurde bereits erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollten uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl von {} Jokern wurde bereits erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollten uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl von {} Risikofeldern wurde bereits erreicht !",
-      "65", "Akzeptiert"}}};
-
-// Hints when a limit is just reached, same order; they never come up.
-inline constexpr std::array<MeldungsText, anzahlArten> hinweis{
-    {{4,
-      "Wir wollen uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl der Aktionsfelder ist hiermit erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollen uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl der Ereignisfelder ist hiermit erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollen uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl der Glücksfelder ist hiermit erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollen uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl der Joker ist hiermit erreicht !",
-      "65", "Akzeptiert"},
-     {4,
-      "Wir wollen uns an die Spielregeln halten -\r\n"
-      "Die maximale Anzahl der Risikofelder ist hiermit erreicht !",
-      "65", "Akzeptiert"}}};
 
 struct Hinweis {
     std::string_view tipp;
@@ -118,8 +61,5 @@ inline constexpr Hinweis nr{"Nummer der Feldkranz-Runde", " Nr. der Quizrunde"};
 inline constexpr Hinweis datum{"Datum der Feldkranz-Runde", " vorgesehenes Datum des Feldkranzes"};
 inline constexpr Hinweis zeit{"Dauer der Feldkranz-Runde", " vorgesehene Dauer des Feldkranzes"};
 inline constexpr std::string_view spezialStatus = " Spezialfrage und -wertung";
-
-// The tip of a special panel with the limits in force.
-[[nodiscard]] std::string SpezialTipp();
 
 } // namespace fktexte

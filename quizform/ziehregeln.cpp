@@ -1,20 +1,21 @@
 #include "quizform/ziehregeln.h"
 
 #include "quizform/texte.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
 
-ZiehBeginn ZiehBeginnFuer(bool umschalt, bool strg, bool alt, std::string_view buchstabe, bool frageLeer) {
-    if (alt || umschalt == strg) {
+Ziehbeginn FeldZiehbeginn(std::optional<Zugart> art, std::string_view buchstabe, bool frageLeer) {
+    if (!art) {
         return {};
     }
-    const auto& texte = umschalt ? fktexte::verschieben : fktexte::kopieren;
-    if (buchstabe == "J") {
-        return {0, &texte.joker};
-    }
-    if (buchstabe == "E") {
-        return {0, &texte.ereignis};
+    const bool verschieben = art == Zugart::Verschieben;
+    const auto feldart = ArtVon(buchstabe);
+    const std::optional<Ziehverbot> verbot = feldart ? ArtzeileVon(*feldart).ziehverbot : std::nullopt;
+    if (verbot) {
+        return {std::nullopt, verschieben ? verbot->verschieben : verbot->kopieren};
     }
     if (frageLeer) {
-        return {0, &texte.leer};
+        return {std::nullopt, verschieben ? fktexte::nichtsZuVerschieben : fktexte::nichtsZuKopieren};
     }
-    return {static_cast<std::int16_t>(umschalt ? 1 : 2), nullptr};
+    return {art, std::nullopt};
 }

@@ -1,17 +1,17 @@
-// What a press on a question of the quiz form starts: a move, a copy, a refusal or nothing.
+// What a press on a question of the quiz form starts: a drag, a refusal or nothing.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
+#include "core/ziehwert.h"
 
-#include <cstdint>
+#include <optional>
 #include <string_view>
 
-struct ZiehBeginn {
-    std::int16_t art = 0;                    // 1 a move, 2 a copy, 0 no drag
-    const MeldungsText* ablehnung = nullptr; // what is said instead
+struct Ziehbeginn {
+    std::optional<Zugart> art;             // the drag, none where nothing begins
+    std::optional<MeldungsText> ablehnung; // what is said instead
 };
 
-// Shift alone is a move, Ctrl alone a copy; both together, Alt or none start nothing. The mouse button
-// doesn't count, and that is meant.
-[[nodiscard]] ZiehBeginn ZiehBeginnFuer(bool umschalt, bool strg, bool alt, std::string_view buchstabe,
+// art: what the keys ask for; buchstabe: the cell's letter.
+[[nodiscard]] Ziehbeginn FeldZiehbeginn(std::optional<Zugart> art, std::string_view buchstabe,
                                         bool frageLeer);

@@ -2,7 +2,7 @@
 // value that is none of them has no place.
 #pragma once
 
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 
 #include <array>
 #include <optional>

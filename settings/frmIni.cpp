@@ -7,10 +7,12 @@
 #include "core/panel.h"
 #include "dialogs/meldung.h"
 #include "dialogs/modal.h"
-#include "periphery/hinweise.h"
+#include "rules/spezialarten.h"
+#include "rules/spielwerte.h"
 #include "settings/hinweistexte.h"
 #include "settings/texte.h"
 #include "settings/vorgabendialog.h"
+#include "tooltips/hinweise.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -55,7 +57,7 @@ frmIni::frmIni() {
     DarstellungVerbinden();
     BefehleVerbinden();
     HinweiseSetzen();
-    VorgabenHolen();
+    vorgaben_ = VorgabenAus(Spiel);
     for (const Gruppe gruppe : {Punkte, Felder, PunkteV, FelderV}) {
         ArtenZeigen(gruppe);
     }
@@ -64,12 +66,12 @@ frmIni::frmIni() {
 }
 
 // The dialog's activation: once, when it comes on the screen. Coming back from one of its own questions must
-// not take a snapshot of numbers that have been stepped meanwhile.
+// not note numbers that have been stepped meanwhile.
 void frmIni::showEvent(QShowEvent* ereignis) {
     QDialog::showEvent(ereignis);
     if (!aktiviert_) {
         aktiviert_ = true;
-        schnappschuss_ = SchnappschussNehmen();
+        vorher_ = Spiel;
         OptionenZeigen();
         ZaehlerZeigen();
     }
@@ -98,7 +100,7 @@ void frmIni::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void frmIni::reject() {
-    Ausfuehren("cmdAbbrechen", [this] { Abbrechen_Click(); });
+    Ausfuehren("cmdAbbrechen", [this] { Abbrechen(); });
 }
 
 QGroupBox* frmIni::RahmenBauen(QWidget* eltern, const char* name, const QString& titel) {
@@ -128,32 +130,31 @@ void frmIni::HinweiseSetzen() {
 }
 
 void frmIni::ArtenhinweiseSetzen() {
-    for (std::size_t art = 0; art < initexte::punkteTipps.size(); ++art) {
-        const std::string punkte(initexte::punkteTipps.at(art));
-        const std::string standard = art == 0 ? std::string(initexte::punkteTippAufgabe) : punkte;
-        const std::string felder(initexte::felderTipps.at(art));
-        const auto setzen = [this, art](const char* feld, const std::string& tipp, std::string_view status) {
-            const std::string name = Einsetzen("{}({})", {feld, std::to_string(art)});
-            HinweisAnwenden(*this, {name, tipp, status});
+    for (const Artzeile& zeile : spezialarten) {
+        const std::string index = std::to_string(Artstelle(zeile.art));
+        const auto setzen = [this, &index](const char* feld, std::string_view tipp, std::string_view dazu,
+                                           std::string_view status) {
+            const std::string name = Einsetzen("{}({})", {feld, index});
+            HinweisAnwenden(*this, {name, std::string(tipp) + std::string(dazu), status});
         };
         for (const char* feld : {"pnlPunkte", "spnPunkte"}) {
-            setzen(feld, punkte + std::string(initexte::imTabStandard), initexte::punkteStatus);
+            setzen(feld, zeile.punkteTipp, initexte::imTabStandard, initexte::punkteStatus);
         }
         for (const char* feld : {"pnlPunkteV", "spnPunkteV"}) {
-            setzen(feld, standard + std::string(initexte::imTabSpezial), initexte::punkteStatus);
+            setzen(feld, zeile.punkteTippV, initexte::imTabSpezial, initexte::punkteStatus);
         }
         for (const char* feld : {"pnlFelder", "spnFelder", "pnlFelderV", "spnFelderV"}) {
-            setzen(feld, felder, initexte::felderStatus);
+            setzen(feld, zeile.felderTipp, "", initexte::felderStatus);
         }
     }
 }
 
 // Fills the boxes and options from the settings without a question.
 void frmIni::OptionenZeigen() {
-    IniLaden_ = true;
+    fuellt_ = true;
     RegelnZeigen();
     DarstellungZeigen();
-    IniLaden_ = false;
+    fuellt_ = false;
 }
 
 void frmIni::Ausfuehren(const char* name, const std::function<void()>& schritt) {

@@ -1,9 +1,11 @@
 // The settings dialog: shape of the board, points and limits of the special fields, rules, look and file
-// options on six tabs. The counters and edit arrays reach the form and the settings only by cmdEinOK; the
-// options of the pages for look, print and file act at once and stay, whatever button ends the dialog. What a
-// step or a conversion comes to is decided in the model units of this folder.
+// options on six tabs. Counters and rules are in force at once, and cmdAbbrechen puts them back; points and
+// limits are edited in copies, which only cmdEinOK brings into force, and only then the form follows them
+// all. The options of the pages for look, print and file stay, whatever button ends the dialog. What a step
+// comes to is decided in regelschritte.h, a conversion in rules/skalierung.h.
 #pragma once
 
+#include "rules/spezialart.h"
 #include "settings/vorgaben.h"
 
 #include <QDialog>
@@ -11,7 +13,6 @@
 #include <array>
 #include <functional>
 #include <optional>
-#include <span>
 
 class Blattskizze;
 class Drehfeld;
@@ -57,7 +58,7 @@ private:
     // Counters and spin controls, in inizaehler.cpp
     enum Gruppe : std::uint8_t { Punkte, Felder, PunkteV, FelderV };
     QGroupBox* ArtenrahmenBauen(QWidget* eltern, Gruppe gruppe);
-    QLayout* ArtBauen(QWidget* rahmen, Gruppe gruppe, int art);
+    QLayout* ArtBauen(QWidget* rahmen, Gruppe gruppe, Spezialart art);
     struct Schrittaste {
         const char* name;
         const char* wort;
@@ -69,11 +70,11 @@ private:
     Panel* ZaehlerpanelBauen(QGridLayout* gitter, const char* kern, const char* wort, int spalte);
     void SchrittasteBauen(QGridLayout* gitter, const Schrittaste& zeile);
     void ZaehlerZeigen();
-    void FragenSchritt_Click(Richtung richtung);
-    void WissenSchritt_Click(Richtung richtung);
+    void FragenStufen(Richtung richtung);
+    void WissenStufen(Richtung richtung);
     void Stufen(const Regelschritt& schritt, std::int16_t& zaehler);
     bool SchrittErlaubt(const Regelschritt& schritt);
-    void Drehen_Click(Gruppe gruppe, int art, Richtung richtung);
+    void ArtDrehen(Gruppe gruppe, Spezialart art, Richtung richtung);
     void ArtenZeigen(Gruppe gruppe);
     void FelderrahmenBeschriften(int fragen);
 
@@ -81,8 +82,7 @@ private:
     void RegelnBauen(QWidget* seite);
     void RegelnVerbinden();
     void RegelnZeigen();
-    void RegelAnkreuzen(QCheckBox* kasten, std::int16_t& option, bool an,
-                        const std::optional<Regelfrage>& frage);
+    void RegelAnkreuzen(QCheckBox* kasten, bool& option, bool an, const std::optional<Regelfrage>& frage);
 
     // Look, print and file options, in inidarstellung.cpp and inifarben.cpp
     void FormularseiteBauen(QWidget* seite);
@@ -99,26 +99,27 @@ private:
 
     // Commands, in inibefehle.cpp
     void BefehleVerbinden();
-    void Absolut_Click();
-    void Standard_Click();
-    void Standard2_Click();
-    void Null_Click();
-    void IniLaden_Click();
-    void IniSpeichern_Click();
-    void EinOK_Click();
-    void Abbrechen_Click();
+    void SpielregelwerteEintragen();
+    void StandardEinsetzen();
+    void StandardUmrechnen();
+    void AufNullSetzen();
+    void EinstellungenLaden();
+    void EinstellungenSpeichern();
+    void Anwenden();
+    void Abbrechen();
 
-    bool IniLaden_ = false;  // the dialog fills its boxes: no box raises a question
-    bool aktiviert_ = false; // the snapshot is taken
+    Vorgaben vorgaben_;
+    Spielwerte vorher_;      // as they were when the dialog came on the screen
+    bool aktiviert_ = false; // that has been noted
+    bool fuellt_ = false;    // the dialog fills its boxes: no box raises a question
     bool gestuft_ = false;   // a step has been made: FelderGesamt follows the counters
     int farbe_ = 0;          // colour last chosen; reaches the settings only by cmdEinOK
-    Schnappschuss schnappschuss_;
 
     QTabWidget* tabIni_ = nullptr;
     std::array<Panel*, 6> pnlIni_{};
     Panel* pnlToolbar_ = nullptr;
     QGroupBox* fraFelder_ = nullptr;
-    std::array<std::array<Panel*, 5>, 4> werte_{}; // by Gruppe and kind
+    std::array<JeArt<Panel*>, 4> werte_{}; // by Gruppe
     Panel* pnlFragenFK_ = nullptr;
     Panel* pnlFragenFKF_ = nullptr;
     Panel* pnlFragenFKW_ = nullptr;

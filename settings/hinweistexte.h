@@ -1,5 +1,6 @@
 // Tips and status lines of the settings dialog's controls. Rows of control arrays stand under the name
-// without an index and hold for all members, or under the index of each.
+// without an index and hold for all members, or under the index of each. What the panels and spin controls of
+// the special fields tell is in rules/spezialarten.h.
 #pragma once
 
 #include <array>
@@ -115,18 +116,8 @@ inline constexpr std::array hinweise{
     Hinweis{"chkMaxFelder", regelTipp, regelStatus},
 };
 
-// Panels and spin controls of the five kinds, in the order A, E, G, J, R. The tips of the points have a
-// second line that names the tab on which the other set is found.
-inline constexpr std::array<std::string_view, 5> punkteTipps{
-    "Punkte für Aktion", "Punkte für Ereignis", "Punkte für richtige Beantwortung einer Glücksfrage",
-    "Punkte für Joker", "Punkte für richtige Beantwortung einer Risiko-Frage"};
-inline constexpr std::string_view punkteTippAufgabe =
-    "Punkte für Aktion bzw. Aufgabe"; // standard points of A
+// What stands behind the tips of a kind's points: the tab on which the other set is found.
 inline constexpr std::string_view imTabStandard = "\r\n(Werden im Tab [Standardvorgaben] eingestellt.)";
 inline constexpr std::string_view imTabSpezial = "\r\n(Werden im Tab [Spezialfelder] eingestellt.)";
-inline constexpr std::array<std::string_view, 5> felderTipps{
-    "Anzahl der zulässigen Aktions-, bzw. Aufgabenfelder.", "Anzahl der zulässigen Ereignisfelder.",
-    "Anzahl der zulässigen Glücksfelder.", "Anzahl der zulässigen Joker.",
-    "Anzahl der zulässigen Risikofelder."};
 
 } // namespace initexte

@@ -1,12 +1,11 @@
 // The commands of the settings dialog: presets, loading and saving them, applying and cancelling.
 #include "core/hauptfenster.h"
-#include "core/texte.h"
 #include "dialogs/meldung.h"
 #include "persistence/einstellungenladen.h"
+#include "persistence/texte.h"
 #include "quizform/fkformular.h"
-#include "quizform/frmFKFragen.h"
-#include "quizform/spezialfelder.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialarten.h"
+#include "rules/spielwerte.h"
 #include "settings/frmIni.h"
 #include "settings/texte.h"
 
@@ -18,45 +17,6 @@ namespace {
 constexpr int tabSpezial = 0;
 constexpr int vollesBrett = 30;
 
-// Closing the question by its frame changes nothing either.
-bool Gefragt(const NachrichtText& frage) {
-    NachrichtAntwort = antwortAbbrechen;
-    return Nachricht(frage) != antwortAbbrechen;
-}
-
-// A list that still stands open over a cell or a title belongs to a board that is gone.
-void ListenSchliessen() {
-    frmFKFragen* form = FKFragenOffen();
-    if (form == nullptr) {
-        return;
-    }
-    form->cmbSpezial->hide();
-    form->cmbWissen->hide();
-    for (Panel* titel : form->pnlWissen) {
-        if (titel != nullptr) {
-            titel->show();
-        }
-    }
-}
-
-// The rules on the board, in their fixed order. Here the cells really lose what the messages announced.
-void BrettAnpassen() {
-    ListenSchliessen();
-    FK_AlleFelderZeigen();
-    FK_FragenRegel();
-    FK_WissenRegel();
-}
-
-void FormAuffrischen() {
-    FK_SpezialMerken();
-    FK_SpezialZaehlen();
-    FK_FelderFaerben();
-    frmFKFragen* form = FKFragenOffen();
-    if (form != nullptr) {
-        form->SpezialTippsErneuern(); // they name the limits
-    }
-}
-
 } // namespace
 
 void frmIni::BefehleVerbinden() {
@@ -64,57 +24,57 @@ void frmIni::BefehleVerbinden() {
         connect(findChild<QPushButton*>(QLatin1String(name)), &QPushButton::clicked, this,
                 [this, name, routine] { Ausfuehren(name, [this, routine] { (this->*routine)(); }); });
     };
-    verbinden("cmdAbsolut", &frmIni::Absolut_Click);
-    verbinden("cmdStandard", &frmIni::Standard_Click);
-    verbinden("cmdStandard2", &frmIni::Standard2_Click);
-    verbinden("cmdNull", &frmIni::Null_Click);
-    verbinden("cmdIniLaden", &frmIni::IniLaden_Click);
-    verbinden("cmdIniSpeichern", &frmIni::IniSpeichern_Click);
-    verbinden("cmdEinOK", &frmIni::EinOK_Click);
-    verbinden("cmdAbbrechen", &frmIni::Abbrechen_Click);
+    verbinden("cmdAbsolut", &frmIni::SpielregelwerteEintragen);
+    verbinden("cmdStandard", &frmIni::StandardEinsetzen);
+    verbinden("cmdStandard2", &frmIni::StandardUmrechnen);
+    verbinden("cmdNull", &frmIni::AufNullSetzen);
+    verbinden("cmdIniLaden", &frmIni::EinstellungenLaden);
+    verbinden("cmdIniSpeichern", &frmIni::EinstellungenSpeichern);
+    verbinden("cmdEinOK", &frmIni::Anwenden);
+    verbinden("cmdAbbrechen", &frmIni::Abbrechen);
     // Meant: the help button only has its status line.
 }
 
-void frmIni::Absolut_Click() {
-    StdPunkte = werkPunkte;
-    StdFelder = werkFelder;
+void frmIni::SpielregelwerteEintragen() {
+    vorgaben_.PunkteV = werkPunkte;
+    vorgaben_.FelderV = werkFelder;
     ArtenZeigen(PunkteV);
     ArtenZeigen(FelderV);
 }
 
-void frmIni::Standard_Click() {
-    VorgabePunkte = StdPunkte;
-    VorgabeFelder = StdFelder;
+void frmIni::StandardEinsetzen() {
+    vorgaben_.Punkte = vorgaben_.PunkteV;
+    vorgaben_.Felder = vorgaben_.FelderV;
     ArtenZeigen(Punkte);
     ArtenZeigen(Felder);
     FelderrahmenBeschriften(vollesBrett);
 }
 
-void frmIni::Standard2_Click() {
-    if (FelderGesamt == 0 || FragenProWissen == 0) {
+void frmIni::StandardUmrechnen() {
+    if (Spiel.FelderGesamt == 0 || Spiel.FragenProWissen == 0) {
         Meldung(initexte::nichtUmrechenbar);
         return;
     }
-    const Artwerte felder = FelderUmrechnen(StdFelder, FelderGesamt);
-    VorgabePunkte = PunkteUmrechnen(StdPunkte, FragenProWissen);
-    VorgabeFelder = felder;
+    const Artwerte felder = FelderUmrechnen(vorgaben_.FelderV, Spiel.FelderGesamt);
+    vorgaben_.Punkte = PunkteUmrechnen(vorgaben_.PunkteV, Spiel.FragenProWissen);
+    vorgaben_.Felder = felder;
     ArtenZeigen(Punkte);
     ArtenZeigen(Felder);
-    FelderrahmenBeschriften(FelderGesamt);
+    FelderrahmenBeschriften(Spiel.FelderGesamt);
 }
 
 // One button for two things: the counts in force on the one tab, the standard points on the other.
-void frmIni::Null_Click() {
+void frmIni::AufNullSetzen() {
     const bool spezial = tabIni_->currentIndex() == tabSpezial;
-    if (!Gefragt(spezial ? initexte::felderNullen : initexte::punkteNullen)) {
+    if (!Bestaetigt(spezial ? initexte::felderNullen : initexte::punkteNullen)) {
         return;
     }
-    (spezial ? VorgabeFelder : StdPunkte).fill(0);
+    (spezial ? vorgaben_.Felder : vorgaben_.PunkteV).fill(0);
     ArtenZeigen(spezial ? Felder : PunkteV);
 }
 
-void frmIni::IniLaden_Click() {
-    if (!Gefragt(initexte::standardLaden)) {
+void frmIni::EinstellungenLaden() {
+    if (!Bestaetigt(initexte::standardLaden)) {
         return;
     }
     try {
@@ -123,47 +83,47 @@ void frmIni::IniLaden_Click() {
         // What was read so far is in force, without a message; the status line says why there isn't more.
         HilfeText(Einsetzen(initexte::nichtGelesen, {fehler.text()}));
     }
-    if (FarbeHintergrund == 0) {
-        FarbeHintergrund = 7; // as when a form's window opens
+    if (Spiel.FarbeHintergrund == 0) {
+        Spiel.FarbeHintergrund = 7; // as when a form's window opens
     }
-    StandardHolen();
+    StandardHolen(vorgaben_, Spiel);
     ArtenZeigen(PunkteV);
     ArtenZeigen(FelderV);
     OptionenZeigen();
     DateilisteAnzeigen();
 }
 
-void frmIni::IniSpeichern_Click() {
-    if (!Gefragt(initexte::standardSpeichern)) {
+void frmIni::EinstellungenSpeichern() {
+    if (!Bestaetigt(initexte::standardSpeichern)) {
         return;
     }
-    StandardUebernehmen();
+    StandardUebernehmen(vorgaben_, Spiel);
     try {
         EinstellungenSchreiben();
     } catch (const Laufzeitfehler& fehler) {
-        Meldung(kerntexte::iniFehler, {fehler.text()});
+        Meldung(persistenztexte::iniFehler, {fehler.text()});
     }
 }
 
-void frmIni::EinOK_Click() {
-    VorgabenUebernehmen();
-    BrettAnpassen();
+void frmIni::Anwenden() {
+    VorgabenUebernehmen(vorgaben_, Spiel);
+    FK_VorgabenAnwenden();
     FelderAnzeigen();
-    StandardUebernehmen();
-    FarbeHintergrund = static_cast<std::int16_t>(farbe_);
+    StandardUebernehmen(vorgaben_, Spiel);
+    Spiel.FarbeHintergrund = static_cast<std::int16_t>(farbe_);
     FarbeZeigen(); // a file loaded meanwhile may hold another
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     done(QDialog::Accepted);
-    FormAuffrischen();
+    FK_Auffrischen();
 }
 
-void frmIni::Abbrechen_Click() {
-    if (!Gefragt(initexte::verwerfen)) {
+void frmIni::Abbrechen() {
+    if (!Bestaetigt(initexte::verwerfen)) {
         return;
     }
-    SchnappschussZurueck(schnappschuss_);
+    RegelnZuruecksetzen(vorher_, Spiel);
     done(QDialog::Rejected);
     if (gestuft_) {
-        GesamtRechnen(); // the total goes with the counters
+        GesamtRechnen(Spiel); // the total goes with the counters
     }
 }

@@ -1,5 +1,4 @@
-// The tabs for the print-out and for files: gap, shading, frames, backup, paper. Every option acts at once on
-// its variable.
+// The tabs for the print-out and for files: gap, shading, frames, backup, paper. Every option acts at once.
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "settings/blattskizze.h"
@@ -44,9 +43,8 @@ void BackUpEintragFreigeben(bool frei) {
     }
 }
 
-void Merken(const QCheckBox* kasten, std::int16_t& option) {
-    QObject::connect(kasten, &QCheckBox::toggled, kasten,
-                     [&option](bool an) { option = static_cast<std::int16_t>(an ? 1 : 0); });
+void Merken(const QCheckBox* kasten, bool& option) {
+    QObject::connect(kasten, &QCheckBox::toggled, kasten, [&option](bool an) { option = an; });
 }
 
 } // namespace
@@ -130,35 +128,35 @@ QGroupBox* frmIni::DruckrahmenBauen(QWidget* seite) {
 
 void frmIni::DarstellungVerbinden() {
     connect(optZwischen_, &QButtonGroup::idClicked, this,
-            [](int i) { Zwischenabstand = abstaende.at(Stelle(i)).millimeter; });
+            [](int i) { Spiel.Zwischenabstand = abstaende.at(Stelle(i)).millimeter; });
     connect(optDrucken_, &QButtonGroup::idClicked, this, [this](int i) {
-        Papierformat = papiere.at(Stelle(i)).format;
+        Spiel.Papierformat = papiere.at(Stelle(i)).format;
         PapierZeigen();
     });
     connect(optFarbe_, &QButtonGroup::idClicked, this, &frmIni::FarbeWaehlen);
-    Merken(chkTitel_, OptionTitel);
-    Merken(chkWissen_, OptionWissen);
-    Merken(chkJoker_, OptionJoker);
-    Merken(chkRahmen_, OptionRahmen);
-    Merken(chkDatei_, OptionDatei);
+    Merken(chkTitel_, Spiel.OptionTitel);
+    Merken(chkWissen_, Spiel.OptionWissen);
+    Merken(chkJoker_, Spiel.OptionJoker);
+    Merken(chkRahmen_, Spiel.OptionRahmen);
+    Merken(chkDatei_, Spiel.OptionDatei);
     connect(chkDatei_, &QCheckBox::toggled, this, BackUpEintragFreigeben);
 }
 
 void frmIni::DarstellungZeigen() {
-    chkTitel_->setChecked(OptionTitel == 1);
-    chkWissen_->setChecked(OptionWissen == 1);
-    chkJoker_->setChecked(OptionJoker == 1);
-    chkRahmen_->setChecked(OptionRahmen == 1);
-    chkDatei_->setChecked(OptionDatei == 1);
-    Waehlen(optZwischen_, AbstandStelle(Zwischenabstand));
-    Waehlen(optDrucken_, PapierStelle(Papierformat));
-    Waehlen(optFarbe_, FarbeHintergrund);
-    farbe_ = FarbeHintergrund;
+    chkTitel_->setChecked(Spiel.OptionTitel);
+    chkWissen_->setChecked(Spiel.OptionWissen);
+    chkJoker_->setChecked(Spiel.OptionJoker);
+    chkRahmen_->setChecked(Spiel.OptionRahmen);
+    chkDatei_->setChecked(Spiel.OptionDatei);
+    Waehlen(optZwischen_, AbstandStelle(Spiel.Zwischenabstand));
+    Waehlen(optDrucken_, PapierStelle(Spiel.Papierformat));
+    Waehlen(optFarbe_, Spiel.FarbeHintergrund);
+    farbe_ = Spiel.FarbeHintergrund;
     PapierZeigen();
 }
 
 void frmIni::PapierZeigen() {
-    const std::optional<int> papier = PapierStelle(Papierformat);
+    const std::optional<int> papier = PapierStelle(Spiel.Papierformat);
     for (const int i : {0, 1}) {
         imgPapier_.at(Stelle(i))->setVisible(papier == i);
     }

@@ -1,9 +1,9 @@
 // The tab of the colours: a click paints the screen form at once; the settings hear of it only when the
 // dialog is applied.
+#include "core/farbe.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "quizform/fkformular.h"
-#include "quizform/frmFKFragen.h"
 #include "settings/darstellung.h"
 #include "settings/frmIni.h"
 
@@ -43,8 +43,5 @@ void frmIni::FarbeWaehlen(int nummer) {
 }
 
 void frmIni::FarbeZeigen() {
-    frmFKFragen* form = FKFragenOffen();
-    if (form != nullptr) {
-        form->HintergrundMalen(farbe_);
-    }
+    FK_HintergrundMalen(farbe_);
 }

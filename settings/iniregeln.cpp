@@ -1,7 +1,7 @@
 // The tab of the rules: three boxes, and the question that ticking one raises over a board that isn't full.
-#include "core/befehle.h"
+#include "core/hauptfenster.h"
 #include "dialogs/meldung.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "settings/frmIni.h"
 #include "settings/texte.h"
 
@@ -34,30 +34,24 @@ void frmIni::RegelnBauen(QWidget* seite) {
 
 void frmIni::RegelnVerbinden() {
     connect(chkMaxFelder_, &QCheckBox::toggled, this, [this](bool an) {
-        RegelAnkreuzen(chkMaxFelder_, OptionMaxFelder, an, FragenBegrenzung(FragenProWissen));
+        RegelAnkreuzen(chkMaxFelder_, Spiel.OptionMaxFelder, an, FragenBegrenzung(Spiel.FragenProWissen));
     });
     connect(chkMaxWissen_, &QCheckBox::toggled, this, [this](bool an) {
-        RegelAnkreuzen(chkMaxWissen_, OptionMaxWissen, an, WissenBegrenzung(AnzahlWissen));
+        RegelAnkreuzen(chkMaxWissen_, Spiel.OptionMaxWissen, an, WissenBegrenzung(Spiel.AnzahlWissen));
     });
-    connect(chkMaxSpezial_, &QCheckBox::toggled, this,
-            [](bool an) { OptionMaxSpezial = static_cast<std::int16_t>(an ? 1 : 0); });
+    connect(chkMaxSpezial_, &QCheckBox::toggled, this, [](bool an) { Spiel.OptionMaxSpezial = an; });
 }
 
 void frmIni::RegelnZeigen() {
-    chkMaxFelder_->setChecked(OptionMaxFelder == 1);
-    chkMaxWissen_->setChecked(OptionMaxWissen == 1);
-    chkMaxSpezial_->setChecked(OptionMaxSpezial == 1);
+    chkMaxFelder_->setChecked(Spiel.OptionMaxFelder);
+    chkMaxWissen_->setChecked(Spiel.OptionMaxWissen);
+    chkMaxSpezial_->setChecked(Spiel.OptionMaxSpezial);
 }
 
-void frmIni::RegelAnkreuzen(QCheckBox* kasten, std::int16_t& option, bool an,
+void frmIni::RegelAnkreuzen(QCheckBox* kasten, bool& option, bool an,
                             const std::optional<Regelfrage>& frage) {
-    option = static_cast<std::int16_t>(an ? 1 : 0);
-    if (!an || IniLaden_ || !frage) {
-        return;
-    }
-    NachrichtAntwort = antwortAbbrechen;
-    if (Nachricht(initexte::frageBild, frage->titel, frage->text, initexte::frageTasten,
-                  initexte::frageNummer) == antwortAbbrechen) {
+    option = an;
+    if (an && !fuellt_ && frage && !Bestaetigt(initexte::Frage(frage->titel, frage->text))) {
         kasten->setChecked(false); // comes back here, off
     }
 }

@@ -4,8 +4,8 @@
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "dialogs/meldung.h"
-#include "quizform/spezialfelder.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialarten.h"
+#include "rules/spielwerte.h"
 #include "settings/frmIni.h"
 #include "settings/spaltenschild.h"
 #include "settings/texte.h"
@@ -25,26 +25,34 @@ struct Artengruppe {
     const char* panel;
     const char* spin;
     const char* wort; // what the control counts, for those who can't see its place
-    Artwerte* werte;
+    Artwerte Vorgaben::*werte;
     std::int16_t hoechstens;
     const MeldungsText* zuWenig;
     const MeldungsText* zuViel;
     bool doppelt; // told twice past the highest value
 };
 constexpr std::array gruppen{
-    Artengruppe{"fraPunkte", "pnlPunkte", "spnPunkte", "Punkte", &VorgabePunkte, hoechstensPunkte,
+    Artengruppe{"fraPunkte", "pnlPunkte", "spnPunkte", "Punkte", &Vorgaben::Punkte, hoechstensPunkte,
                 &initexte::punkteZuWenig, &initexte::punkteZuViel, false},
-    Artengruppe{"fraFelder", "pnlFelder", "spnFelder", "Felder", &VorgabeFelder, hoechstensFelder,
+    Artengruppe{"fraFelder", "pnlFelder", "spnFelder", "Felder", &Vorgaben::Felder, hoechstensFelder,
                 &initexte::felderZuWenig, &initexte::felderZuViel, false},
-    Artengruppe{"fraPunkteV", "pnlPunkteV", "spnPunkteV", "Punkte", &StdPunkte, hoechstensPunkte,
+    Artengruppe{"fraPunkteV", "pnlPunkteV", "spnPunkteV", "Punkte", &Vorgaben::PunkteV, hoechstensPunkte,
                 &initexte::punkteZuWenig, &initexte::punkteZuViel, true},
-    Artengruppe{"fraFelderV", "pnlFelderV", "spnFelderV", "Felder", &StdFelder, hoechstensFelder,
+    Artengruppe{"fraFelderV", "pnlFelderV", "spnFelderV", "Felder", &Vorgaben::FelderV, hoechstensFelder,
                 &initexte::felderZuWenig, &initexte::felderZuViel, false},
 };
-constexpr std::array artnamen{"Aktion", "Ereignis", "Glück", "Joker", "Risiko"};
 
-QString Name(const char* feld, int index) {
+QString Name(const char* feld, std::size_t index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(feld)).arg(index);
+}
+
+// The words above the columns.
+std::string Spaltentext() {
+    std::string text;
+    for (const Artzeile& zeile : spezialarten) {
+        text += zeile.spalte;
+    }
+    return text;
 }
 
 Panel* Zahlpanel(QWidget* eltern, const QString& name) {
@@ -73,12 +81,13 @@ QGroupBox* frmIni::ArtenrahmenBauen(QWidget* eltern, Gruppe gruppe) {
                                       : Anzeige(initexte::rahmenPunkte));
     auto* gitter = new QGridLayout(rahmen);
     gitter->setHorizontalSpacing(0);
-    gitter->addWidget(new Spaltenschild(rahmen, Name("lblArten", gruppe), Anzeige(initexte::arten)), 0, 0, 1,
+    gitter->addWidget(new Spaltenschild(rahmen, Name("lblArten", gruppe), Anzeige(Spaltentext())), 0, 0, 1,
                       anzahlArten);
-    for (int art = 0; art < anzahlArten; ++art) {
-        gitter->addLayout(ArtBauen(rahmen, gruppe, art), 1, art);
-        gitter->setColumnStretch(art, 1);
-        gitter->setColumnMinimumWidth(art, 100);
+    for (const Artzeile& artzeile : spezialarten) {
+        const int spalte = static_cast<int>(Artstelle(artzeile.art));
+        gitter->addLayout(ArtBauen(rahmen, gruppe, artzeile.art), 1, spalte);
+        gitter->setColumnStretch(spalte, 1);
+        gitter->setColumnMinimumWidth(spalte, 100);
     }
     if (gruppe == Felder) {
         fraFelder_ = rahmen;
@@ -86,18 +95,16 @@ QGroupBox* frmIni::ArtenrahmenBauen(QWidget* eltern, Gruppe gruppe) {
     return rahmen;
 }
 
-QLayout* frmIni::ArtBauen(QWidget* rahmen, Gruppe gruppe, int art) {
+QLayout* frmIni::ArtBauen(QWidget* rahmen, Gruppe gruppe, Spezialart art) {
     const Artengruppe& zeile = gruppen.at(gruppe);
-    const auto stelle = static_cast<std::size_t>(art);
-    Panel* panel = Zahlpanel(rahmen, Name(zeile.panel, art));
-    werte_.at(gruppe).at(stelle) = panel;
+    Panel* panel = Zahlpanel(rahmen, Name(zeile.panel, Artstelle(art)));
+    werte_.at(gruppe)[art] = panel;
     const QString was =
-        QStringLiteral("%1, %2").arg(QString::fromUtf8(zeile.wort), QString::fromUtf8(artnamen.at(stelle)));
-    auto* spin = new Drehfeld(rahmen, Name(zeile.spin, art), was);
+        QStringLiteral("%1, %2").arg(QString::fromUtf8(zeile.wort), Anzeige(ArtzeileVon(art).name));
+    auto* spin = new Drehfeld(rahmen, Name(zeile.spin, Artstelle(art)), was);
     spin->setFixedSize(24, 32);
-    connect(spin, &Drehfeld::hoch, this, [this, gruppe, art] { Drehen_Click(gruppe, art, Richtung::Hoch); });
-    connect(spin, &Drehfeld::runter, this,
-            [this, gruppe, art] { Drehen_Click(gruppe, art, Richtung::Runter); });
+    connect(spin, &Drehfeld::hoch, this, [this, gruppe, art] { ArtDrehen(gruppe, art, Richtung::Hoch); });
+    connect(spin, &Drehfeld::runter, this, [this, gruppe, art] { ArtDrehen(gruppe, art, Richtung::Runter); });
     auto* paar = new QHBoxLayout;
     paar->setSpacing(2);
     paar->addStretch();
@@ -134,21 +141,21 @@ void frmIni::ZaehlerBauen(QGridLayout* gitter) {
     }
     pnlFragenFK_ = ZaehlerpanelBauen(gitter, "FragenFK", "Gesamt", 0);
     SchrittasteBauen(gitter, {"cmdFragenMinus", "Fragen pro Wissensgebiet zurücksetzen", 2, Richtung::Runter,
-                              &frmIni::FragenSchritt_Click});
+                              &frmIni::FragenStufen});
     pnlFragenFKF_ = ZaehlerpanelBauen(gitter, "FragenFKF", "Fragen", 3);
     SchrittasteBauen(gitter, {"cmdFragenPlus", "Fragen pro Wissensgebiet erhöhen", 4, Richtung::Hoch,
-                              &frmIni::FragenSchritt_Click});
+                              &frmIni::FragenStufen});
     SchrittasteBauen(gitter, {"cmdWissenMinus", "Wissensgebiete zurücksetzen", 6, Richtung::Runter,
-                              &frmIni::WissenSchritt_Click});
+                              &frmIni::WissenStufen});
     pnlFragenFKW_ = ZaehlerpanelBauen(gitter, "FragenFKW", "Wissen", 7);
-    SchrittasteBauen(
-        gitter, {"cmdWissenPlus", "Wissensgebiete erhöhen", 8, Richtung::Hoch, &frmIni::WissenSchritt_Click});
+    SchrittasteBauen(gitter,
+                     {"cmdWissenPlus", "Wissensgebiete erhöhen", 8, Richtung::Hoch, &frmIni::WissenStufen});
 }
 
 void frmIni::ZaehlerZeigen() {
-    pnlFragenFK_->setCaption(QString::number(FelderGesamt));
-    pnlFragenFKF_->setCaption(QString::number(FragenProWissen));
-    pnlFragenFKW_->setCaption(QString::number(AnzahlWissen));
+    pnlFragenFK_->setCaption(QString::number(Spiel.FelderGesamt));
+    pnlFragenFKF_->setCaption(QString::number(Spiel.FragenProWissen));
+    pnlFragenFKW_->setCaption(QString::number(Spiel.AnzahlWissen));
 }
 
 bool frmIni::SchrittErlaubt(const Regelschritt& schritt) {
@@ -156,20 +163,16 @@ bool frmIni::SchrittErlaubt(const Regelschritt& schritt) {
         Meldung(*schritt.absage);
         return false;
     }
-    if (!schritt.frage) {
-        return true;
-    }
-    NachrichtAntwort = antwortAbbrechen;
-    return Nachricht(initexte::frageBild, schritt.frage->titel, schritt.frage->text, initexte::frageTasten,
-                     initexte::frageNummer) != antwortAbbrechen;
+    return !schritt.frage || Bestaetigt(initexte::Frage(schritt.frage->titel, schritt.frage->text));
 }
 
-void frmIni::FragenSchritt_Click(Richtung richtung) {
-    Stufen(FragenSchritt(richtung, FragenProWissen, OptionMaxFelder), FragenProWissen);
+void frmIni::FragenStufen(Richtung richtung) {
+    Stufen(FragenSchritt(richtung, Spiel.FragenProWissen, Spiel.OptionMaxFelder), Spiel.FragenProWissen);
 }
 
-void frmIni::WissenSchritt_Click(Richtung richtung) {
-    Stufen(WissenSchritt(richtung, AnzahlWissen, FragenProWissen, OptionMaxWissen), AnzahlWissen);
+void frmIni::WissenStufen(Richtung richtung) {
+    Stufen(WissenSchritt(richtung, Spiel.AnzahlWissen, Spiel.FragenProWissen, Spiel.OptionMaxWissen),
+           Spiel.AnzahlWissen);
 }
 
 // A refused step refreshes the display with the old numbers, and changes nothing else.
@@ -178,19 +181,18 @@ void frmIni::Stufen(const Regelschritt& schritt, std::int16_t& zaehler) {
         zaehler = schritt.neu;
         gestuft_ = true;
         ZaehlerZeigen(); // also where the total can't be told below
-        GesamtRechnen();
+        GesamtRechnen(Spiel);
     }
     ZaehlerZeigen();
 }
 
-void frmIni::Drehen_Click(Gruppe gruppe, int art, Richtung richtung) {
+void frmIni::ArtDrehen(Gruppe gruppe, Spezialart art, Richtung richtung) {
     const Artengruppe& zeile = gruppen.at(gruppe);
-    const auto stelle = static_cast<std::size_t>(art);
-    if (Drehen(zeile.werte->at(stelle), richtung, zeile.hoechstens)) {
+    if (Drehen((vorgaben_.*zeile.werte)[art], richtung, zeile.hoechstens)) {
         ArtenZeigen(gruppe);
         return;
     }
-    Loslassen(findChild<QWidget*>(Name(zeile.spin, art)));
+    Loslassen(findChild<QWidget*>(Name(zeile.spin, Artstelle(art))));
     if (richtung == Richtung::Hoch && zeile.doppelt) {
         Systemkasten(Kastenart::Schlicht, "", initexte::mehrGehtNicht);
     }
@@ -198,9 +200,9 @@ void frmIni::Drehen_Click(Gruppe gruppe, int art, Richtung richtung) {
 }
 
 void frmIni::ArtenZeigen(Gruppe gruppe) {
-    const Artwerte& werte = *gruppen.at(gruppe).werte;
-    for (std::size_t art = 0; art < werte.size(); ++art) {
-        werte_.at(gruppe).at(art)->setCaption(QString::number(werte.at(art)));
+    const Artwerte& werte = vorgaben_.*gruppen.at(gruppe).werte;
+    for (const Artzeile& zeile : spezialarten) {
+        werte_.at(gruppe)[zeile.art]->setCaption(QString::number(werte[zeile.art]));
     }
 }
 

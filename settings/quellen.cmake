@@ -1,6 +1,5 @@
 feldkranz_quellen(modell
   settings/regelschritte.cpp
-  settings/skalierung.cpp
   settings/vorgaben.cpp)
 feldkranz_quellen(fenster
   settings/blattskizze.cpp settings/blattskizze.h

@@ -47,14 +47,14 @@ std::optional<Regelfrage> WissenMehr(std::int16_t ziel, std::int16_t fragen) {
 
 } // namespace
 
-Regelschritt FragenSchritt(Richtung richtung, std::int16_t fragen, std::int16_t optionMaxFelder) {
+Regelschritt FragenSchritt(Richtung richtung, std::int16_t fragen, bool optionMaxFelder) {
     if (richtung == Richtung::Hoch && fragen >= hoechstensFragen) {
         return Absage(fragenMaximum, fragen);
     }
     if (richtung == Richtung::Runter && fragen <= 1) {
         return Absage(fragenMinimum, fragen);
     }
-    if (richtung == Richtung::Runter && optionMaxFelder != 1) {
+    if (richtung == Richtung::Runter && !optionMaxFelder) {
         return Absage(fragenOhneRegel, fragen);
     }
     const std::int16_t neu = Nachbar(fragen, richtung);
@@ -62,14 +62,14 @@ Regelschritt FragenSchritt(Richtung richtung, std::int16_t fragen, std::int16_t 
 }
 
 Regelschritt WissenSchritt(Richtung richtung, std::int16_t wissen, std::int16_t fragen,
-                           std::int16_t optionMaxWissen) {
+                           bool optionMaxWissen) {
     if (richtung == Richtung::Hoch && wissen >= hoechstensWissen) {
         return Absage(wissenMaximum, wissen);
     }
     if (richtung == Richtung::Runter && wissen <= 1) {
         return Absage(wissenMinimum, wissen);
     }
-    if (richtung == Richtung::Runter && optionMaxWissen != 1) {
+    if (richtung == Richtung::Runter && !optionMaxWissen) {
         return Absage(wissenOhneRegel, wissen);
     }
     const std::int16_t neu = Nachbar(wissen, richtung);

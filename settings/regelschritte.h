@@ -2,7 +2,7 @@
 // with a step, and what the value is afterwards. Asking and showing is the dialog's.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <cstdint>
 #include <optional>
@@ -27,13 +27,12 @@ inline constexpr std::int16_t hoechstensWissen = 6;
 
 // A step of the questions an area. Without the rule the count can't be lowered at all, but raising it asks in
 // the name of the rules whatever the switch says; both are meant.
-[[nodiscard]] Regelschritt FragenSchritt(Richtung richtung, std::int16_t fragen,
-                                         std::int16_t optionMaxFelder);
+[[nodiscard]] Regelschritt FragenSchritt(Richtung richtung, std::int16_t fragen, bool optionMaxFelder);
 
 // A step of the areas. Upwards the text goes by the questions an area: with one question it names two areas
 // whatever their count, otherwise the step from one area to two asks nothing. Meant as well.
 [[nodiscard]] Regelschritt WissenSchritt(Richtung richtung, std::int16_t wissen, std::int16_t fragen,
-                                         std::int16_t optionMaxWissen);
+                                         bool optionMaxWissen);
 
 // The question that ticking a rule raises, nothing where the board is full anyway.
 [[nodiscard]] std::optional<Regelfrage> FragenBegrenzung(std::int16_t fragen);

@@ -2,7 +2,7 @@
 // controls are in hinweistexte.h.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <array>
 #include <string_view>
@@ -13,8 +13,6 @@ inline constexpr std::string_view fenster = " Vorgaben";
 inline constexpr std::string_view laden = " Ich lade das Register für die Voreinstellungen ...";
 inline constexpr std::array<std::string_view, 6> register_{
     " Spezialfelder", " Formular  ", " Farben ", " Standardvorgaben", " Datei/Drucken", " Spielregeln"};
-inline constexpr std::string_view arten =
-    "Aktion            Ereignis          Glück              Joker              Risiko";
 inline constexpr std::string_view rahmenPunkte = " Punkte ";
 inline constexpr std::string_view rahmenFelder = " Felder (bei {} Fragen) ";
 
@@ -22,6 +20,9 @@ inline constexpr std::string_view rahmenFelder = " Felder (bei {} Fragen) ";
 inline constexpr int frageBild = 7;
 inline constexpr int frageTasten = 3;
 inline constexpr int frageNummer = 1111;
+[[nodiscard]] constexpr NachrichtText Frage(std::string_view titel, std::string_view text) {
+    return {frageBild, titel, text, frageTasten, frageNummer};
+}
 
 // Steps of the two counters. A question has three lines; {} is the first and the last.
 inline constexpr std::string_view titelFragen = "Fragen pro Wissensgebiet";
@@ -102,12 +103,10 @@ inline constexpr std::string_view mehrGehtNicht = "Mehr geht nicht !";
 inline constexpr MeldungsText nichtUmrechenbar{
     4, "Wieviele Fragen gibt es pro Wissensgebiet ?\r\nWieviele Fragefelder gibt es insgesamt ?", "45",
     "Das gebe ich schnell noch ein"};
-inline constexpr NachrichtText felderNullen{frageBild, "Spezialfelder auf 0 setzen",
-                                            "Ich setze die Anzahl aller Spezialfelder auf 0 !", frageTasten,
-                                            frageNummer};
-inline constexpr NachrichtText punkteNullen{
-    frageBild, "Vorgaben auf 0 setzen", "Ich setze alle Vorgaben der Punkte für die Spezialfelder auf 0 !",
-    frageTasten, frageNummer};
+inline constexpr NachrichtText felderNullen =
+    Frage("Spezialfelder auf 0 setzen", "Ich setze die Anzahl aller Spezialfelder auf 0 !");
+inline constexpr NachrichtText punkteNullen =
+    Frage("Vorgaben auf 0 setzen", "Ich setze alle Vorgaben der Punkte für die Spezialfelder auf 0 !");
 inline constexpr NachrichtText standardLaden{10, "Standardeinstellungen laden",
                                              "Ich lade die Standardeinstellungen für Feldkranz", frageTasten,
                                              frageNummer};

@@ -1,8 +1,6 @@
 #include "settings/vorgaben.h"
 
 #include "core/laufzeitfehler.h"
-#include "quizform/spezialfelder.h"
-#include "settings/einstellungen.h"
 
 #include <charconv>
 #include <optional>
@@ -21,61 +19,40 @@ std::int16_t Zahl(const std::optional<std::string>& wert) {
 
 } // namespace
 
-void VorgabenHolen() {
-    VorgabePunkte = {PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR};
-    VorgabeFelder = {FelderA, FelderE, FelderG, FelderJ, FelderR};
-    StandardHolen();
+Vorgaben VorgabenAus(const Spielwerte& spiel) {
+    Vorgaben vorgaben{spiel.Punkte, spiel.Felder, {}, {}};
+    StandardHolen(vorgaben, spiel);
+    return vorgaben;
 }
 
-void StandardHolen() {
-    StdPunkte = {PunkteVA, PunkteVE, PunkteVG, PunkteVJ, PunkteVR};
-    StdFelder = {FelderVA, Zahl(FelderVE), FelderVG, FelderVJ, FelderVR};
+void StandardHolen(Vorgaben& vorgaben, const Spielwerte& spiel) {
+    vorgaben.PunkteV = spiel.PunkteV;
+    vorgaben.FelderV = spiel.FelderV;
+    vorgaben.FelderV[Spezialart::Ereignis] = Zahl(spiel.FelderVE);
 }
 
-void VorgabenUebernehmen() {
-    const auto [punkteA, punkteE, punkteG, punkteJ, punkteR] = VorgabePunkte;
-    PunkteA = punkteA;
-    PunkteE = punkteE;
-    PunkteG = punkteG;
-    PunkteJ = punkteJ;
-    PunkteR = punkteR;
-    const auto [felderA, felderE, felderG, felderJ, felderR] = VorgabeFelder;
-    FelderA = felderA;
-    FelderE = felderE;
-    FelderG = felderG;
-    FelderJ = felderJ;
-    FelderR = felderR;
+void VorgabenUebernehmen(const Vorgaben& vorgaben, Spielwerte& spiel) {
+    spiel.Punkte = vorgaben.Punkte;
+    spiel.Felder = vorgaben.Felder;
 }
 
-void StandardUebernehmen() {
-    const auto [punkteA, punkteE, punkteG, punkteJ, punkteR] = StdPunkte;
-    PunkteVA = punkteA;
-    PunkteVE = punkteE;
-    PunkteVG = punkteG;
-    PunkteVJ = punkteJ;
-    PunkteVR = punkteR;
-    const auto [felderA, felderE, felderG, felderJ, felderR] = StdFelder;
-    FelderVA = felderA;
-    FelderVE = std::to_string(felderE);
-    FelderVG = felderG;
-    FelderVJ = felderJ;
-    FelderVR = felderR;
+void StandardUebernehmen(const Vorgaben& vorgaben, Spielwerte& spiel) {
+    spiel.PunkteV = vorgaben.PunkteV;
+    spiel.FelderV = vorgaben.FelderV;
+    spiel.FelderVE = std::to_string(vorgaben.FelderV[Spezialart::Ereignis]);
+    spiel.FelderV[Spezialart::Ereignis] = 0; // not used
 }
 
-Schnappschuss SchnappschussNehmen() {
-    return {FragenProWissen, AnzahlWissen, OptionMaxFelder, OptionMaxWissen, OptionMaxSpezial};
+void RegelnZuruecksetzen(const Spielwerte& vorher, Spielwerte& spiel) {
+    spiel.FragenProWissen = vorher.FragenProWissen;
+    spiel.AnzahlWissen = vorher.AnzahlWissen;
+    spiel.OptionMaxFelder = vorher.OptionMaxFelder;
+    spiel.OptionMaxWissen = vorher.OptionMaxWissen;
+    spiel.OptionMaxSpezial = vorher.OptionMaxSpezial;
 }
 
-void SchnappschussZurueck(const Schnappschuss& schnappschuss) {
-    FragenProWissen = schnappschuss.fragenProWissen;
-    AnzahlWissen = schnappschuss.anzahlWissen;
-    OptionMaxFelder = schnappschuss.optionMaxFelder;
-    OptionMaxWissen = schnappschuss.optionMaxWissen;
-    OptionMaxSpezial = schnappschuss.optionMaxSpezial;
-}
-
-void GesamtRechnen() {
-    FelderGesamt = Zaehler(static_cast<long long>(FragenProWissen) * AnzahlWissen);
+void GesamtRechnen(Spielwerte& spiel) {
+    spiel.FelderGesamt = Zaehler(static_cast<long long>(spiel.FragenProWissen) * spiel.AnzahlWissen);
 }
 
 bool Drehen(std::int16_t& wert, Richtung richtung, std::int16_t hoechstens) {

@@ -1,37 +1,35 @@
-// The edit copies that the settings dialog works on, and their way from and to the values of the settings.
-// Nothing in the dialog but these routines writes the points and limits of the settings.
+// The edit copies that the settings dialog works on, and their way from and to the rule values. Nothing in
+// the dialog but these routines writes the points and limits of the rule values.
 #pragma once
 
+#include "rules/skalierung.h"
+#include "rules/spielwerte.h"
 #include "settings/regelschritte.h"
-#include "settings/skalierung.h"
 
 #include <cstdint>
 
-// Edit copies of the standard values, beside VorgabePunkte and VorgabeFelder of the values in force
-// (quizform/spezialfelder.h). Filled when the dialog loads.
-inline Artwerte StdPunkte{};
-inline Artwerte StdFelder{};
+struct Vorgaben {
+    // Points and field limits in force.
+    Artwerte Punkte, Felder;
 
-// Fills all four edit arrays, or those of the standard values alone, from the settings.
-void VorgabenHolen();
-void StandardHolen();
-// The edit arrays into the settings: the values in force, the standard values.
-void VorgabenUebernehmen();
-void StandardUebernehmen();
+    // Standard values for a full board, that of the Ereignis fields in its place as a number.
+    Artwerte PunkteV, FelderV;
 
-// What cancelling the dialog puts back.
-struct Schnappschuss {
-    std::int16_t fragenProWissen = 0;
-    std::int16_t anzahlWissen = 0;
-    std::int16_t optionMaxFelder = 0;
-    std::int16_t optionMaxWissen = 0;
-    std::int16_t optionMaxSpezial = 0;
+    friend bool operator==(const Vorgaben&, const Vorgaben&) = default;
 };
-[[nodiscard]] Schnappschuss SchnappschussNehmen();
-void SchnappschussZurueck(const Schnappschuss& schnappschuss);
+
+[[nodiscard]] Vorgaben VorgabenAus(const Spielwerte& spiel);
+// The standard values alone.
+void StandardHolen(Vorgaben& vorgaben, const Spielwerte& spiel);
+// The way back: the values in force, the standard values.
+void VorgabenUebernehmen(const Vorgaben& vorgaben, Spielwerte& spiel);
+void StandardUebernehmen(const Vorgaben& vorgaben, Spielwerte& spiel);
+
+// What cancelling the dialog puts back: the two counters and the three rules. Everything else stays as it is.
+void RegelnZuruecksetzen(const Spielwerte& vorher, Spielwerte& spiel);
 
 // FelderGesamt from the two counters. Run-time error 6 where the product doesn't fit 16 bits.
-void GesamtRechnen();
+void GesamtRechnen(Spielwerte& spiel);
 
 // One step of a spin control between 0 and the highest value. False at the bound, with the value as it was.
 inline constexpr std::int16_t hoechstensPunkte = 20;

@@ -1,13 +1,15 @@
 #include "testform/frmHBFragen.h"
 
 #include "catalogue/katalogladen.h"
+#include "core/formularfenster.h"
 #include "core/oberflaeche.h"
-#include "persistence/speichern.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "testform/hbereignisse.h"
 #include "testform/texte.h"
 
 #include <QCloseEvent>
+
+#include <utility>
 
 namespace {
 
@@ -47,9 +49,9 @@ Kopfwahl WahlBauen(QWidget* eltern, const QString& wort, std::string_view aufsch
 
 } // namespace
 
-frmHBFragen::frmHBFragen() {
+frmHBFragen::frmHBFragen(std::function<bool()> darfSchliessen) : darfSchliessen_(std::move(darfSchliessen)) {
     setObjectName(QStringLiteral("frmHBFragen"));
-    setProperty("tag", QStringLiteral("HBFragen"));
+    setProperty("tag", Anzeige(Fensterzeichen(Formart::Test)));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
     KopfBauen();
@@ -60,8 +62,8 @@ frmHBFragen::frmHBFragen() {
     FussBauen();
     Anordnen(TestMasseFuer(Bildschirmgroesse(this).width()));
     TabfolgeSetzen();
-    if (FarbeHintergrund == 0) {
-        FarbeHintergrund = 7;
+    if (Spiel.FarbeHintergrund == 0) {
+        Spiel.FarbeHintergrund = 7;
     }
     HintergrundMalen();
     HinweiseSetzen();
@@ -73,7 +75,7 @@ frmHBFragen::frmHBFragen() {
 
 void frmHBFragen::HintergrundMalen() {
     QPalette farben = palette();
-    farben.setColor(QPalette::Window, Qfarbe(FormularFarbe(FarbeHintergrund)));
+    farben.setColor(QPalette::Window, Qfarbe(FormularFarbe(Spiel.FarbeHintergrund)));
     setPalette(farben);
 }
 
@@ -94,7 +96,7 @@ void frmHBFragen::ListenFuellen() {
     }
     HBUnterthemenLaden();
     for (int i = 1; i <= anzahlListenplaetze; ++i) {
-        fach.liste->addItem(Anzeige(UnterthemenListe.at(Stelle(i))));
+        fach.liste->addItem(Anzeige(Katalog.UnterthemenListe.at(Stelle(i))));
     }
     for (const std::string_view eintrag : hbtexte::gruppenListe) {
         gruppe.liste->addItem(Anzeige(eintrag));
@@ -128,7 +130,7 @@ void frmHBFragen::FussBauen() {
 }
 
 void frmHBFragen::closeEvent(QCloseEvent* ereignis) {
-    if (SchliessenPruefen("HBFragen") == 1) {
+    if (!darfSchliessen_()) {
         ereignis->ignore();
         return;
     }

@@ -7,8 +7,8 @@
 #include "core/drehfeld.h"
 #include "core/panel.h"
 #include "core/textfeld.h"
-#include "testform/formdaten.h"
 #include "testform/formmasse.h"
+#include "testform/testformular.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <string>
 
 template <typename Steuerelement>
@@ -32,7 +33,8 @@ class frmHBFragen : public QWidget {
     Q_OBJECT
 
 public:
-    frmHBFragen();
+    // darfSchliessen is asked before the window closes.
+    explicit frmHBFragen(std::function<bool()> darfSchliessen);
 
     // Where the window belongs in the main window's child area, for its size with the frame.
     [[nodiscard]] QPoint Platz(QSize mitRahmen, QPoint wieGeoeffnet) const;
@@ -74,4 +76,6 @@ private:
     void UeberschriftenBauen(const TestMasse& masse);
     void TabfolgeSetzen();
     void HinweiseSetzen();
+
+    std::function<bool()> darfSchliessen_;
 };

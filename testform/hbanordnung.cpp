@@ -1,9 +1,9 @@
 // Where the controls of the test form stand, in which order Tab visits them and what they tell about
 // themselves.
 #include "core/oberflaeche.h"
-#include "periphery/hinweise.h"
 #include "testform/frmHBFragen.h"
 #include "testform/texte.h"
+#include "tooltips/hinweise.h"
 
 #include <algorithm>
 #include <utility>

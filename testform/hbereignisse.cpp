@@ -2,7 +2,6 @@
 
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "quizform/formdaten.h"
 #include "testform/frmHBFragen.h"
 
 #include <QAbstractItemView>
@@ -69,15 +68,14 @@ void WahlVerbinden(frmHBFragen& form, const Kopfwahl& wahl, Lesen lesen, Setzen 
         WahlSchliessen(wahl);
         wahl.taste->setFocus(Qt::OtherFocusReason);
         setzen(QLatin1Char(' ') + wahl.liste->itemText(eintrag));
-        FormStatusSetzen(1);
+        FormStatusSetzen(true);
     });
     new Listenwaechter(wahl); // belongs to the list
 }
 
 // Meant: the text is noted when the focus is already gone, so that nothing is ever found changed here. What
 // was typed reaches the stored copy with HB_Merken.
-void FokusVerloren(frmHBFragen& form, int n, const Textfeld& feld) {
-    AktuellesFeld = static_cast<std::int16_t>(n);
+void FokusVerloren(frmHBFragen& form, const Textfeld& feld) {
     form.HBAlterText = feld.text();
 }
 
@@ -102,18 +100,18 @@ void ZeilenEreignisseVerbinden(frmHBFragen& form) {
         Textfeld* antwort = form.txtAntwort.at(Stelle(n));
         QObject::connect(frage, &QPlainTextEdit::textChanged, &form, [&form, n] {
             ZeileFaerben(form, n);
-            FormStatusSetzen(1);
+            FormStatusSetzen(true);
         });
-        QObject::connect(antwort, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(1); });
+        QObject::connect(antwort, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(true); });
         for (Textfeld* feld : {frage, antwort}) {
             QObject::connect(feld, &Textfeld::fokusErhalten, &form, [feld] { TextMarkieren(feld); });
         }
         QObject::connect(frage, &Textfeld::fokusVerloren, &form, [&form, n, frage] {
             ZeileFaerben(form, n);
-            FokusVerloren(form, n, *frage);
+            FokusVerloren(form, *frage);
         });
         QObject::connect(antwort, &Textfeld::fokusVerloren, &form,
-                         [&form, n, antwort] { FokusVerloren(form, n, *antwort); });
+                         [&form, antwort] { FokusVerloren(form, *antwort); });
     }
 }
 

@@ -1,12 +1,8 @@
 #include "testform/hbformular.h"
 
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
-#include "dialogs/meldung.h"
-#include "filetools/formularliste.h"
-#include "persistence/speichern.h"
-#include "quizform/fkformular.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
 #include "testform/texte.h"
@@ -18,12 +14,33 @@ namespace {
 
 QPointer<frmHBFragen> fenster;
 
-void Freigeben() {
+// What others may do with the open test form.
+class HBSicht : public Formularfenster {
+public:
+    [[nodiscard]] Formart art() const override { return Formart::Test; }
+    [[nodiscard]] QWidget* fenster() override { return HBFragenOffen(); }
+    void NachVorn() override { HB_NachVorn(); }
+    void TitelSetzen(std::string_view titel) override { HB_FenstertitelSetzen(titel); }
+    bool Schliessen() override { return HB_Schliessen(); }
+    void Entladen() override { HB_Entladen(); }
+    void EingabeAbschliessen() override {} // typed text reaches the stored copy with HB_Merken alone
+    void Merken() override { HB_Merken(); }
+    void KopfMerken() override { HB_KopfMerken(); }
+    void Faerben() override { HB_FelderFaerben(); }
+    void FeldLeeren(int feld) override { HB_FeldLeeren(feld); }
+};
+
+HBSicht& Sicht() {
+    static HBSicht sicht;
+    return sicht;
+}
+
+void Freigeben(const HBAnlass& anlass) {
     fenster = nullptr;
-    FormTyp.clear();
-    HBDateiName.clear();
+    FormularAbmelden(Sicht());
+    anlass.geschlossen();
     SummeLeeren(nullptr);
-    BefehleHBFreigeben(false);
+    BefehleFreigeben(Formart::Test, false);
 }
 
 void Platzieren() {
@@ -40,56 +57,16 @@ QWidget* Rahmen() {
     return qobject_cast<QMdiSubWindow*>(rahmen) != nullptr ? rahmen : fenster.data();
 }
 
-// The window, made on first touch.
-frmHBFragen& Fenster() {
-    if (fenster.isNull()) {
-        fenster = new frmHBFragen; // owned by the child window that takes it
-        QObject::connect(fenster, &frmHBFragen::geschlossen, fenster, [] { Freigeben(); });
-        Platzieren();
-        BefehleHBFreigeben(true);
-    }
-    return *fenster;
-}
-
-void ModellLeeren() {
-    HBFrageText.fill({});
-    HBAntwortText.fill({});
-    HBPunkte.fill(0);
-    HBFach.clear();
-    HBKopf1.clear();
-    HBKopf2.clear();
-    HBKopf3.clear();
-    HBGesamtpunkte = 0;
-}
-
-// False when the user wants to keep what is open.
-bool NeuErlaubt() {
-    NachrichtAntwort = antwortAbbrechen;
-    if (Nachricht(hbtexte::neu) == antwortAbbrechen) {
-        return false;
-    }
-    if (FormGeaendert != 1) {
-        return true;
-    }
-    NachrichtAntwort = antwortAbbrechen;
-    Nachricht(hbtexte::neuSpeichern);
-    if (NachrichtAntwort == antwortJa) {
-        FK_Merken(); // does nothing while there is no quiz form
-        HB_Merken();
-        return Speichern(); // a save that did not come about counts as Abbrechen
-    }
-    return NachrichtAntwort != antwortAbbrechen;
-}
-
 // The caption that was saved, or the one of an untouched form.
 QString Kopftext(const std::string& gespeichert, std::string_view sonst) {
     return Anzeige(gespeichert.empty() ? sonst : std::string_view(gespeichert));
 }
 
 void KopfFuellen(frmHBFragen& form) {
-    form.titel.panel->setCaption(Kopftext(HBKopf1, hbtexte::titel));
-    form.fach.panel->setCaption(Kopftext(HBFach.empty() ? HBKopf2 : HBFach, hbtexte::fach));
-    form.lblGruppe->setText(Anzeige(HBKopf3));
+    form.titel.panel->setCaption(Kopftext(HBForm.HBKopf1, hbtexte::titel));
+    form.fach.panel->setCaption(
+        Kopftext(HBForm.HBFach.empty() ? HBForm.HBKopf2 : HBForm.HBFach, hbtexte::fach));
+    form.lblGruppe->setText(Anzeige(HBForm.HBKopf3));
 }
 
 } // namespace
@@ -98,23 +75,15 @@ frmHBFragen* HBFragenOffen() {
     return fenster;
 }
 
-bool HB_Neu() {
-    if (!NeuErlaubt()) {
-        return false;
+frmHBFragen& HB_Fenster(const HBAnlass& anlass) {
+    if (fenster.isNull()) {
+        fenster = new frmHBFragen(anlass.darfSchliessen); // owned by the child window that takes it
+        QObject::connect(fenster, &frmHBFragen::geschlossen, fenster, [anlass] { Freigeben(anlass); });
+        FormularAnmelden(Sicht());
+        Platzieren();
+        BefehleFreigeben(Formart::Test, true);
     }
-    HB_Entladen();
-    FK_Entladen(); // only one form can be open
-    HB_ModusSetzen();
-    ModellLeeren();
-    DateiName.clear();
-    HBDateiName.clear();
-    Fenster().show();
-    HB_FragenLoeschen();
-    KindNachVorn("HBFragen");
-    HB_FenstertitelSetzen(hbtexte::neuerTitel);
-    FormularlisteTastenSetzen("Test");
-    FormStatusSetzen(0);
-    return true;
+    return *fenster;
 }
 
 void HB_Entladen() {
@@ -122,8 +91,7 @@ void HB_Entladen() {
         return;
     }
     QWidget* alt = Rahmen();
-    fenster->disconnect();
-    Freigeben();
+    Q_EMIT fenster->geschlossen();
     delete alt;
 }
 
@@ -134,28 +102,29 @@ bool HB_Schliessen() {
     return fenster.isNull();
 }
 
-void HB_ModusSetzen() {
-    ModusTest();
-}
-
-void HB_FormularZeigen(std::string_view titel) {
-    frmHBFragen& form = Fenster();
-    HB_ModusSetzen();
-    form.HintergrundMalen();
-    KopfFuellen(form);
+void HB_FormularZeigen() {
+    frmHBFragen* form = fenster;
+    if (form == nullptr) {
+        return;
+    }
+    form->HintergrundMalen();
+    KopfFuellen(*form);
     HB_FragenEinfuegen();
     HB_AntwortenEinfuegen();
     HB_PunkteEinfuegen();
     HB_FelderFaerben();
-    SummeZeigen(form, HBGesamtpunkte);
-    HB_FenstertitelSetzen(titel);
-    form.show();
-    KindNachVorn("HBFragen");
+    SummeZeigen(*form, HBForm.HBGesamtpunkte);
+}
+
+void HB_NachVorn() {
+    if (!fenster.isNull()) {
+        fenster->show();
+        KindNachVorn(fenster);
+    }
 }
 
 void HB_FenstertitelSetzen(std::string_view titel) {
-    frmHBFragen* form = fenster;
-    if (form != nullptr) {
-        form->setWindowTitle(Anzeige(titel));
+    if (!fenster.isNull()) {
+        fenster->setWindowTitle(Anzeige(titel));
     }
 }

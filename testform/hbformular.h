@@ -1,7 +1,13 @@
-// The test form as the rest of the program sees it: the commands on it and the routines that bring the stored
-// copy and the window together. Each does nothing where it needs an open window and there is none.
+// The test form as the rest of the program sees it: its window and the routines that bring the stored copy
+// and the window together. Each does nothing where it needs an open window and there is none. Making, opening
+// and saving a form is forms/.
 #pragma once
 
+#include "core/ziehwert.h"
+#include "testform/testformular.h"
+
+#include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -10,10 +16,17 @@ class frmHBFragen;
 // The test form's window, nullptr while none is open.
 frmHBFragen* HBFragenOffen();
 
-// The command for a new test form, with its questions. False when it was refused.
-bool HB_Neu();
-// Shows the window (making it on first touch) for the stored copy just read, with that caption.
-void HB_FormularZeigen(std::string_view titel);
+// The window, made on first touch. darfSchliessen is asked when the user closes it, geschlossen runs when it
+// is about to go.
+struct HBAnlass {
+    std::function<bool()> darfSchliessen;
+    std::function<void()> geschlossen;
+};
+frmHBFragen& HB_Fenster(const HBAnlass& anlass);
+// Fills the window from the stored copy just read.
+void HB_FormularZeigen();
+// Shows the window and brings it to the front.
+void HB_NachVorn();
 // Caption of the open form.
 void HB_FenstertitelSetzen(std::string_view titel);
 // Closes the window with its closing check; true when it is gone.
@@ -21,12 +34,13 @@ bool HB_Schliessen();
 // Closes the window without asking; what is on it is discarded.
 void HB_Entladen();
 
-void HB_ModusSetzen();
-// Window into stored copy: the whole form; the row AktuellesFeld; the three captions of the head.
+// Window into stored copy: the whole form; one row; the three captions of the head.
 void HB_Merken();
-void HB_FeldMerken();
+void HB_FeldMerken(int n);
 void HB_KopfMerken();
 void HB_FelderFaerben();
+// What the form shows, as a value; the stored copy stays as it is. Without a form the stored copy.
+[[nodiscard]] Testformular HB_Ablesen();
 
 // Blanking on the screen and putting the stored copy back. The totals stay as they are.
 void HB_FragenLoeschen();
@@ -36,11 +50,23 @@ void HB_AntwortenEinfuegen();
 void HB_PunkteLoeschen();
 void HB_PunkteEinfuegen();
 
-// Texts of a row of the open form, as a drop or the trash needs them; "" without a form.
+// Texts of a row of the open form; "" without a form.
 std::string HB_Frage(int n);
 std::string HB_Antwort(int n);
 void HB_FeldLeeren(int n);
 
-// Places a question in a row, as a drop does: asks where the row is occupied, takes the answer from where
-// DragArt and DragFeld say.
-void HB_Ablegen(int n, const std::string& frage);
+// What the paper shows of the form on the screen: captions as they stand, with the screen's line ends, a
+// row's points "" where they are blanked. The stored copy stays as it is. An untouched form where none is
+// open.
+struct Testblatt {
+    std::string titel, fach, gruppenwort, gruppe, name;
+    struct Zeile {
+        std::string frage, antwort, punkte;
+    };
+    std::array<Zeile, anzahlTestfragen + 1> zeilen; // from 1
+};
+[[nodiscard]] Testblatt HB_Bildschirm();
+
+// Places a question in a row, as a drop does: asks where the row is occupied, and empties the place that a
+// move came from.
+void HB_Ablegen(int n, const Ziehwert& wert);

@@ -2,20 +2,33 @@
 // the screen. The stored copy stays untouched by a blanking. Meant: what was typed since the last merge isn't
 // in it and doesn't come back.
 #include "core/oberflaeche.h"
-#include "quizform/formdaten.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
 #include "testform/hbformular.h"
 #include "testform/punkte.h"
+#include "testform/texte.h"
 
 #include <functional>
 
 namespace {
 
-void ZeileMerken(const frmHBFragen& form, std::size_t i) {
-    HBFrageText.at(i) = form.txtFrage.at(i)->text();
-    HBAntwortText.at(i) = form.txtAntwort.at(i)->text();
-    HBPunkte.at(i) = PunkteWert(Modelltext(form.pnlPunkte.at(i)->caption()));
+void ZeileAblesen(const frmHBFragen& form, Testformular& ziel, std::size_t i) {
+    ziel.HBFrageText.at(i) = form.txtFrage.at(i)->text();
+    ziel.HBAntwortText.at(i) = form.txtAntwort.at(i)->text();
+    ziel.HBPunkte.at(i) = PunkteWert(Modelltext(form.pnlPunkte.at(i)->caption()));
+}
+
+void ZeilenAblesen(const frmHBFragen& form, Testformular& ziel) {
+    ziel.HBFach = Modelltext(form.fach.panel->caption());
+    for (std::size_t i = 1; i <= anzahlTestfragen; ++i) {
+        ZeileAblesen(form, ziel, i);
+    }
+}
+
+void KopfAblesen(const frmHBFragen& form, Testformular& ziel) {
+    ziel.HBKopf1 = Modelltext(form.titel.panel->caption());
+    ziel.HBKopf2 = Modelltext(form.fach.panel->caption());
+    ziel.HBKopf3 = Modelltext(form.lblGruppe->text());
 }
 
 // Runs for each row of the open form; without one for none.
@@ -36,29 +49,31 @@ bool Vorhanden(const frmHBFragen* form, int n) {
 } // namespace
 
 void HB_Merken() {
-    const frmHBFragen* form = HBFragenOffen();
-    if (form == nullptr) {
-        return;
+    if (const frmHBFragen* form = HBFragenOffen(); form != nullptr) {
+        ZeilenAblesen(*form, HBForm);
     }
-    HBFach = Modelltext(form->fach.panel->caption());
-    JedeZeile([](const frmHBFragen& f, std::size_t i) { ZeileMerken(f, i); });
 }
 
-void HB_FeldMerken() {
+void HB_FeldMerken(int n) {
     const frmHBFragen* form = HBFragenOffen();
-    if (Vorhanden(form, AktuellesFeld)) {
-        ZeileMerken(*form, static_cast<std::size_t>(AktuellesFeld));
+    if (Vorhanden(form, n)) {
+        ZeileAblesen(*form, HBForm, static_cast<std::size_t>(n));
     }
 }
 
 void HB_KopfMerken() {
-    const frmHBFragen* form = HBFragenOffen();
-    if (form == nullptr) {
-        return;
+    if (const frmHBFragen* form = HBFragenOffen(); form != nullptr) {
+        KopfAblesen(*form, HBForm);
     }
-    HBKopf1 = Modelltext(form->titel.panel->caption());
-    HBKopf2 = Modelltext(form->fach.panel->caption());
-    HBKopf3 = Modelltext(form->lblGruppe->text());
+}
+
+Testformular HB_Ablesen() {
+    Testformular ziel = HBForm;
+    if (const frmHBFragen* form = HBFragenOffen(); form != nullptr) {
+        ZeilenAblesen(*form, ziel);
+        KopfAblesen(*form, ziel);
+    }
+    return ziel;
 }
 
 void HB_FelderFaerben() {
@@ -70,7 +85,8 @@ void HB_FragenLoeschen() {
 }
 
 void HB_FragenEinfuegen() {
-    JedeZeile([](frmHBFragen& form, std::size_t i) { form.txtFrage.at(i)->setText(HBFrageText.at(i)); });
+    JedeZeile(
+        [](frmHBFragen& form, std::size_t i) { form.txtFrage.at(i)->setText(HBForm.HBFrageText.at(i)); });
 }
 
 void HB_AntwortenLoeschen() {
@@ -78,7 +94,8 @@ void HB_AntwortenLoeschen() {
 }
 
 void HB_AntwortenEinfuegen() {
-    JedeZeile([](frmHBFragen& form, std::size_t i) { form.txtAntwort.at(i)->setText(HBAntwortText.at(i)); });
+    JedeZeile(
+        [](frmHBFragen& form, std::size_t i) { form.txtAntwort.at(i)->setText(HBForm.HBAntwortText.at(i)); });
 }
 
 void HB_PunkteLoeschen() {
@@ -88,7 +105,7 @@ void HB_PunkteLoeschen() {
 void HB_PunkteEinfuegen() {
     // A row that held no points shows 0, and that is meant.
     JedeZeile([](frmHBFragen& form, std::size_t i) {
-        form.pnlPunkte.at(i)->setCaption(QString::number(HBPunkte.at(i)));
+        form.pnlPunkte.at(i)->setCaption(QString::number(HBForm.HBPunkte.at(i)));
     });
 }
 
@@ -108,4 +125,23 @@ void HB_FeldLeeren(int n) {
         form->txtFrage.at(static_cast<std::size_t>(n))->setText("");
         form->txtAntwort.at(static_cast<std::size_t>(n))->setText("");
     }
+}
+
+Testblatt HB_Bildschirm() {
+    Testblatt blatt;
+    const frmHBFragen* form = HBFragenOffen();
+    if (form == nullptr) {
+        blatt.fach = hbtexte::fach;
+        return blatt;
+    }
+    blatt.titel = form->titel.panel->caption().toStdString();
+    blatt.fach = form->fach.panel->caption().toStdString();
+    blatt.gruppenwort = form->gruppe.panel->caption().toStdString();
+    blatt.gruppe = form->lblGruppe->text().toStdString();
+    blatt.name = form->pnlName->caption().toStdString();
+    JedeZeile([&blatt](const frmHBFragen& f, std::size_t i) {
+        blatt.zeilen.at(i) = {f.txtFrage.at(i)->text(), f.txtAntwort.at(i)->text(),
+                              f.pnlPunkte.at(i)->caption().toStdString()};
+    });
+    return blatt;
 }

@@ -23,13 +23,13 @@ void Schritt(frmHBFragen& form, std::size_t i, int schritt) {
     Panel* punkte = form.pnlPunkte.at(i);
     try {
         punkte->setCaption(Anzeige(PunkteNachSchritt(Modelltext(punkte->caption()), schritt)));
-        HBPunkte.at(i) = PunkteWert(Modelltext(punkte->caption()));
+        HBForm.HBPunkte.at(i) = PunkteWert(Modelltext(punkte->caption()));
     } catch (const Laufzeitfehler&) {
         // A caption that no counter can hold stays as it is.
     }
-    HBGesamtpunkte = SummeDerZeilen(form);
-    SummeZeigen(form, HBGesamtpunkte);
-    FormStatusSetzen(1);
+    HBForm.HBGesamtpunkte = SummeDerZeilen(form);
+    SummeZeigen(form, HBForm.HBGesamtpunkte);
+    FormStatusSetzen(true);
 }
 
 void HauptfensterSumme(const QString& text) {

@@ -1,11 +1,8 @@
 // Questions that leave a row of the test form and questions that land in one.
 #include "catalogue/auswahl.h"
-#include "core/ablage.h"
 #include "core/hauptfenster.h"
 #include "core/ziehen.h"
 #include "dialogs/meldung.h"
-#include "quizform/formdaten.h"
-#include "quizform/ziehregeln.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
 #include "testform/hbformular.h"
@@ -13,21 +10,14 @@
 
 namespace {
 
-// Meant: a copy bears this number and not that of the quiz form's copy, so that its drop takes the answer
-// from the selection dialog.
-constexpr std::int16_t testkopie = 27;
-
 std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
 // A press on the question of row n. True when it was more than an ordinary click.
 bool Druck(frmHBFragen& form, int n, Qt::KeyboardModifiers tasten) {
-    DragHerkunft = "HBFragen";
-    const ZiehBeginn beginn =
-        ZiehBeginnFuer(tasten.testFlag(Qt::ShiftModifier), tasten.testFlag(Qt::ControlModifier),
-                       tasten.testFlag(Qt::AltModifier), "", false);
-    if (beginn.art == 0) {
+    const std::optional<Zugart> art = ZugartFuer(tasten);
+    if (!art) {
         return false;
     }
     Textfeld* frage = form.txtFrage.at(Stelle(n));
@@ -36,9 +26,12 @@ bool Druck(frmHBFragen& form, int n, Qt::KeyboardModifiers tasten) {
         return true;
     }
     frage->setFocus(Qt::MouseFocusReason);
-    DragArt = beginn.art == 2 ? testkopie : beginn.art;
-    DragFeld = static_cast<std::int16_t>(n);
-    Ziehen(frage, frage->text());
+    if (art == Zugart::Kopieren) {
+        // Meant: a copy takes the answer from the selection dialog.
+        Ziehen(frage, {Zugart::Testkopie, Formart::Test, n, frage->text(), AuswahlAntwort()});
+    } else {
+        Ziehen(frage, {*art, Formart::Test, n, frage->text(), HB_Antwort(n)});
+    }
     return true;
 }
 
@@ -48,7 +41,7 @@ void TestziehenVerbinden(frmHBFragen& form) {
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
         DruckEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { return Druck(form, n, tasten); });
-        ZielEinrichten(frage, ZiehBild::Ablegen, [n] { HB_Ablegen(n, GezogeneFrage()); });
+        ZielEinrichten(frage, ZiehBild::Ablegen, [n](const Ziehwert& wert) { HB_Ablegen(n, wert); });
         TastenEinrichten(frage, [&form, n](Qt::KeyboardModifiers tasten) { Druck(form, n, tasten); });
         KeinZiel(form.txtAntwort.at(Stelle(n)));
         KeinZiel(form.pnlNr.at(Stelle(n)));
@@ -62,7 +55,7 @@ void TestziehenVerbinden(frmHBFragen& form) {
     }
 }
 
-void HB_Ablegen(int n, const std::string& frage) {
+void HB_Ablegen(int n, const Ziehwert& wert) {
     frmHBFragen* form = HBFragenOffen();
     if (form == nullptr || n < 1 || n > anzahlTestfragen) {
         return;
@@ -71,21 +64,14 @@ void HB_Ablegen(int n, const std::string& frage) {
     if (!bisher.empty() && bisher != hbtexte::platzhalter && !ErsetzenErlaubt(hbtexte::zeileBesetzt)) {
         return;
     }
-    const bool ausForm = DragArt == 1 || DragArt == 2;
-    const std::string antwort =
-        !ausForm ? AuswahlAntwort() : (DragFeld == 0 ? AblageAntwort() : HB_Antwort(DragFeld));
-    form->txtFrage.at(Stelle(n))->setText(frage);
-    form->txtAntwort.at(Stelle(n))->setText(antwort);
-    if (DragArt == 1) {
+    form->txtFrage.at(Stelle(n))->setText(wert.frage);
+    form->txtAntwort.at(Stelle(n))->setText(wert.antwort);
+    if (wert.art == Zugart::Verschieben) {
         // Meant: a row dropped on itself loses its question here, and the stored copy keeps the source row
         // until HB_Merken.
-        HB_FeldLeeren(DragFeld);
+        HB_FeldLeeren(wert.feld);
     }
-    if (ausForm) {
-        DragArt = 0;
-    }
-    AktuellesFeld = static_cast<std::int16_t>(n);
-    HB_FeldMerken();
+    HB_FeldMerken(n);
     HB_FelderFaerben();
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
 }

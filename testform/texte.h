@@ -1,7 +1,7 @@
 // Every text with which the test form speaks: captions, lists, questions, tips, status lines.
 #pragma once
 
-#include "dialogs/texte.h"
+#include "core/meldungstext.h"
 
 #include <array>
 #include <string_view>

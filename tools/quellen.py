@@ -5,9 +5,10 @@ import pathlib
 import re
 
 WURZEL = pathlib.Path(__file__).resolve().parent.parent
+# The declared order of the folders: each may include what stands before it, and nothing behind it.
 SUBSYSTEME = [
-    "core", "dialogs", "quizform", "testform", "catalogue", "persistence",
-    "settings", "printing", "editor", "filetools", "periphery",
+    "core", "tooltips", "dialogs", "rules", "catalogue", "quizform", "testform", "persistence",
+    "printing", "filetools", "settings", "editor", "periphery", "forms", "mainwindow",
 ]
 SCHICHTEN = ["modell", "rand", "fenster"]  # from the bottom up
 

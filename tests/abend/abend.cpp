@@ -2,11 +2,11 @@
 // file, the printed page and a picture of each window it used. Real clicks and drags; an unexpected window
 // ends it.
 #include "catalogue/auswahl.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/dialogfolge.h"
@@ -102,9 +102,7 @@ void Abend::initTestCase() {
     for (const QString& rest : reste) {
         QVERIFY(QFile::remove(zielordner + QLatin1Char('/') + rest));
     }
-    const std::string pfad = AppPfad;
     ZustandZuruecksetzen();
-    AppPfad = pfad;
     OberflaecheEinrichten();
     QApplication::setQuitOnLastWindowClosed(false);
 }
@@ -218,7 +216,7 @@ void Abend::Speichern() {
     dialoge.erwarte(gespeichert);
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdDateiFK(3)")));
     QTRY_VERIFY(dialoge.fertig());
-    QVERIFY(QFile::copy(NativerPfad(FKDateiName), zielordner + QStringLiteral("/ABEND.FKR")));
+    QVERIFY(QFile::copy(NativerPfad(Stand.FKDateiName), zielordner + QStringLiteral("/ABEND.FKR")));
 }
 
 void Abend::Drucken() {
@@ -257,7 +255,7 @@ void Abend::WiederOeffnen() {
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdLaden")));
     QTRY_VERIFY(FKFragenOffen() != nullptr);
     QCOMPARE(FKFragenOffen()->pnlWissen.at(1)->caption(), QStringLiteral("Tiere"));
-    QCOMPARE(FeldSpezial.at(4), std::string("J"));
+    QCOMPARE(FKForm.FeldSpezial.at(4), std::string("J"));
     Bild(MDIFenster(), QStringLiteral("10-frmMDI-wieder-geoeffnet"));
     FK_Entladen();
     delete FensterOderNichts(QStringLiteral("frmAuswahl"));

@@ -1,13 +1,13 @@
 // Makes the forms that the program is delivered with: each is put together in the real windows, with
 // questions dragged from the catalogue, and saved by the program's own command. They go into the folders
 // KRANZ and TEST beneath the folder that VORLAGEN_ORDNER names.
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
 #include "filetools/formularliste.h"
 #include "filetools/frmFKformulare.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
 #include "quizform/frmFKFragen.h"
+#include "quizform/quizformular.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/dialogfolge.h"

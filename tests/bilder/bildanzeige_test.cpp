@@ -1,11 +1,11 @@
 // What the windows show of the pictures: toolbars, dialogs, answers, and a background that is missing.
 #include "core/bilder.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/schaltflaechen.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "dialogs/sinnbilder.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/schaltflaechen.h"
 #include "tests/bilder/bildvergleich.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
@@ -47,8 +47,8 @@ void BildanzeigeTest::aMissingBackgroundOfTheInputDialogIsReportedOnce() {
         dialoge.eingabe(QStringLiteral("Titel"), QStringLiteral("Text"), QStringLiteral("Zeile"),
                         QStringLiteral("cmdOK"));
     }
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Text", "Vorgabe");
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
 }
 
@@ -132,7 +132,7 @@ void BildanzeigeTest::everyNumberOfAMessageShowsItsPicture() {
                                  verschiedene.insert(bild->pixmap().cacheKey());
                              }
                          }});
-        Meldung(0, i, "Text", "1", "Schön");
+        Meldung(MeldungsText{i, "Text", "1", "Schön"});
         QVERIFY(dialoge.fertig());
     }
     QCOMPARE(verschiedene.size(), 12);
@@ -154,7 +154,7 @@ void BildanzeigeTest::everyNumberOfAQuestionShowsItsPicture() {
                                              bild->devicePixelRatioF()));
                              QVERIFY(!bild->accessibleName().isEmpty());
                          }});
-        Nachricht(i, "Titel", "Text", 0, 1111);
+        Nachricht(NachrichtText{i, "Titel", "Text", 0, 1111});
         QVERIFY(dialoge.fertig());
     }
 }
@@ -173,7 +173,7 @@ void BildanzeigeTest::everyNumberOfTheInputDialogShowsItsPicture() {
                              QVERIFY(!Leer(bild->pixmap().toImage()));
                              QCOMPARE(bild->pixmap().deviceIndependentSize(), QSizeF(32, 32));
                          }});
-        Eingabe(i, "Titel", "Text", "Vorgabe", 1111);
+        Eingabe(i, "Titel", "Text", "Vorgabe");
         QVERIFY(dialoge.fertig());
     }
 }
@@ -205,7 +205,7 @@ void BildanzeigeTest::theAnswersCarryTheirWordInThePictureAndTheKeyInTheCaption(
                                      taste->iconSize().height() < taste->height());
                          }
                      }});
-    Nachricht(7, "Titel", "Text", 2, 1111);
+    Nachricht(NachrichtText{7, "Titel", "Text", 2, 1111});
     QVERIFY(dialoge.fertig());
 }
 

@@ -1,7 +1,7 @@
 // The pictures themselves: sizes, doubles, and that none is told by its colour alone.
 #include "core/bilder.h"
-#include "core/frmMDI.h"
 #include "core/ziehbilder.h"
+#include "mainwindow/frmMDI.h"
 #include "tests/bilder/bildvergleich.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"

@@ -3,19 +3,21 @@
 // BILDER_ORDNER names the folder where the pictures go.
 #include "catalogue/katalogladen.h"
 #include "catalogue/themen.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/hauptfenster.h"
-#include "core/texte.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
+#include "forms/quizformulare.h"
+#include "forms/testformulare.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
+#include "mainwindow/texte.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
 #include "quizform/frmFKFragen.h"
-#include "testform/formdaten.h"
+#include "quizform/quizformular.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -72,9 +74,10 @@ Fragenliste Fragen(const Gebiet& gebiet) {
     UnterthemenLaden(gebiet.thema);
     Fragenliste liste;
     std::string unter = gebiet.unterthema;
-    if (std::find(UnterthemenListe.begin(), UnterthemenListe.end(), unter) == UnterthemenListe.end() ||
+    if (std::find(Katalog.UnterthemenListe.begin(), Katalog.UnterthemenListe.end(), unter) ==
+            Katalog.UnterthemenListe.end() ||
         unter.empty()) {
-        unter = UnterthemenListe.at(1);
+        unter = Katalog.UnterthemenListe.at(1);
     }
     FragenLaden(gebiet.thema, unter, liste);
     return liste;
@@ -84,29 +87,29 @@ void QuizFuellen() {
     for (int a = 1; a <= anzahlGebiete; ++a) {
         const Gebiet& gebiet = gebiete.at(a - 1);
         const Thema* thema = ThemaSuchen(gebiet.thema);
-        WissenTitel.at(Nr(a)) = thema != nullptr ? gebiet.thema : ThemenListe.at(Nr(a));
-        const Fragenliste liste = Fragen({WissenTitel.at(Nr(a)).c_str(), gebiet.unterthema});
+        FKForm.WissenTitel.at(Nr(a)) = thema != nullptr ? gebiet.thema : Katalog.ThemenListe.at(Nr(a));
+        const Fragenliste liste = Fragen({FKForm.WissenTitel.at(Nr(a)).c_str(), gebiet.unterthema});
         for (int r = 0; r < fragenJeGebiet && Nr(r) < liste.anzahl(); ++r) {
             const std::size_t n = Nr(fragenJeGebiet * (a - 1) + r + 1);
-            FrageText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Frage);
-            AntwortText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Antwort);
+            FKForm.FrageText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Frage);
+            FKForm.AntwortText.at(n) = liste.wert(Nr(2 * r) % liste.anzahl(), Spalte::Antwort);
         }
     }
     for (const auto& [n, buchstabe] :
          {std::pair{4, "J"}, {9, "G"}, {12, "R"}, {20, "A"}, {23, "E"}, {26, "G"}}) {
-        FeldSpezial.at(Nr(n)) = buchstabe;
+        FKForm.FeldSpezial.at(Nr(n)) = buchstabe;
     }
-    FormNr = "1";
-    FormDatum = "20.11.2026";
-    FormZeit = "45 min";
+    FKForm.FormNr = "1";
+    FKForm.FormDatum = "20.11.2026";
+    FKForm.FormZeit = "45 min";
 }
 
 void TestFuellen() {
     const Fragenliste liste = Fragen({"Tiere", "Haustiere"});
     for (int n = 1; n <= anzahlTestfragen; ++n) {
-        HBFrageText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Frage);
-        HBAntwortText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Antwort);
-        HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(n % 3 + 1);
+        HBForm.HBFrageText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Frage);
+        HBForm.HBAntwortText.at(Nr(n)) = liste.wert(Nr(n), Spalte::Antwort);
+        HBForm.HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(n % 3 + 1);
     }
 }
 
@@ -148,8 +151,8 @@ void Fensterbilder::quizformular() {
     programm.NeuesQuizformular();
     ThemenLaden();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
-    FormStatusSetzen(0);
+    FK_GelesenesZeigen(" Feldkranz-Formular");
+    FormStatusSetzen(false);
     Bild(programm.haupt(), QStringLiteral("feldkranz"));
     Kindbild(FKFragenOffen(), QStringLiteral("frmFKFragen"));
 }
@@ -158,8 +161,8 @@ void Fensterbilder::testformular() {
     Programm programm;
     programm.NeuesTestformular();
     TestFuellen();
-    HBGesamtpunkte = 20;
-    HB_FormularZeigen(" Test-Formular");
+    HBForm.HBGesamtpunkte = 20;
+    HB_GelesenesZeigen(" Test-Formular");
     Bild(programm.haupt(), QStringLiteral("testformular"));
     Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));
 }
@@ -228,14 +231,17 @@ void Fensterbilder::meldungen() {
     mitBild("frmNachricht", "cmdAntwort(2)", QStringLiteral("frmNachricht"));
     Nachricht(kerntexte::schliessenGeaendert);
     mitBild("frmInput", "cmdAbbruch", QStringLiteral("frmInput"));
-    Eingabe(dateitexte::kopierBild, dateitexte::kopierTitel, dateitexte::kopierFrage, "LAGER", 1111);
+    Eingabe(dateitexte::kopierBild, dateitexte::kopierTitel, dateitexte::kopierFrage, "LAGER");
     for (int i = 0; i <= 11; ++i) {
         mitBild("frmMeldung", "cmdKenntnis", QStringLiteral("alle/frmMeldung-%1").arg(i));
-        Meldung(0, i, "Bild Nummer " + std::to_string(i), std::to_string(i), "Schön");
+        const std::string nummer = std::to_string(i);
+        const std::string text = "Bild Nummer " + nummer;
+        Meldung(MeldungsText{i, text, nummer, "Schön"});
     }
     for (int i = 1; i <= 12; ++i) {
         mitBild("frmNachricht", "cmdAntwort(2)", QStringLiteral("alle/frmNachricht-%1").arg(i));
-        Nachricht(i, "Bild", "Bild Nummer " + std::to_string(i), i % 3 + 2, 1111);
+        const std::string text = "Bild Nummer " + std::to_string(i);
+        Nachricht(NachrichtText{i, "Bild", text, i % 3 + 2, 1111});
     }
 }
 

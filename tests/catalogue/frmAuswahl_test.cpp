@@ -4,8 +4,8 @@
 #include "catalogue/auswahltexte.h"
 #include "catalogue/themen.h"
 #include "core/oberflaeche.h"
+#include "core/programmstand.h"
 #include "core/ziehen.h"
-#include "core/zustand.h"
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
@@ -44,13 +44,10 @@ QByteArray Unterliste(QStringList namen) {
 }
 
 // A drag that another window began, dropped on the trash field.
-void InDenMuell(const char* herkunft, std::int16_t feld) {
+void InDenMuell(Formart herkunft, int feld) {
     QLabel quelle;
     QVERIFY(OhneMausAufnehmen([&] {
-        DragHerkunft = herkunft;
-        DragArt = 1;
-        DragFeld = feld;
-        Ziehen(&quelle, "Eine Frage");
+        Ziehen(&quelle, {Zugart::Verschieben, herkunft, feld, "Eine Frage", ""});
     }));
     QVERIFY(OhneMausAblegen(Finden(Fenster(QStringLiteral("frmAuswahl")), QStringLiteral("fraMuell"))));
 }
@@ -113,9 +110,9 @@ private:
 };
 
 void AuswahlTest::init() {
-    ThemenListe.fill({});
-    UnterthemenListe.fill({});
-    FormGeaendert = 0;
+    Katalog.ThemenListe.fill({});
+    Katalog.UnterthemenListe.fill({});
+    Stand.FormGeaendert = false;
     ordner_ = std::make_unique<Programmordner>();
     ordner_->schreiben(
         QStringLiteral("WISSEN/WISSEN.TXT"),
@@ -177,7 +174,7 @@ void AuswahlTest::pickingABlankThemeLeadsToTheMessageOfTheSubThemeReader() {
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("Ich habe Probleme mit den Unterthemen zu  [  ] !\n"
                                    "( Wahrscheinlich fehlt die entsprechende Datei\nim Ordner [ ") +
-                        Anzeige(AppPfad) + QStringLiteral("\\WISSEN ] )"),
+                        Anzeige(Stand.AppPfad) + QStringLiteral("\\WISSEN ] )"),
                     QStringLiteral("Ich sehe nach !"));
     liste("cmbThemen")->setCurrentIndex(2);
     QVERIFY(dialoge.fertig());
@@ -243,7 +240,7 @@ void AuswahlTest::twoQuestionsWithTheSameTextShowTheAnswerOfTheLaterOneBothTimes
 void AuswahlTest::aSubThemeWithoutAKnownThemeLoadsNothing() {
     BerufeLaden();
     const QString unter = liste("cmbUnter")->currentText();
-    ThemenListe[1] = "Leute "; // not one of the sixteen names
+    Katalog.ThemenListe[1] = "Leute "; // not one of the sixteen names
     {
         const QSignalBlocker still(liste("cmbThemen"));
         liste("cmbThemen")->setItemText(0, QStringLiteral("Leute "));
@@ -268,24 +265,21 @@ void AuswahlTest::pickingWithTheKeyboardPicksOnce() {
 }
 
 void AuswahlTest::aPressOnAnEmptyTxtFrageStartsADragAllTheSame() {
-    DragArt = 27;
-    DragHerkunft.clear();
     auto* txtFrage = Finden<QPlainTextEdit>(fenster_, QStringLiteral("txtFrage"));
     bool gezogen = false;
     maus::Ziehen(txtFrage, txtFrage, Qt::NoModifier,
                  [&] { return gezogen = AktuellesZiehBild() == ZiehBild::Aufnehmen; });
     QVERIFY(gezogen);
-    QCOMPARE(DragArt, std::int16_t{0});
-    QCOMPARE(DragHerkunft, std::string("Auswahl"));
-    QCOMPARE(GezogeneFrage(), std::string());
+    QVERIFY(Gezogen() == (Ziehwert{Zugart::Auswahl, Formart::Keine, 0, "", ""}));
 }
 
 void AuswahlTest::aRightPressStartsNothing() {
-    DragHerkunft = "FKFragen";
+    const Ziehwert vorher = Gezogen();
     auto* txtFrage = Finden<QPlainTextEdit>(fenster_, QStringLiteral("txtFrage"));
     QTest::mousePress(txtFrage->viewport(), Qt::RightButton);
     QTest::mouseRelease(txtFrage->viewport(), Qt::RightButton);
-    QCOMPARE(DragHerkunft, std::string("FKFragen"));
+    QVERIFY(Gezogen() == vorher);
+    QCOMPARE(AktuellesZiehBild(), ZiehBild::Keins);
 }
 
 void AuswahlTest::theBackgroundTheFrameAndTheButtonAreNoTargets() {
@@ -311,33 +305,33 @@ void AuswahlTest::aQuestionOfThisDialogOnTheTrashChangesNothingAndShowsTheMessag
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(feld("txtFrage"), QStringLiteral("Wer fährt zur See?"));
     QCOMPARE(feld("txtAntwort"), QStringLiteral("Der Matrose"));
-    QCOMPARE(FormGeaendert, std::int16_t{0});
+    QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(Finden(fenster_, QStringLiteral("picMuell"))->property("BlattNr").toInt(), 7);
 }
 
 void AuswahlTest::theTrashAsksBeforeItThrowsAQuestionOfAFormAway() {
     for (const auto& [herkunft, typ] :
-         {std::pair{"FKFragen", "FK"}, std::pair{"HBFragen", "Test"}, std::pair{"FKFragen", ""}}) {
-        FormGeaendert = 0;
-        FormTyp = typ;
+         {std::pair{Formart::Quiz, Formart::Quiz}, std::pair{Formart::Test, Formart::Test},
+          std::pair{Formart::Quiz, Formart::Keine}}) {
+        Stand.FormGeaendert = false;
+        Stand.FormTyp = typ;
         Dialogfolge dialoge;
         dialoge.frage(muellTitel, muellText, 6);
         InDenMuell(herkunft, 0);
         QVERIFY(dialoge.fertig());
         // Without an open form there is nothing that could be marked.
-        QCOMPARE(FormGeaendert, static_cast<std::int16_t>(FormTyp.empty() ? 0 : 1));
-        QCOMPARE(DragArt, std::int16_t{1});
+        QCOMPARE(Stand.FormGeaendert, Stand.FormTyp != Formart::Keine);
     }
-    FormTyp.clear();
+    Stand.FormTyp = Formart::Keine;
 }
 
 void AuswahlTest::abbrechenAndTheFrameKeepTheQuestion() {
     for (const QString& taste : {QStringLiteral("cmdAntwort(2)"), durchRahmen}) {
         Dialogfolge dialoge;
         dialoge.erwarte({QStringLiteral("frmNachricht"), {}, muellText, {taste}});
-        InDenMuell("FKFragen", 3);
+        InDenMuell(Formart::Quiz, 3);
         QVERIFY(dialoge.fertig());
-        QCOMPARE(FormGeaendert, std::int16_t{0});
+        QVERIFY(!Stand.FormGeaendert);
         QCOMPARE(Finden(fenster_, QStringLiteral("picMuell"))->property("BlattNr").toInt(), 7);
     }
 }
@@ -363,7 +357,7 @@ void AuswahlTest::theSheetFallsThroughSevenPicturesAndIsGone() {
     }
     Dialogfolge dialoge;
     dialoge.frage(muellTitel, muellText, 6);
-    InDenMuell("FKFragen", 0);
+    InDenMuell(Formart::Quiz, 0);
     QTRY_COMPARE(zeuge.gezeigt, erwartet);
     QTRY_VERIFY(std::ranges::none_of(blaetter, [](const QWidget* blatt) { return blatt->isVisible(); }));
 }
@@ -429,9 +423,7 @@ void AuswahlTest::returnHoldsTheQuestionForTheKeyboard() {
     liste("cmbFrage")->setCurrentIndex(1);
     QTest::keyClick(txtFrage, Qt::Key_Return);
     QVERIFY(OhneMausGehalten());
-    QCOMPARE(GezogeneFrage(), std::string("Wer fährt zur See?"));
-    QCOMPARE(DragHerkunft, std::string("Auswahl"));
-    QCOMPARE(DragArt, std::int16_t{0});
+    QVERIFY(Gezogen() == (Ziehwert{Zugart::Auswahl, Formart::Keine, 0, "Wer fährt zur See?", "Der Matrose"}));
     Dialogfolge dialoge;
     dialoge.meldung(ausDerAuswahl, sehIchEin);
     QTest::keyClick(Finden(fenster_, QStringLiteral("picMuell")), Qt::Key_F8);

@@ -1,7 +1,7 @@
 // The catalogue's files on the disk and what is said when one fails.
 #include "catalogue/katalogladen.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/programmordner.h"
 
@@ -11,7 +11,7 @@
 namespace {
 
 QString Ordner(const QString& darunter) {
-    return Anzeige(AppPfad) + darunter;
+    return Anzeige(Stand.AppPfad) + darunter;
 }
 
 void ListenfehlerErwarten(Dialogfolge& dialoge, const QString& thema, Stelle stelle = Stelle::hier()) {
@@ -39,8 +39,8 @@ class KatalogladenTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { OberflaecheEinrichten(); }
     void init() {
-        ThemenListe.fill("alt");
-        UnterthemenListe.fill("alt");
+        Katalog.ThemenListe.fill("alt");
+        Katalog.UnterthemenListe.fill("alt");
     }
 
     void everyThemeAndSubThemeOfTheShippedCatalogueLoads();
@@ -60,21 +60,21 @@ void KatalogladenTest::everyThemeAndSubThemeOfTheShippedCatalogueLoads() {
     Dialogfolge dialoge; // a message fails the test
     ThemenLaden();
     int themen = 0;
-    for (const std::string& name : ThemenListe) {
+    for (const std::string& name : Katalog.ThemenListe) {
         const Thema* thema = ThemaSuchen(name);
         themen += thema != nullptr ? 1 : 0;
         if (thema != nullptr) {
             UnterthemenLaden(name);
             for (const Unterthema& unterthema : thema->unterthemen) {
-                QVERIFY2(std::find(UnterthemenListe.begin(), UnterthemenListe.end(), unterthema.name) !=
-                             UnterthemenListe.end(),
+                QVERIFY2(std::find(Katalog.UnterthemenListe.begin(), Katalog.UnterthemenListe.end(),
+                                   unterthema.name) != Katalog.UnterthemenListe.end(),
                          unterthema.name.data());
             }
         }
     }
     QCOMPARE(themen, 16);
     HBUnterthemenLaden();
-    QCOMPARE(UnterthemenListe[1], std::string("Andacht"));
+    QCOMPARE(Katalog.UnterthemenListe[1], std::string("Andacht"));
     QVERIFY(dialoge.fertig());
 }
 
@@ -84,9 +84,9 @@ void KatalogladenTest::aShortThemeListKeepsTheOtherPlacesWithoutAWord() {
                                                           "che\r\n");
     Dialogfolge dialoge;
     ThemenLaden();
-    QCOMPARE(ThemenListe[1], std::string("Land"));
-    QCOMPARE(ThemenListe[2], std::string("Sprüche"));
-    QCOMPARE(ThemenListe[3], std::string("alt"));
+    QCOMPARE(Katalog.ThemenListe[1], std::string("Land"));
+    QCOMPARE(Katalog.ThemenListe[2], std::string("Sprüche"));
+    QCOMPARE(Katalog.ThemenListe[3], std::string("alt"));
     QVERIFY(dialoge.fertig());
 }
 
@@ -95,7 +95,7 @@ void KatalogladenTest::aMissingThemeListSaysNothing() {
     QVERIFY(QFile::remove(ordner.nativ(QStringLiteral("WISSEN/WISSEN.TXT"))));
     Dialogfolge dialoge;
     ThemenLaden();
-    QCOMPARE(ThemenListe[1], std::string("alt"));
+    QCOMPARE(Katalog.ThemenListe[1], std::string("alt"));
     QVERIFY(dialoge.fertig());
 }
 
@@ -106,8 +106,8 @@ void KatalogladenTest::aShortSubThemeListIsReported() {
     ListenfehlerErwarten(dialoge, QStringLiteral("Land"));
     UnterthemenLaden("Land");
     QVERIFY(dialoge.fertig());
-    QCOMPARE(UnterthemenListe[1], std::string("Berge"));
-    QCOMPARE(UnterthemenListe[2], std::string("alt"));
+    QCOMPARE(Katalog.UnterthemenListe[1], std::string("Berge"));
+    QCOMPARE(Katalog.UnterthemenListe[2], std::string("alt"));
 }
 
 void KatalogladenTest::aMissingSubThemeListIsReportedForEveryTheme() {

@@ -1,6 +1,5 @@
 // Reading, saving and the small file operations, with the run-time errors they end in.
 #include "core/datei.h"
-#include "core/zustand.h"
 #include "tests/core/probeordner.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +59,6 @@ TEST_F(Ungeeignete, ReadingTellsWhyByTheNumber) {
         const std::string& name = zeile.first;
         EXPECT_EQ(FehlerVon([&] { static_cast<void>(DateiLesen(ordner.eigen("") + name)); }), zeile.second)
             << name;
-        EXPECT_EQ(DateiNr, 0) << name;
     }
     EXPECT_EQ(FehlerVon([] { static_cast<void>(DateiLesen("")); }), 52);
     EXPECT_EQ(FehlerVon([] { static_cast<void>(DateiLesen("\\dev\\zero")); }), 52);
@@ -78,7 +76,6 @@ TEST_F(Ungeeignete, SavingTellsWhyByTheNumberAndTouchesNothing) {
     for (const auto& zeile : tabelle) {
         const std::string& name = zeile.first;
         EXPECT_EQ(FehlerVon([&] { DateiSchreiben(ordner.eigen("") + name, "neu"); }), zeile.second) << name;
-        EXPECT_EQ(DateiNr, 0) << name;
     }
     EXPECT_EQ(FehlerVon([] { DateiSchreiben("", "neu"); }), 52);
     EXPECT_EQ(ordner.namen(), vorher);

@@ -1,15 +1,15 @@
 // The main window: modes, closing, counts, progress bar, the end of the program, layout at both widths.
 #include "core/fortschritt.h"
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/laufzeitfehler.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
-#include "core/programmende.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/programmende.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -147,20 +147,20 @@ void FrmMDITest::aQuizFormSwapsTheToolbarAndEnablesItsCommands() {
 
 void FrmMDITest::countsReadAsOneSentence() {
     Programm programm;
-    FragenProWissen = 5;
-    AnzahlWissen = 6;
+    Spiel.FragenProWissen = 5;
+    Spiel.AnzahlWissen = 6;
     FelderAnzeigen();
     QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlFKFelder"))->caption(),
              QStringLiteral(" 30 Fragen : je 5 Fragen aus 6 Wissensgebieten"));
-    FragenProWissen = AnzahlWissen = 0;
+    Spiel.FragenProWissen = Spiel.AnzahlWissen = 0;
     ModusFK(); // a board without a shape gets the full one
-    QCOMPARE(FragenProWissen, std::int16_t(5));
-    QCOMPARE(AnzahlWissen, std::int16_t(6));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(6));
 }
 
 void FrmMDITest::anOverflowOfTheCountsIsRunTimeErrorSix() {
-    FragenProWissen = 200;
-    AnzahlWissen = 200;
+    Spiel.FragenProWissen = 200;
+    Spiel.AnzahlWissen = 200;
     try {
         FelderAnzeigen();
         QFAIL("no error");
@@ -188,7 +188,7 @@ void FrmMDITest::closingAnUnchangedFormAnsweredAbbrechenKeepsIt() {
     Klick(programm, "cmdFKSchliessen");
     QCOMPARE(FKFragenOffen(), form);
     QVERIFY(form->isVisible());
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
 }
 
 void FrmMDITest::closingAnUnchangedFormTakesItAway() {
@@ -199,7 +199,7 @@ void FrmMDITest::closingAnUnchangedFormTakesItAway() {
     Klick(programm, "cmdFKSchliessen");
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
     QVERIFY(Sichtbar(programm, "picFK")); // the toolbar stays
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdFKFLaden"))->isEnabled());
     QTRY_VERIFY(programm.haupt()->Kindflaeche()->subWindowList().isEmpty());
@@ -213,13 +213,13 @@ void FrmMDITest::closingAChangedFormAnsweredNeinClosesWithoutSaving() {
     Klick(programm, "cmdFKSchliessen");
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FrmMDITest::closingAChangedFormAnsweredJaSavesAndLeavesItOpen() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    FKDateiName = DateiName = AppPfad + "\\KRANZ\\ZU.FKR";
+    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\ZU.FKR";
     form->txtFrage.at(1)->setText("gesichert");
     Dialogfolge dialoge;
     dialoge.frage(schliessen, veraendert, 6);
@@ -227,7 +227,7 @@ void FrmMDITest::closingAChangedFormAnsweredJaSavesAndLeavesItOpen() {
     Klick(programm, "cmdFKSchliessen");
     QVERIFY(dialoge.fertig());
     QCOMPARE(FKFragenOffen(), form);
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(programm.ordner().lesen(QStringLiteral("KRANZ/ZU.FKR")).contains("\"gesichert\"\r\n"));
 }
 
@@ -247,10 +247,9 @@ void FrmMDITest::goingBackWithNoFormInFrontOnlySwapsTheToolbars() {
     Programm programm;
     const frmFKFragen* form = programm.NeuesQuizformular();
     auto* anderes = new QWidget;
-    anderes->setProperty("tag", QStringLiteral("Anderes"));
     KindfensterAufnehmen(anderes)->show();
-    KindNachVorn("Anderes");
-    QTRY_COMPARE(AktivesKind(), std::string("Anderes"));
+    KindNachVorn(anderes);
+    QTRY_COMPARE(AktivesKind(), anderes);
     Klick(programm, "cmdFKZurueck");
     QVERIFY(Sichtbar(programm, "picKranz"));
     QCOMPARE(FKFragenOffen(), form);
@@ -300,7 +299,7 @@ void FrmMDITest::theBackupEntryTurnsItsCheckMarkOverAndNothingElse() {
     QVERIFY(!eintrag->isChecked());
     eintrag->trigger();
     QVERIFY(eintrag->isChecked());
-    QCOMPARE(OptionDatei, std::int16_t(0));
+    QVERIFY(!Spiel.OptionDatei);
 }
 
 void FrmMDITest::theProgressBarRunsFromRedToGreen() {
@@ -313,7 +312,7 @@ void FrmMDITest::theProgressBarRunsFromRedToGreen() {
     QCOMPARE(balken->grund(), QColor(223, 0, 0));
     QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     FortschrittStart("zweimal");
-    QCOMPARE(FortschrittWert, 2.0F);
+    QCOMPARE(Fortschritt.FortschrittWert, 2.0F);
     QCOMPARE(balken->value(), 4.0);
     FortschrittSchritt(20.0F);
     QCOMPARE(balken->grund(), QColor(223, 223, 0));
@@ -322,7 +321,7 @@ void FrmMDITest::theProgressBarRunsFromRedToGreen() {
     QCOMPARE(balken->grund(), QColor(0, 223, 0));
     FortschrittEnde();
     QVERIFY(!balken->isVisible());
-    QCOMPARE(FortschrittAktiv, std::int16_t(0));
+    QVERIFY(!Fortschritt.FortschrittAktiv);
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlHilfe"))->caption(),
              QStringLiteral(" Ich arbeite ... "));
@@ -396,7 +395,7 @@ void FrmMDITest::endingAnUnchangedProgramAsksOnlyAboutSettingsAndTheEnd() {
 void FrmMDITest::abbrechenAtTheSettingsQuestionKeepsTheProgramAndTheSavedForm() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    FKDateiName = DateiName = AppPfad + "\\KRANZ\\VOR.FKR";
+    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\VOR.FKR";
     form->txtFrage.at(1)->setText("vorher");
     bool beendet = false;
     ProgrammBeendenDurch([&beendet] { beendet = true; });
@@ -410,7 +409,7 @@ void FrmMDITest::abbrechenAtTheSettingsQuestionKeepsTheProgramAndTheSavedForm() 
     ProgrammBeendenDurch({});
     QVERIFY(dialoge.fertig());
     QVERIFY(!beendet);
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(programm.ordner().lesen(QStringLiteral("KRANZ/VOR.FKR")).contains("\"vorher\""));
 }
 

@@ -1,8 +1,8 @@
 // The start window: size, version line, its one button, and the messages when its picture fails.
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -69,7 +69,7 @@ void FrmStartTest::aMissingPictureGivesTheFullPathAndTheWindowGoesOn() {
     Start start;
     QVERIFY(QFile::remove(start.ordner.nativ(QStringLiteral("BITMAP/FK_START.bmp"))));
     Dialogfolge dialoge;
-    dialoge.meldung(QStringLiteral("Ich kann [ ") + QString::fromStdString(AppPfad) +
+    dialoge.meldung(QStringLiteral("Ich kann [ ") + QString::fromStdString(Stand.AppPfad) +
                         QStringLiteral("\\BITMAP\\FK_START.bmp ] nicht finden !"),
                     QStringLiteral("Hab ich das denn ins Programmverzeichnis kopiert ?"));
     const QPointer<frmStart> fenster = start.Zeigen();

@@ -1,9 +1,9 @@
 // What the main window's frame and its lasting entries do: the real end, the folder it works in, the entries
 // that come and go with a form.
-#include "core/ablage.h"
-#include "core/frmMDI.h"
 #include "core/panel.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/ablage.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/dialogfolge.h"

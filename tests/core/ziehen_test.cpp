@@ -96,6 +96,11 @@ ZiehBild BildAmZeiger() {
 
 Q_DECLARE_METATYPE(ZiehBild)
 
+// A question as the selection dialog drags it.
+Ziehwert Frage(const char* text) {
+    return {Zugart::Auswahl, Formart::Keine, 0, text, ""};
+}
+
 class ZiehenTest : public QObject {
     Q_OBJECT
 
@@ -125,7 +130,7 @@ private Q_SLOTS:
 private:
     void Ziehe(std::vector<Hand::Schritt> schritte) {
         Hand hand(std::move(schritte));
-        Ziehen(quelle_, "Wer weiß es?");
+        Ziehen(quelle_, Frage("Wer weiß es?"));
     }
 
     std::unique_ptr<QWidget> fenster_;
@@ -154,19 +159,19 @@ void ZiehenTest::init() {
     abgelegt_ = 0;
     KeinZiel(fenster_.get());
     KeinZiel(innen_);
-    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this] {
+    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this](const Ziehwert& wert) {
         ++abgelegt_;
-        ziel_->setPlainText(QString::fromStdString(GezogeneFrage()));
+        ziel_->setPlainText(QString::fromStdString(wert.frage));
     });
-    ZielEinrichten(muell_, ZiehBild::Atom, [this] { abgelegt_ += 100; });
-    ZielEinrichten(rahmen_, ZiehBild::Ablegen, [this] { abgelegt_ += 1000; });
+    ZielEinrichten(muell_, ZiehBild::Atom, [this](const Ziehwert&) { abgelegt_ += 100; });
+    ZielEinrichten(rahmen_, ZiehBild::Ablegen, [this](const Ziehwert&) { abgelegt_ += 1000; });
     fenster_->show();
     QVERIFY(QTest::qWaitForWindowExposed(fenster_.get()));
 }
 
 void ZiehenTest::aDropRunsTheTargetsStepsAfterTheDragHasEnded() {
     std::optional<ZiehBild> inDenSchritten;
-    ZielEinrichten(muell_, ZiehBild::Atom, [&] { inDenSchritten = AktuellesZiehBild(); });
+    ZielEinrichten(muell_, ZiehBild::Atom, [&](const Ziehwert&) { inDenSchritten = AktuellesZiehBild(); });
     Ziehe({Ueber(quelle_, ZiehBild::Aufnehmen), Ueber(muell_, ZiehBild::Atom),
            Einmal([&] { QVERIFY(!inDenSchritten.has_value()); }), Loslassen(muell_)});
     QCOMPARE(inDenSchritten, std::optional(ZiehBild::Keins));
@@ -222,7 +227,7 @@ void ZiehenTest::escapeCancels() {
 }
 
 void ZiehenTest::aDropOnTheSourceItselfIsADrop() {
-    ZielEinrichten(quelle_, ZiehBild::Ablegen, [this] { ++abgelegt_; });
+    ZielEinrichten(quelle_, ZiehBild::Ablegen, [this](const Ziehwert&) { ++abgelegt_; });
     Ziehe({Ueber(ziel_, ZiehBild::Ablegen), Ueber(quelle_, ZiehBild::Ablegen), Loslassen(quelle_)});
     QCOMPARE(abgelegt_, 1);
 }
@@ -240,7 +245,7 @@ void ZiehenTest::aTargetThatDisappearsMeanwhileLeavesTheDropWithoutEffect() {
 }
 
 void ZiehenTest::aTargetMayDestroyItselfInItsSteps() {
-    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this] {
+    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this](const Ziehwert&) {
         delete ziel_;
         ++abgelegt_;
     });
@@ -251,7 +256,7 @@ void ZiehenTest::aTargetMayDestroyItselfInItsSteps() {
 
 void ZiehenTest::theTargetMayAskModalQuestions() {
     int antwort = 0;
-    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this, &antwort] {
+    ZielEinrichten(ziel_, ZiehBild::Ablegen, [this, &antwort](const Ziehwert&) {
         QDialog frage(fenster_.get());
         QTimer::singleShot(0, &frage, [&frage] { QTest::keyClick(&frage, Qt::Key_Escape); });
         antwort = frage.exec() == QDialog::Rejected ? 2 : 1;
@@ -261,7 +266,7 @@ void ZiehenTest::theTargetMayAskModalQuestions() {
 }
 
 void ZiehenTest::aSecondDragDuringTheFirstIsRefused() {
-    Ziehe({Ueber(ziel_, ZiehBild::Ablegen), Einmal([this] { Ziehen(zeile_, "Eine andere"); }),
+    Ziehe({Ueber(ziel_, ZiehBild::Ablegen), Einmal([this] { Ziehen(zeile_, Frage("Eine andere")); }),
            Loslassen(ziel_)});
     QCOMPARE(ziel_->toPlainText(), QStringLiteral("Wer weiß es?"));
 }
@@ -282,7 +287,7 @@ void ZiehenTest::theKeysDoWhatTheMouseDoes() {
     Qt::KeyboardModifiers gedrueckt = Qt::NoModifier;
     TastenEinrichten(quelle_, [&](Qt::KeyboardModifiers zusatz) {
         gedrueckt = zusatz;
-        Ziehen(quelle_, "Wer weiß es?");
+        Ziehen(quelle_, Frage("Wer weiß es?"));
     });
     QTest::keyClick(quelle_, Qt::Key_F8, Qt::ControlModifier);
     QCOMPARE(gedrueckt, Qt::KeyboardModifiers(Qt::ControlModifier));
@@ -298,7 +303,7 @@ void ZiehenTest::theKeysDoWhatTheMouseDoes() {
 }
 
 void ZiehenTest::escapeLetsGoOfAHeldQuestion() {
-    QVERIFY(OhneMausAufnehmen([this] { Ziehen(quelle_, "Wer weiß es?"); }));
+    QVERIFY(OhneMausAufnehmen([this] { Ziehen(quelle_, Frage("Wer weiß es?")); }));
     QTest::keyClick(ziel_, Qt::Key_Escape);
     QVERIFY(!OhneMausGehalten());
     QTest::keyClick(ziel_, Qt::Key_F8);
@@ -306,7 +311,7 @@ void ZiehenTest::escapeLetsGoOfAHeldQuestion() {
 }
 
 void ZiehenTest::aHeldQuestionGoesOnlyToATarget() {
-    QVERIFY(OhneMausAufnehmen([this] { Ziehen(quelle_, "Wer weiß es?"); }));
+    QVERIFY(OhneMausAufnehmen([this] { Ziehen(quelle_, Frage("Wer weiß es?")); }));
     QVERIFY(!OhneMausAblegen(zeile_));
     QVERIFY(!OhneMausAblegen(innen_));
     QVERIFY(OhneMausGehalten());

@@ -2,7 +2,7 @@
 // takes, short, heard, not too loud, and without a click at its ends.
 #include "core/pfad.h"
 #include "core/plattform.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/klangtabelle.h"
 #include "tests/hilfe/programmordner.h"
 
@@ -33,7 +33,7 @@ unsigned Zahl(const QByteArray& bytes, qsizetype ab, qsizetype stellen) {
 class Klangdatei : public ::testing::TestWithParam<Klang> {
 protected:
     void SetUp() override {
-        QFile datei(NativerPfad(AppPfad + std::string(GetParam().datei)));
+        QFile datei(NativerPfad(Stand.AppPfad + std::string(GetParam().datei)));
         ASSERT_TRUE(datei.open(QIODevice::ReadOnly)) << GetParam().datei;
         bytes = datei.readAll();
         ASSERT_GT(bytes.size(), kopf);

@@ -1,5 +1,5 @@
-// The sound service: which requests reach a player, the four beeps, and that the program itself stays silent.
-// The player is a script in the search path that notes what it is given; the beeps are heard at the screen.
+// The sound service: which requests reach a player, and that the program itself stays silent. The player is a
+// script in the search path that notes what it is given.
 #include "core/oberflaeche.h"
 #include "dialogs/klangtabelle.h"
 #include "dialogs/meldung.h"
@@ -8,9 +8,7 @@
 #include "tests/hilfe/programmordner.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTest>
 
 namespace {
@@ -31,7 +29,6 @@ private Q_SLOTS:
     }
     void init() { PlayerAnlegen(); }
     void cleanup() {
-        SoundSignal = 0;
         ModalHandlerSetzen({});
         QFile::remove(programm_.nativ(QStringLiteral("gespielt")));
     }
@@ -70,8 +67,8 @@ private Q_SLOTS:
         warter.dann(QStringLiteral("frmNachricht"), [](QDialog& dialog) {
             QTest::mouseClick(&Kind<QAbstractButton>(dialog, "cmdAntwort(2)"), Qt::LeftButton);
         });
-        Meldung(0, 4, "Feldkranz.INI nicht gespeichert !", "987", "Das ist nicht so schlimm");
-        Nachricht(7, "Formular schließen", "Ich schließe das Feldkranz-Formular !", 3, 1111);
+        Meldung({4, "Feldkranz.INI nicht gespeichert !", "987", "Das ist nicht so schlimm"});
+        Nachricht({7, "Formular schließen", "Ich schließe das Feldkranz-Formular !", 3, 1111});
         QVERIFY(warter.fertig());
         QVERIFY(Gespielt().isNull());
     }
@@ -88,52 +85,7 @@ private Q_SLOTS:
         QVERIFY(Gespielt().isNull());
     }
 
-    void withTheSignalOnEveryNameIsFourBeepsAndNoFile() {
-        Glockenwache wache(programm_, pfad_);
-        SoundSignal = 1;
-        SoundSpielen("dubb.wav");
-        QTRY_COMPARE(wache.gehoert(), 4);
-        SoundSpielen("gibt es nicht");
-        QTRY_COMPARE(wache.gehoert(), 8);
-        SoundSignal = 0;
-        SoundSpielen("clack");
-        SoundSignal = 1;
-        SoundSpielen("");
-        QTRY_COMPARE(wache.gehoert(), 12); // the four of the last one: the one in between was silent
-        QVERIFY(Gespielt().isNull());
-    }
-
 private:
-    // Counts the bells that the screen rings, each a line in a file; it rings one itself when it is ready.
-    class Glockenwache {
-    public:
-        Glockenwache(const Programmordner& ordner, const QByteArray& suchpfad) : ordner_(ordner) {
-            const QString liste = ordner.nativ(QStringLiteral("glocken"));
-            ordner.schreiben(QStringLiteral("glocken.cf"),
-                             "bell() shell \"echo >> '" + liste.toUtf8() + "'\"\n");
-            const QString programm = QStandardPaths::findExecutable(
-                QStringLiteral("xkbevd"), QString::fromUtf8(suchpfad).split(QLatin1Char(':')));
-            wache_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            wache_.start(programm, {QStringLiteral("-cfg"), ordner.nativ(QStringLiteral("glocken.cf"))});
-            if (!wache_.waitForStarted() || !QTest::qWaitFor([this] { return gehoert() == 0; }, 20000)) {
-                qFatal("Can't listen to the screen's bell: is xkbevd (x11-xkb-utils) installed?");
-            }
-        }
-        ~Glockenwache() {
-            wache_.kill();
-            wache_.waitForFinished();
-        }
-        Glockenwache(const Glockenwache&) = delete;
-        Glockenwache& operator=(const Glockenwache&) = delete;
-        [[nodiscard]] int gehoert() const {
-            return static_cast<int>(ordner_.lesen(QStringLiteral("glocken")).count('\n')) - 1;
-        }
-
-    private:
-        const Programmordner& ordner_;
-        QProcess wache_;
-    };
-
     void PlayerAnlegen() const {
         const QString player = QStringLiteral("bin/paplay");
         programm_.schreiben(player, "#!/bin/sh\necho \"$@\" >> '" +

@@ -51,10 +51,8 @@ private Q_SLOTS:
             QCOMPARE(dialog.windowTitle(), QString());
             Bestaetigen(dialog);
         });
-        Meldung(0, 4, "Feldkranz.INI nicht\r\ngespeichert !", "987", "Das ist nicht so schlimm");
+        Meldung({4, "Feldkranz.INI nicht\r\ngespeichert !", "987", "Das ist nicht so schlimm"});
         QVERIFY(warter.fertig());
-        QCOMPARE(QString::fromStdString(MeldungNummer), QStringLiteral("987"));
-        QCOMPARE(MeldungBild, std::int16_t{4});
     }
 
     void theWindowHasItsFixedMeasuresAndStandsInTheCentre() {
@@ -71,7 +69,7 @@ private Q_SLOTS:
             QTRY_VERIFY((dialog.geometry().center() - mitte).manhattanLength() <= 4);
             Bestaetigen(dialog);
         });
-        Meldung(0, 5, "Ich habe Probleme !", "1", "Das ist ja ganz ungewohnt");
+        Meldung({5, "Ich habe Probleme !", "1", "Das ist ja ganz ungewohnt"});
         QVERIFY(warter.fertig());
     }
 
@@ -88,7 +86,7 @@ private Q_SLOTS:
                 }
                 Bestaetigen(dialog);
             });
-            Meldung(0, bild, "Text", "1", "Aha");
+            Meldung({bild, "Text", "1", "Aha"});
             QVERIFY(warter.fertig());
         }
     }
@@ -106,15 +104,15 @@ private Q_SLOTS:
             QVERIFY(Kind<QLabel>(dialog, "picMeldung(7)").isVisible());
             Bestaetigen(dialog);
         });
-        Meldung(0, 5, "Erste", "1", "Aha");
-        Meldung(0, 7, "Zweite", "1", "Aha");
+        Meldung({5, "Erste", "1", "Aha"});
+        Meldung({7, "Zweite", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
     void aPictureNumberThatDoesntExistShowsTheMessageWithoutPicture() {
         Dialogwarter warter;
         warter.dann(QStringLiteral("frmMeldung"), Bestaetigen);
-        Meldung(0, 99, "Text", "1", "Aha");
+        Meldung({99, "Text", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
@@ -134,7 +132,7 @@ private Q_SLOTS:
                 Bestaetigen(dialog);
             });
             const std::string zeilen = "eins\r\nzwei\r\ndrei\r\nvier";
-            Meldung(0, 5, i == 0 ? zeilen : zeilen + "\r\nfünf\r\nsechs\r\nsieben\r\nacht", "1", "Aha");
+            Meldung({5, i == 0 ? zeilen : zeilen + "\r\nfünf\r\nsechs\r\nsieben\r\nacht", "1", "Aha"});
             QVERIFY(warter.fertig());
         }
         QCOMPARE(unten[0], unten[1]);
@@ -157,7 +155,7 @@ private Q_SLOTS:
             QVERIFY(knopf.font().pixelSize() >= 11);
             Bestaetigen(dialog);
         });
-        Meldung(0, 5, "Text", "1", taste.toStdString());
+        Meldung({5, "Text", "1", taste.toStdString()});
         QVERIFY(warter.fertig());
     }
 
@@ -170,7 +168,7 @@ private Q_SLOTS:
                 QCOMPARE(klick.size(), 1);
                 QVERIFY(!dialog.isVisible());
             });
-            Meldung(0, 5, "Text", "1", "Aha");
+            Meldung({5, "Text", "1", "Aha"});
             QVERIFY(warter.fertig());
         }
     }
@@ -181,7 +179,7 @@ private Q_SLOTS:
             Bestaetigen(dialog);
             QVERIFY(Kind<QLabel>(dialog, "picMeldung(5)").isHidden());
         });
-        Meldung(0, 5, "Text", "1", "Aha");
+        Meldung({5, "Text", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
@@ -192,7 +190,7 @@ private Q_SLOTS:
             QVERIFY(!dialog.isVisible());
             QVERIFY(!Kind<QLabel>(dialog, "picMeldung(5)").isHidden());
         });
-        Meldung(0, 5, "Text", "1", "Aha");
+        Meldung({5, "Text", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
@@ -209,7 +207,7 @@ private Q_SLOTS:
             QVERIFY(dialog.isVisible());
             Bestaetigen(dialog);
         });
-        Meldung(0, 3, "Text", "1", "Aha");
+        Meldung({3, "Text", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
@@ -224,7 +222,7 @@ private Q_SLOTS:
             QCOMPARE(text.hasScaledContents(), vorher);
             Bestaetigen(dialog);
         });
-        Meldung(0, 5, "Text", "1", "Aha");
+        Meldung({5, "Text", "1", "Aha"});
         QVERIFY(warter.fertig());
     }
 
@@ -236,7 +234,7 @@ private Q_SLOTS:
             }
             return true;
         });
-        Meldung(0, 5, "Text", "1", "Aha");
+        Meldung({5, "Text", "1", "Aha"});
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
@@ -270,8 +268,8 @@ private Q_SLOTS:
             --offen;
             return true;
         });
-        Meldung(0, 5, "Erste", "1", "Aha");
-        Meldung(0, 5, "Zweite", "1", "Aha");
+        Meldung({5, "Erste", "1", "Aha"});
+        Meldung({5, "Zweite", "1", "Aha"});
         const QStringList erwartet{
             QStringLiteral("Erste"),
             QStringLiteral(

@@ -1,5 +1,6 @@
 // The question: button sets, answers, keys, the frame's close box.
 #include "core/oberflaeche.h"
+#include "dialogs/frmNachricht.h"
 #include "dialogs/meldung.h"
 #include "dialogs/modal.h"
 #include "tests/dialogs/dialogwarten.h"
@@ -34,7 +35,6 @@ class NachrichtTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { OberflaecheEinrichten(); }
-    void init() { NachrichtAntwort = 0; }
     void cleanup() { ModalHandlerSetzen({}); }
 
     // First, since the window is made only once.
@@ -50,8 +50,8 @@ private Q_SLOTS:
             dialog.accept();
             return true;
         });
-        Nachricht(7, "Titel", "Frage ?", 0, 1111);
-        Nachricht(7, "Titel", "Frage ?", 0, 1111);
+        Nachricht({7, "Titel", "Frage ?", 0, 1111});
+        Nachricht({7, "Titel", "Frage ?", 0, 1111});
         const QStringList erwartet{
             QStringLiteral("frmMeldung"),
             QStringLiteral(
@@ -74,9 +74,8 @@ private Q_SLOTS:
             }
             Klick(dialog, Nein);
         });
-        QCOMPARE(Nachricht(7, "Auswertung speichern !", "Soll ich\r\nspeichern ?", 2, 1111), antwortNein);
+        QCOMPARE(Nachricht({7, "Auswertung speichern !", "Soll ich\r\nspeichern ?", 2, 1111}), Antwort::Nein);
         QVERIFY(warter.fertig());
-        QCOMPARE(QString::fromStdString(NachrichtNummer), QStringLiteral("1111"));
     }
 
     void theWindowHasItsMeasuresAndStandsBelowTheCentre() {
@@ -87,7 +86,7 @@ private Q_SLOTS:
             QVERIFY(dialog.geometry().center().y() > dialog.screen()->geometry().center().y());
             Klick(dialog, OK);
         });
-        Nachricht(7, "Titel", "Frage ?", 0, 1111);
+        Nachricht({7, "Titel", "Frage ?", 0, 1111});
         QVERIFY(warter.fertig());
     }
 
@@ -118,7 +117,7 @@ private Q_SLOTS:
             }
             dialog.close();
         });
-        Nachricht(7, "Titel", "Frage ?", art, 1111);
+        Nachricht({7, "Titel", "Frage ?", art, 1111});
         QVERIFY(warter.fertig());
     }
 
@@ -131,53 +130,50 @@ private Q_SLOTS:
             QVERIFY(dialog.rect().contains(Taste(dialog, Abbrechen).geometry()));
             Klick(dialog, Abbrechen);
         });
-        Nachricht(7, "Titel", "Frage ?", 2, 1111);
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 9, 1111), antwortAbbrechen);
+        Nachricht({7, "Titel", "Frage ?", 2, 1111});
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 9, 1111}), Antwort::Abbrechen);
         QVERIFY(warter.fertig());
     }
 
     void eachButtonGivesItsAnswer_data() {
         QTest::addColumn<int>("art");
         QTest::addColumn<int>("taste");
-        QTest::addColumn<int>("antwort");
-        QTest::newRow("Ja") << 2 << int{Ja} << antwortJa;
-        QTest::newRow("Nein") << 2 << int{Nein} << antwortNein;
-        QTest::newRow("Abbrechen") << 2 << int{Abbrechen} << antwortAbbrechen;
-        QTest::newRow("OK") << 0 << int{OK} << antwortOK;
+        QTest::addColumn<Antwort>("antwort");
+        QTest::newRow("Ja") << 2 << int{Ja} << Antwort::Ja;
+        QTest::newRow("Nein") << 2 << int{Nein} << Antwort::Nein;
+        QTest::newRow("Abbrechen") << 2 << int{Abbrechen} << Antwort::Abbrechen;
+        QTest::newRow("OK") << 0 << int{OK} << Antwort::OK;
     }
     void eachButtonGivesItsAnswer() {
         QFETCH(const int, art);
         QFETCH(const int, taste);
-        QFETCH(const int, antwort);
+        QFETCH(const Antwort, antwort);
         Dialogwarter warter;
         warter.dann(fenster, [&](QDialog& dialog) {
             Klick(dialog, taste);
             QVERIFY(!dialog.isVisible());
             QVERIFY(Bild(dialog, 7).isHidden());
         });
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", art, 1111), antwort);
-        QCOMPARE(int{NachrichtAntwort}, antwort);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", art, 1111}), antwort);
         QVERIFY(warter.fertig());
     }
 
     void helpLeavesTheQuestionOpenWithoutItsPictureAndKeepsTheAnswer() {
-        NachrichtAntwort = antwortNein;
         Dialogwarter warter;
         warter.dann(fenster, [](QDialog& dialog) {
             Klick(dialog, Hilfe);
             QVERIFY(dialog.isVisible());
             QVERIFY(!Bild(dialog, 7).isVisible());
-            QCOMPARE(int{NachrichtAntwort}, antwortNein);
+            QCOMPARE(static_cast<frmNachricht&>(dialog).antwort(), Antwort::Nein);
             dialog.repaint();
             QVERIFY(!Bild(dialog, 7).isVisible());
             Klick(dialog, Ja);
         });
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 2, 1111), antwortJa);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 2, 1111}, {}, Antwort::Nein), Antwort::Ja);
         QVERIFY(warter.fertig());
     }
 
-    void theFrameGivesNoAnswer() {
-        NachrichtAntwort = antwortNein;
+    void theFrameGivesTheAnswerThatTheCallerSays() {
         Dialogwarter warter;
         warter.dann(fenster, [](QDialog& dialog) { dialog.close(); });
         warter.dann(fenster, [](QDialog& dialog) {
@@ -185,13 +181,12 @@ private Q_SLOTS:
             QVERIFY(Bild(dialog, 6).isVisible());
             dialog.close();
         });
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 2, 1111), antwortNein);
-        QCOMPARE(Nachricht(6, "Titel", "Frage ?", 2, 1111), antwortNein);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 2, 1111}, {}, Antwort::Nein), Antwort::Nein);
+        QCOMPARE(Nachricht({6, "Titel", "Frage ?", 2, 1111}), Antwort::Abbrechen);
         QVERIFY(warter.fertig());
     }
 
     void escIsAbbrechenWhereThatIsInUseAndTheFrameOtherwise() {
-        NachrichtAntwort = antwortNein;
         Dialogwarter warter;
         const auto esc = [](QDialog& dialog) {
             QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -199,30 +194,52 @@ private Q_SLOTS:
         };
         warter.dann(fenster, esc);
         warter.dann(fenster, esc);
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 1, 1111), antwortNein);
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 3, 1111), antwortAbbrechen);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 1, 1111}, {}, Antwort::Nein), Antwort::Nein);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 3, 1111}), Antwort::Abbrechen);
+        QVERIFY(warter.fertig());
+    }
+
+    void aQuestionForJaOrNeinComesAgainUntilItHasOne() {
+        for (const int taste : {int{Ja}, int{Nein}}) {
+            Dialogwarter warter;
+            warter.dann(fenster, [](QDialog& dialog) { dialog.close(); });
+            warter.dann(fenster, [](QDialog& dialog) { Klick(dialog, Abbrechen); });
+            warter.dann(fenster, [taste](QDialog& dialog) { Klick(dialog, taste); });
+            QCOMPARE(NachrichtJaNein({7, "Titel", "Frage ?", 2, 1111}), taste == Ja);
+            QVERIFY(warter.fertig());
+        }
+    }
+
+    void anythingButAbbrechenAndTheFrameConfirms() {
+        Dialogwarter warter;
+        warter.dann(fenster, [](QDialog& dialog) { Klick(dialog, OK); });
+        warter.dann(fenster, [](QDialog& dialog) { Klick(dialog, Abbrechen); });
+        warter.dann(fenster, [](QDialog& dialog) { dialog.close(); });
+        QVERIFY(Bestaetigt({7, "Titel", "Frage ?", 3, 1111}));
+        QVERIFY(!Bestaetigt({7, "Titel", "Frage ?", 3, 1111}));
+        QVERIFY(!Bestaetigt({7, "Titel", "Frage ?", 3, 1111}));
         QVERIFY(warter.fertig());
     }
 
     void theAccessKeysAnswer_data() {
         QTest::addColumn<int>("art");
         QTest::addColumn<int>("taste");
-        QTest::addColumn<int>("antwort");
-        QTest::newRow("J") << 2 << int{Qt::Key_J} << antwortJa;
-        QTest::newRow("N") << 2 << int{Qt::Key_N} << antwortNein;
-        QTest::newRow("A") << 2 << int{Qt::Key_A} << antwortAbbrechen;
-        QTest::newRow("O") << 3 << int{Qt::Key_O} << antwortOK;
+        QTest::addColumn<Antwort>("antwort");
+        QTest::newRow("J") << 2 << int{Qt::Key_J} << Antwort::Ja;
+        QTest::newRow("N") << 2 << int{Qt::Key_N} << Antwort::Nein;
+        QTest::newRow("A") << 2 << int{Qt::Key_A} << Antwort::Abbrechen;
+        QTest::newRow("O") << 3 << int{Qt::Key_O} << Antwort::OK;
     }
     void theAccessKeysAnswer() {
         QFETCH(const int, art);
         QFETCH(const int, taste);
-        QFETCH(const int, antwort);
+        QFETCH(const Antwort, antwort);
         Dialogwarter warter;
         warter.dann(fenster, [&](QDialog& dialog) {
             QTRY_VERIFY(dialog.isActiveWindow());
             QTest::keyClick(&dialog, static_cast<Qt::Key>(taste), Qt::AltModifier);
         });
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", art, 1111), antwort);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", art, 1111}), antwort);
         QVERIFY(warter.fertig());
     }
 
@@ -234,7 +251,7 @@ private Q_SLOTS:
             QTRY_VERIFY(Taste(dialog, Nein).hasFocus());
             QTest::keyClick(&Taste(dialog, Nein), Qt::Key_Return);
         });
-        QCOMPARE(Nachricht(7, "Titel", "Frage ?", 2, 1111), antwortNein);
+        QCOMPARE(Nachricht({7, "Titel", "Frage ?", 2, 1111}), Antwort::Nein);
         QVERIFY(warter.fertig());
     }
 
@@ -248,7 +265,7 @@ private Q_SLOTS:
             QVERIFY(dialog.isVisible());
             Klick(dialog, OK);
         });
-        Nachricht(7, "Titel", "Frage ?", 0, 1111);
+        Nachricht({7, "Titel", "Frage ?", 0, 1111});
         QVERIFY(warter.fertig());
     }
 
@@ -259,10 +276,10 @@ private Q_SLOTS:
             QVERIFY(text.y() + 4 * text.fontMetrics().lineSpacing() <= Taste(dialog, Ja).y());
             Klick(dialog, Abbrechen);
         });
-        Nachricht(7, " Speichern unter ...",
-                  "Die Auswertung\r\n[ ABEND.FKR ]\r\nist bereits vorhanden !\r\nSoll ich diese Datei "
-                  "überschreiben ?",
-                  2, 1111);
+        Nachricht({7, " Speichern unter ...",
+                   "Die Auswertung\r\n[ ABEND.FKR ]\r\nist bereits vorhanden !\r\nSoll ich diese Datei "
+                   "überschreiben ?",
+                   2, 1111});
         QVERIFY(warter.fertig());
     }
 

@@ -69,7 +69,7 @@ void EditorablageTest::theButtonsFollowSelectionAndClipboard() {
 void EditorablageTest::copyingReplacesTheClipboard() {
     QGuiApplication::clipboard()->setText(QStringLiteral("alt"));
     Tippen(editor, QStringLiteral("Eule am Fluss"));
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     Markieren(editor, 5, 2);
     Druecken(editor, Copy(0));
     QCOMPARE(Ablage(), QStringLiteral("am"));
@@ -98,7 +98,7 @@ void EditorablageTest::appendingPutsTheSelectionBehindTheClipboardsText() {
 void EditorablageTest::cuttingTakesTheSelectionAwayAndMarksTheText() {
     Tippen(editor, QStringLiteral("Eule am Fluss"));
     Markieren(editor, 4, 3);
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     Druecken(editor, Copy(2));
     QCOMPARE(Ablage(), QStringLiteral(" am"));
     QCOMPARE(Text(editor), QStringLiteral("Eule Fluss"));
@@ -115,7 +115,7 @@ void EditorablageTest::cuttingWithAppendDoesBoth() {
     Druecken(editor, Copy(3));
     QCOMPARE(Ablage(), QStringLiteral("Die Eule"));
     QCOMPARE(Text(editor), QStringLiteral(" ruft"));
-    QCOMPARE(EditorGeaendert, std::int16_t(1));
+    QVERIFY(Stand.EditorGeaendert);
 }
 
 void EditorablageTest::pastingReplacesTheSelectionWithPlainText() {
@@ -125,7 +125,7 @@ void EditorablageTest::pastingReplacesTheSelectionWithPlainText() {
     QGuiApplication::clipboard()->setMimeData(daten);
     Tippen(editor, QStringLiteral("Eule ruft"));
     Markieren(editor, 0, 5);
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     Druecken(editor, Copy(4));
     QCOMPARE(Text(editor), QStringLiteral("Kauz\nund ruft"));
     QVERIFY(IstRot(editor));
@@ -144,7 +144,7 @@ void EditorablageTest::deletingLeavesTheClipboardAloneAndTheCursorInItsPlace() {
     QGuiApplication::clipboard()->setText(QStringLiteral("bleibt"));
     Tippen(editor, QStringLiteral("Eule am Fluss"));
     Markieren(editor, 4, 3);
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     Druecken(editor, Copy(5));
     QCOMPARE(Text(editor), QStringLiteral("Eule Fluss"));
     QCOMPARE(editor->txtNotiz->textCursor().position(), 4);
@@ -189,7 +189,7 @@ void EditorablageTest::aClipboardQuestionAnsweredNeinKeepsTheClipboard() {
 
 void EditorablageTest::emptyingTheTextAsksFirst() {
     Tippen(editor, QStringLiteral("Eule"));
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     Dialogfolge dialoge;
     TextFrageErwarten(dialoge, 7);
     Druecken(editor, Copy(7));
@@ -204,13 +204,11 @@ void EditorablageTest::emptyingTheTextAsksFirst() {
 void EditorablageTest::aQuestionClosedByItsFrameDestroysNothingAndComesAgain() {
     QGuiApplication::clipboard()->setText(QStringLiteral("bleibt"));
     Tippen(editor, QStringLiteral("Eule"));
-    NachrichtAntwort = 6; // left by an older question
     Dialogfolge dialoge;
     dialoge.erwarte({QStringLiteral("frmNachricht"), {}, {}, {durchRahmen}});
     TextFrageErwarten(dialoge, 7);
     Druecken(editor, Copy(7));
     QCOMPARE(Text(editor), QStringLiteral("Eule"));
-    NachrichtAntwort = 6;
     dialoge.erwarte({QStringLiteral("frmNachricht"), {}, {}, {durchRahmen}});
     AblageFrageErwarten(dialoge, 7);
     Druecken(editor, Copy(6));

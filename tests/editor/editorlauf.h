@@ -2,17 +2,17 @@
 // button, short ways to its controls and its dialogs.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
 #include "editor/editordaten.h"
 #include "editor/frmEditor.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
@@ -39,7 +39,7 @@ public:
             programm_ = std::make_unique<Programm>(false);
         }
         EditorEntladen();
-        FormGeaendert = 0;
+        Stand.FormGeaendert = false;
         FK_Entladen();
         HB_Entladen();
         ZustandZuruecksetzen();
@@ -66,7 +66,7 @@ public:
         return programm_->ordner().lesen(QStringLiteral("WISSEN/") + name);
     }
     [[nodiscard]] std::string Pfad(const std::string& name) const {
-        return Grossschreiben(AppPfad + "\\WISSEN\\" + name);
+        return Grossschreiben(Stand.AppPfad + "\\WISSEN\\" + name);
     }
 
 private:
@@ -235,6 +235,6 @@ protected:
         QCOMPARE(Text(editor), text);
         QCOMPARE(editor->pnlDatei->caption(), name);
         QVERIFY(IstRot(editor));
-        QCOMPARE(EditorGeaendert, std::int16_t(1));
+        QVERIFY(Stand.EditorGeaendert);
     }
 };

@@ -129,13 +129,12 @@ void EditorspeichernTest::neinAtTheOverwriteQuestionLeavesTheOldFile() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(QStringLiteral("NEU.TXT")), QByteArray("alt"));
     Unveraendert(QStringLiteral("x") + knotenText, QStringLiteral("KN.TXT "));
-    QCOMPARE(DateiName, lauf.Pfad("KN.TXT"));
+    QCOMPARE(Editor.Pfad, lauf.Pfad("KN.TXT"));
 }
 
 void EditorspeichernTest::closingTheOverwriteQuestionByItsFrameDestroysNothing() {
     lauf.Schreiben(QStringLiteral("NEU.TXT"), "alt");
     Tippen(editor, QStringLiteral("x"));
-    NachrichtAntwort = 6; // left by an older question
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("NEU.TXT"), speichern);
     dialoge.erwarte({QStringLiteral("frmNachricht"), {}, {}, {durchRahmen}});
@@ -228,7 +227,7 @@ void EditorspeichernTest::aTwinInOtherLettersIsNotWrittenForAFileThatHasGone() {
 
 void EditorspeichernTest::theBackupIsTheVersionOfTheSaveBefore() {
     Geladen();
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     Tippen(editor, QStringLiteral("x"));
     Dialogfolge dialoge;
     const auto erwarten = [&] {
@@ -251,7 +250,7 @@ void EditorspeichernTest::theBackupIsTheVersionOfTheSaveBefore() {
 }
 
 void EditorspeichernTest::withoutAnOldFileNoBackupIsMadeAndTheSaveGoesOn() {
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     Tippen(editor, QStringLiteral("x"));
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("neu"), speichern);

@@ -1,4 +1,5 @@
 // The editor's window: what it is made of, its lamps and its lock, what its text may hold.
+#include "quizform/frmFKFragen.h"
 #include "tests/editor/editorlauf.h"
 #include "tests/hilfe/bild.h"
 
@@ -32,8 +33,8 @@ private Q_SLOTS:
 
 void FrmEditorTest::theButtonAndTheMenuEntryOpenTheEditorWithItsCaption() {
     QCOMPARE(editor->windowTitle(), QStringLiteral(" Feldkranz! - Fragensammlung"));
-    QCOMPARE(EditorOffen, std::int16_t(1));
-    QCOMPARE(AktivesKind(), std::string("Editor"));
+    QCOMPARE(EditorFenster(), editor);
+    QVERIFY(AktivesKind() == editor);
     QVERIFY(IstGruen(editor));
     QCOMPARE(Text(editor), QString());
     QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral(" "));
@@ -43,17 +44,17 @@ void FrmEditorTest::theButtonAndTheMenuEntryOpenTheEditorWithItsCaption() {
     QVERIFY(editor->txtNotiz->isEnabled());
     RahmenSchliessen(editor);
     QTRY_VERIFY(FensterOderNichts(QStringLiteral("frmEditor")) == nullptr);
-    QCOMPARE(EditorOffen, std::int16_t(0));
+    QVERIFY(EditorFenster() == nullptr);
     Finden<QAction>(lauf.haupt(), QStringLiteral("mEditorKranz"))->trigger();
     QVERIFY(FensterAbwarten(QStringLiteral("frmEditor")) != nullptr);
 }
 
 void FrmEditorTest::openingItAgainBringsTheSameWindowToTheFront() {
     Tippen(editor, QStringLiteral("bleibt"));
-    lauf.programm().NeuesQuizformular();
-    QCOMPARE(AktivesKind(), std::string("FKFragen"));
+    const frmFKFragen* form = lauf.programm().NeuesQuizformular();
+    QVERIFY(AktivesKind() == form);
     QCOMPARE(lauf.Oeffnen(), editor);
-    QTRY_COMPARE(AktivesKind(), std::string("Editor"));
+    QTRY_VERIFY(AktivesKind() == editor);
     QCOMPARE(Text(editor), QStringLiteral("bleibt"));
 }
 
@@ -108,8 +109,8 @@ void FrmEditorTest::theStatusTextOfAButtonShowsInTheHelpPanel() {
 
 void FrmEditorTest::theNamesThatWereLeftStandOnThePanels() {
     EditorEntladen();
-    BemerkungMarke = "Bäume";
-    DateiAlt = "/x\\WISSEN\\PF_BAUM.TXT";
+    Editor.BemerkungMarke = "Bäume";
+    Editor.DateiAlt = "/x\\WISSEN\\PF_BAUM.TXT";
     editor = lauf.Oeffnen();
     QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral("Bäume "));
     QCOMPARE(editor->pnlDatei->caption(), QStringLiteral("PF_BAUM.TXT "));
@@ -171,8 +172,8 @@ void FrmEditorTest::everyChangeLightsTheRedLamp() {
     QVERIFY(IstGruen(editor));
     Tippen(editor, QStringLiteral("x"));
     QVERIFY(IstRot(editor));
-    QCOMPARE(EditorGeaendert, std::int16_t(1));
-    EditorStatusSetzen(0);
+    QVERIFY(Stand.EditorGeaendert);
+    EditorStatusSetzen(false);
     QVERIFY(IstGruen(editor));
     QTest::keyClick(editor->txtNotiz, Qt::Key_Left); // no change
     QVERIFY(IstGruen(editor));
@@ -184,7 +185,7 @@ void FrmEditorTest::theLockKeepsKeysAndButtonsFromTheTextUntilItIsFreed() {
     QGuiApplication::clipboard()->setText(QStringLiteral("Kauz"));
     Tippen(editor, QStringLiteral("Eule"));
     Markieren(editor, 0, 4);
-    EditorStatusSetzen(0);
+    EditorStatusSetzen(false);
     maus::Klicken(Taste(editor, QStringLiteral("cmdSchreiben")));
     QTRY_VERIFY(!editor->txtNotiz->isEnabled());
     QVERIFY(!Taste(editor, QStringLiteral("cmdSchreiben"))->isVisible());
@@ -209,9 +210,9 @@ void FrmEditorTest::theBackupSwitchIsTheOption() {
     QAbstractButton* schalter = Taste(editor, QStringLiteral("grpBackUp"));
     QVERIFY(!schalter->isChecked());
     Druecken(editor, QStringLiteral("grpBackUp"));
-    QCOMPARE(OptionDatei, std::int16_t(1));
+    QVERIFY(Spiel.OptionDatei);
     Druecken(editor, QStringLiteral("grpBackUp"));
-    QCOMPARE(OptionDatei, std::int16_t(0));
+    QVERIFY(!Spiel.OptionDatei);
     // The file dialog's own switch is the same option.
     Dialogfolge dialoge;
     dialoge.erwarte(
@@ -221,7 +222,7 @@ void FrmEditorTest::theBackupSwitchIsTheOption() {
          {QStringLiteral("cmdAbbrechen")},
          [](QDialog& dialog) { Finden<QAbstractButton>(&dialog, QStringLiteral("chkBackUp"))->click(); }});
     Druecken(editor, QStringLiteral("cmdDatei(2)"));
-    QCOMPARE(OptionDatei, std::int16_t(1));
+    QVERIFY(Spiel.OptionDatei);
     QTRY_VERIFY(schalter->isChecked());
     EditorEntladen();
     editor = lauf.Oeffnen();

@@ -2,7 +2,7 @@
 #include "editor/katalogtext.h"
 
 #include "core/laufzeitfehler.h"
-#include "persistence/wertgrammatik.h"
+#include "core/wertgrammatik.h"
 
 #include <gtest/gtest.h>
 

@@ -67,7 +67,7 @@ private Q_SLOTS:
     void aFailedDeletionIsToldAndTheDialogStays() {
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("Abend.fkr"));
-        const std::string gewaehlt = DateiName;
+        const std::string gewaehlt = Gewaehlt();
         QVERIFY(QFile::remove(programm_->nativ(QStringLiteral("KRANZ/Abend.fkr"))));
         Dialogfolge dialoge;
         dialoge.erwarte({QStringLiteral("frmNachricht"), {}, {}, {QStringLiteral("cmdAntwort(0)")}});
@@ -76,7 +76,7 @@ private Q_SLOTS:
                        QStringLiteral("OK"));
         Druecken("cmdDatei(1)");
         QVERIFY(fenster_->isVisible());
-        QCOMPARE(DateiName, gewaehlt);
+        QCOMPARE(Gewaehlt(), gewaehlt);
     }
 
     // --- Copying ---
@@ -278,13 +278,25 @@ private Q_SLOTS:
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("LAGER.FKR"));
         Dialogfolge dialoge;
-        const QString ordner = Text(Grossschreiben(AppPfad)) + QStringLiteral("\\KRANZ\\");
+        const QString ordner = Text(Grossschreiben(Stand.AppPfad)) + QStringLiteral("\\KRANZ\\");
         dialoge.kasten(QStringLiteral("Pfad"),
                        QStringLiteral("Datenträger:?\nPfad: %1\nDatei: LAGER\nExtension: .FKR").arg(ordner),
                        QStringLiteral("OK"));
-        dialoge.kasten(QStringLiteral("Pfad"), Text(DateiDatum(DateiName)), QStringLiteral("OK"));
+        dialoge.kasten(QStringLiteral("Pfad"), Text(DateiDatum(Gewaehlt())), QStringLiteral("OK"));
         Druecken("cmdPfadZerlegen");
         QCOMPARE(Taste("cmdPfadZerlegen")->text(), QStringLiteral("Pfad"));
+    }
+
+    void untilAFileIsChosenThePathIsTheOneThatTheCallerGives() {
+        Dateiauswahl auswahl = Auswahl("Öffnen");
+        auswahl.pfad = "D:\\WISSEN\\EIGENER.TXT";
+        Zeigen(auswahl);
+        Dialogfolge dialoge;
+        dialoge.kasten(QStringLiteral("Pfad"),
+                       QStringLiteral("Datenträger:D:\\\nPfad: WISSEN\\\nDatei: EIGENER\nExtension: .TXT"),
+                       QStringLiteral("OK"));
+        dialoge.erwarte({QStringLiteral("QMessageBox"), {}, {}, {QStringLiteral("OK")}}); // no such file
+        Druecken("cmdPfadZerlegen");
     }
 
     void everyControlHasItsTip() {

@@ -19,7 +19,7 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("Abend.fkr"), QStringLiteral("LAGER.FKR")}));
         QCOMPARE(Schild("lblDateienAnzahl"), QStringLiteral("2 Datei(en) "));
         QCOMPARE(Schild("lblAlleDateienAnzahl"), QStringLiteral("3 Datei(en) "));
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
         QCOMPARE(Name()->text(), QStringLiteral("*.FKR"));
         QCOMPARE(Eintraege(Ordner()).first(), QStringLiteral(".."));
         QCOMPARE(fenster_->windowTitle(), QStringLiteral("Öffnen"));
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(Schild("lblDir"), Pfad(QStringLiteral("Sommer")));
         QCOMPARE(Eintraege(Dateien()), QStringList{QStringLiteral("ZELT.FKR")});
         Anklicken(Ordner(), QStringLiteral(".."), true);
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
         QCOMPARE(Ordner()->currentItem()->text(), QStringLiteral("Sommer"));
     }
 
@@ -96,9 +96,9 @@ private Q_SLOTS:
 
     void aFolderThatIsGoneGivesTheNearestOneThatIsLeft() {
         Dateiauswahl auswahl = Auswahl("Öffnen");
-        auswahl.ordner = AppPfad + "\\KRANZ\\weg\\ganz";
+        auswahl.ordner = Stand.AppPfad + "\\KRANZ\\weg\\ganz";
         Zeigen(auswahl);
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
     }
 
     void aFolderThatCantBeReadIsReportedAndTheDialogStays() {
@@ -117,7 +117,7 @@ private Q_SLOTS:
                             QStringLiteral("Grrr.. *~§§°"));
             Anklicken(Ordner(), QStringLiteral("Zu"), true);
         }
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
         QFile::setPermissions(zu, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
@@ -132,7 +132,7 @@ private Q_SLOTS:
             Anklicken(Ordner(), QStringLiteral("Kurz"), true);
         }
         QVERIFY(fenster_->isVisible());
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
     }
 
     void twoThousandFilesAreListedQuickly() {
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void aClickOnAFileSetsItsPathInCapitalsAndTheNameBox() {
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("Abend.fkr"));
-        QCOMPARE(Text(DateiName), Text(Grossschreiben(Pfad(QStringLiteral("Abend.fkr")).toStdString())));
+        QCOMPARE(Text(Gewaehlt()), Text(Grossschreiben(Pfad(QStringLiteral("Abend.fkr")).toStdString())));
         QCOMPARE(Name()->text(), QStringLiteral("Abend.fkr"));
         QVERIFY(fenster_->isVisible());
     }
@@ -161,24 +161,24 @@ private Q_SLOTS:
         Zeigen();
         for (const QString& name : {QStringLiteral("Abend.fkr"), QStringLiteral("abend.FKR")}) {
             Anklicken(Dateien(), name);
-            QCOMPARE(NativerPfad(DateiName), programm_->nativ(QStringLiteral("KRANZ/") + name));
+            QCOMPARE(NativerPfad(Gewaehlt()), programm_->nativ(QStringLiteral("KRANZ/") + name));
         }
-        QCOMPARE(Text(DateiLesen(DateiName)), QStringLiteral("kleines a"));
+        QCOMPARE(Text(DateiLesen(Gewaehlt())), QStringLiteral("kleines a"));
     }
 
     void aDoubleClickUnderOeffnenBehavesAsLoading() {
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("Abend.fkr"), true);
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), Text(Grossschreiben(Pfad(QStringLiteral("Abend.fkr")).toStdString())));
-        QCOMPARE(DateiAbbruch, std::int16_t{0});
+        QCOMPARE(Text(Gewaehlt()), Text(Grossschreiben(Pfad(QStringLiteral("Abend.fkr")).toStdString())));
+        QVERIFY(fenster_->gewaehlt().has_value());
     }
 
     void aDoubleClickUnderSpeichernUnterBehavesAsSaving() {
         Zeigen("Speichern unter ...");
         Anklicken(Dateien(), QStringLiteral("Abend.fkr"), true);
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), Pfad(QStringLiteral("Abend.fkr")));
+        QCOMPARE(Text(Gewaehlt()), Pfad(QStringLiteral("Abend.fkr")));
     }
 
     void loadingTakesTheNameTypedInCapitals() {
@@ -187,8 +187,8 @@ private Q_SLOTS:
         QTest::keyClicks(Name(), QStringLiteral("abend.fkr"));
         Druecken("cmdLaden");
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), Text(Grossschreiben(Pfad(QStringLiteral("abend.fkr")).toStdString())));
-        QCOMPARE(NativerPfad(DateiName), programm_->nativ(QStringLiteral("KRANZ/Abend.fkr")));
+        QCOMPARE(Text(Gewaehlt()), Text(Grossschreiben(Pfad(QStringLiteral("abend.fkr")).toStdString())));
+        QCOMPARE(NativerPfad(Gewaehlt()), programm_->nativ(QStringLiteral("KRANZ/Abend.fkr")));
     }
 
     void savingKeepsTheCaseOfTheNameTyped() {
@@ -196,8 +196,8 @@ private Q_SLOTS:
         Name()->insert(QStringLiteral("Größe 7")); // the key helper knows no umlauts
         Druecken("cmdSpeichern");
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), Pfad(QStringLiteral("Größe 7")));
-        QCOMPARE(DateiAbbruch, std::int16_t{0});
+        QCOMPARE(Text(Gewaehlt()), Pfad(QStringLiteral("Größe 7")));
+        QVERIFY(fenster_->gewaehlt().has_value());
     }
 
     void enterInTheNameBoxConfirms() {
@@ -205,29 +205,27 @@ private Q_SLOTS:
         QTest::keyClicks(Name(), QStringLiteral("neu"));
         QTest::keyClick(Name(), Qt::Key_Return);
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), Pfad(QStringLiteral("neu")));
+        QCOMPARE(Text(Gewaehlt()), Pfad(QStringLiteral("neu")));
     }
 
     void withNothingChosenTheResultIsEmpty() {
         for (const char* taste : {"cmdLaden", "cmdSpeichern"}) {
-            DateiName = "vorher";
             Zeigen(taste == std::string_view("cmdLaden") ? "Öffnen" : "Speichern unter ...");
             Druecken(taste);
             QVERIFY(!fenster_->isVisible());
-            QCOMPARE(Text(DateiName), QString());
-            QCOMPARE(DateiAbbruch, std::int16_t{0});
+            QCOMPARE(Text(Gewaehlt()), QString());
+            QVERIFY(fenster_->gewaehlt().has_value());
         }
     }
 
-    void cancellingEmptiesTheNameAndLeavesItsMark_data() {
+    void cancellingGivesNoPath_data() {
         QTest::addColumn<int>("art");
         QTest::newRow("cmdAbbrechen") << 0;
         QTest::newRow("Esc") << 1;
         QTest::newRow("frame") << 2;
     }
-    void cancellingEmptiesTheNameAndLeavesItsMark() {
+    void cancellingGivesNoPath() {
         QFETCH(const int, art);
-        DateiName = "vorher";
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("Abend.fkr"));
         if (art == 0) {
@@ -238,8 +236,7 @@ private Q_SLOTS:
             fenster_->close();
         }
         QVERIFY(!fenster_->isVisible());
-        QCOMPARE(Text(DateiName), QString());
-        QCOMPARE(DateiAbbruch, std::int16_t{1});
+        QVERIFY(!fenster_->gewaehlt());
     }
 
     void theFocusInTheFileListDoesntReplaceANameTyped() {
@@ -255,12 +252,11 @@ private Q_SLOTS:
     void theServiceShowsTheDialogAndRemembersTheFolder() {
         programm_->schreiben(QStringLiteral("KRANZ/Sommer/ZELT.FKR"), formular);
         Dateiauswahl auswahl = Auswahl("Öffnen");
-        auswahl.ordner = AppPfad + "\\KRANZ\\Sommer";
+        auswahl.ordner = Stand.AppPfad + "\\KRANZ\\Sommer";
         Dialogfolge dialoge;
         dialoge.erwarte(
             {QStringLiteral("frmDatei"), QStringLiteral("Öffnen"), {}, {QStringLiteral("cmdAbbrechen")}});
-        DateidialogZeigen(auswahl);
-        QCOMPARE(DateiAbbruch, std::int16_t{1});
+        QVERIFY(!DateidialogZeigen(auswahl));
         auswahl.ordner.clear();
         QString gezeigt;
         dialoge.erwarte({QStringLiteral("frmDatei"),
@@ -272,14 +268,14 @@ private Q_SLOTS:
                              Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))
                                  ->setText(QStringLiteral("ZELT.FKR"));
                          }});
-        DateidialogZeigen(auswahl);
+        const auto pfad = DateidialogZeigen(auswahl);
         QCOMPARE(gezeigt, Pfad(QStringLiteral("Sommer")));
-        QCOMPARE(DateiAbbruch, std::int16_t{0});
-        QCOMPARE(NativerPfad(DateiName), programm_->nativ(QStringLiteral("KRANZ/Sommer/ZELT.FKR")));
+        QVERIFY(pfad.has_value());
+        QCOMPARE(NativerPfad(*pfad), programm_->nativ(QStringLiteral("KRANZ/Sommer/ZELT.FKR")));
     }
 
     void theBackupSwitchIsTheOption() {
-        OptionDatei = 1;
+        Spiel.OptionDatei = true;
         Zeigen();
         auto* schalter = Finden<QCheckBox>(fenster_.get(), QStringLiteral("chkBackUp"));
         QVERIFY(schalter->isChecked());
@@ -287,7 +283,7 @@ private Q_SLOTS:
         Zeigen("Speichern unter ...");
         schalter = Finden<QCheckBox>(fenster_.get(), QStringLiteral("chkBackUp"));
         QTest::mouseClick(schalter, Qt::LeftButton, {}, QPoint(8, schalter->height() / 2));
-        QCOMPARE(OptionDatei, std::int16_t{0});
+        QVERIFY(!Spiel.OptionDatei);
     }
 };
 

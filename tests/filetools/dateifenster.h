@@ -6,12 +6,12 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "filetools/dateidialog.h"
 #include "filetools/frmDatei.h"
 #include "filetools/laufwerksfeld.h"
 #include "persistence/formulardatei.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programmordner.h"
@@ -48,7 +48,7 @@ inline Dateiauswahl Auswahl(const std::string& titel) {
             {"Feldkranz-Formular (*.FKR)", "Feldkranz-Formular (*.BAK)", "Alle Dateien (*.*)"},
             {"*.fkr", "*.bak", "*.ini", "*.*"},
             "*.FKR",
-            AppPfad + "\\KRANZ",
+            Stand.AppPfad + "\\KRANZ",
             ""};
 }
 
@@ -76,6 +76,8 @@ protected:
     [[nodiscard]] QLineEdit* Name() const {
         return Finden<QLineEdit>(fenster_.get(), QStringLiteral("txtDateiname"));
     }
+    // The path chosen, "" for none.
+    [[nodiscard]] std::string Gewaehlt() const { return fenster_->gewaehlt().value_or(""); }
     [[nodiscard]] QString Schild(const char* name) const {
         return Finden<QLabel>(fenster_.get(), QLatin1String(name))->text();
     }
@@ -101,7 +103,7 @@ protected:
         }
     }
     [[nodiscard]] QString Pfad(const QString& name) const {
-        return Text(AppPfad) + QStringLiteral("\\KRANZ\\") + name;
+        return Text(Stand.AppPfad) + QStringLiteral("\\KRANZ\\") + name;
     }
 
     void Einrichten() {
@@ -113,13 +115,11 @@ protected:
         programm_->schreiben(QStringLiteral("KRANZ/Abend.fkr"), formular);
         programm_->schreiben(QStringLiteral("KRANZ/LAGER.FKR"), formular);
         programm_->schreiben(QStringLiteral("KRANZ/ALT.BAK"), formular);
-        DateiName.clear();
-        DateiAbbruch = 0;
-        OptionDatei = 0;
-        FormTyp.clear();
-        FelderGesamt = 30;
-        FragenProWissen = 5;
-        AnzahlWissen = 6;
+        Spiel.OptionDatei = false;
+        Stand.FormTyp = Formart::Keine;
+        Spiel.FelderGesamt = 30;
+        Spiel.FragenProWissen = 5;
+        Spiel.AnzahlWissen = 6;
     }
     void Aufraeumen() { fenster_.reset(); }
     void Beenden() { programm_.reset(); }

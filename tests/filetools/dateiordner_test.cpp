@@ -20,7 +20,7 @@ private Q_SLOTS:
                         QStringLiteral("Wie soll der neue Ordner\n( Verzeichnis )\nheißen ?"),
                         QStringLiteral("Sommer 2008"), QStringLiteral("cmdOK"));
         dialoge.meldung(QStringLiteral("Neuer Ordner  'Sommer 2008'  angelegt in  [ %1 ]")
-                            .arg(Text(AppPfad) + QStringLiteral("\\KRANZ")),
+                            .arg(Text(Stand.AppPfad) + QStringLiteral("\\KRANZ")),
                         QStringLiteral("Sehr gut"));
         Druecken("cmdOrdner(0)");
         QVERIFY(Eintraege(Ordner()).contains(QStringLiteral("Sommer 2008")));
@@ -54,7 +54,7 @@ private Q_SLOTS:
                         QStringLiteral("Na also"));
         Druecken("cmdOrdner(1)");
         QVERIFY(!programm_->vorhanden(QStringLiteral("KRANZ/Leer")));
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
     }
 
     void eachRefusalToDeleteAFolderHasItsOwnButton() {
@@ -80,7 +80,7 @@ private Q_SLOTS:
         Druecken("cmdOrdner(1)");
         QVERIFY(programm_->vorhanden(QStringLiteral("KRANZ/Abend.fkr")));
         QVERIFY(fenster_->isVisible());
-        QCOMPARE(Schild("lblDir"), Text(AppPfad) + QStringLiteral("\\KRANZ"));
+        QCOMPARE(Schild("lblDir"), Text(Stand.AppPfad) + QStringLiteral("\\KRANZ"));
     }
 
     void theThirdFolderButtonDoesNothing() {
@@ -111,14 +111,14 @@ private Q_SLOTS:
         const QStringList erwartet{QStringLiteral(" V O R S C H A U|"),
                                    QStringLiteral("Datei |LAGER.FKR"),
                                    QStringLiteral("Größe |%1 Bytes").arg(formular.size()),
-                                   QStringLiteral("Datum |") + Text(DateiDatum(DateiName)).left(10),
+                                   QStringLiteral("Datum |") + Text(DateiDatum(Gewaehlt())).left(10),
                                    QStringLiteral("Fragen|24"),
                                    QStringLiteral("Wissensgebiete|6"),
                                    QStringLiteral("Fragen|4 je WG")};
         QCOMPARE(zeilen, erwartet);
-        QCOMPARE(FelderGesamt, std::int16_t{30});
-        QCOMPARE(FragenProWissen, std::int16_t{5});
-        QCOMPARE(FormTyp, std::string());
+        QCOMPARE(Spiel.FelderGesamt, std::int16_t{30});
+        QCOMPARE(Spiel.FragenProWissen, std::int16_t{5});
+        QCOMPARE(Stand.FormTyp, Formart::Keine);
         BildVon(fenster_.get(), QStringLiteral("frmDatei_vorschau"));
         Druecken("cmdDateiInfoEnde");
         QVERIFY(tafel->isHidden());
@@ -150,7 +150,7 @@ private Q_SLOTS:
                         QStringLiteral("Grrr.. *~§§°"));
         Druecken("cmdVorschau");
         QVERIFY(Finden<QWidget>(fenster_.get(), QStringLiteral("pnlDatei"))->isHidden());
-        QCOMPARE(FelderGesamt, std::int16_t{30});
+        QCOMPARE(Spiel.FelderGesamt, std::int16_t{30});
     }
 
     void aFileCutShortInItsHeadIsReportedAndChangesNoNumber() {
@@ -164,7 +164,7 @@ private Q_SLOTS:
             QStringLiteral("Grrr.. *~§§°"));
         Druecken("cmdVorschau");
         QVERIFY(Finden<QWidget>(fenster_.get(), QStringLiteral("pnlDatei"))->isHidden());
-        QCOMPARE(FelderGesamt, std::int16_t{30});
+        QCOMPARE(Spiel.FelderGesamt, std::int16_t{30});
     }
 };
 

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void thePatternsShowFormsOrBackups();
     void aClickTakesTheFileAndShowsItsNumbers();
     void theArrowKeysMarkAndShowToo();
+    void thePreviewReadsTheNumbersOnly();
+    void thePreviewOfATestFormKeepsTheNumbers();
     void thePreviewOfATestFormKeepsTheNumbersOfTheFileBefore();
     void aLookAtAnotherFileChangesNothingOfTheOpenForm();
     void aDoubleClickOpensTheForm();
@@ -62,7 +64,7 @@ void FormularlisteTest::theMainWindowOpensWithTheListShown() {
     QCOMPARE(Listenlauf::Fenster()->property("tag").toString(), QStringLiteral("FKFragen"));
     QVERIFY(Finden<QRadioButton>(Listenlauf::Fenster(), QStringLiteral("optPattern(0)"))->isChecked());
     QCOMPARE(Listenlauf::Info(), QStringLiteral("Datei mit Linksklick auswählen."));
-    QCOMPARE(FormTyp, std::string()); // any form can be opened
+    QCOMPARE(Stand.FormTyp, Formart::Keine); // any form can be opened
     QVERIFY(InGebrauch("cmdNeuFK"));
     QVERIFY(InGebrauch("cmdNeuHB"));
 }
@@ -76,7 +78,8 @@ void FormularlisteTest::theListStandsAboveTheMainWindowAndIsNoChildOfIt() {
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a"));
     Listenlauf::Anklicken(QStringLiteral("A.FKR"));
     QTRY_VERIFY(liste->isActiveWindow());
-    QCOMPARE(AktivesKind(), std::string("FKFragen"));
+    QVERIFY(AktivesKind() == form);
+    QCOMPARE(AktivesKind()->objectName(), QStringLiteral("frmFKFragen"));
     QVERIFY(Finden(MDIFenster(), QStringLiteral("picFK"))->isVisible());
     maus::Klicken(form->txtFrage.at(1));
     QTRY_VERIFY(MDIFenster()->isActiveWindow());
@@ -115,13 +118,13 @@ void FormularlisteTest::theButtonsChooseFolderColourAndMode() {
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Knoten.FKR")});
     QCOMPARE(Listengrund(), QColor(191, 255, 191));
     QCOMPARE(MDIFenster()->property("tag").toString(), QStringLiteral("HBFragen"));
-    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(Finden<QRadioButton>(Listenlauf::Fenster(), QStringLiteral("optPattern(0)"))->isChecked());
     Listenlauf::Druecken("cmdNeuFK");
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Herbst.FKR")});
     QCOMPARE(Listengrund(), QColor(255, 255, 191));
     QCOMPARE(MDIFenster()->property("tag").toString(), QStringLiteral("FKFragen"));
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
     QVERIFY(Finden(MDIFenster(), QStringLiteral("picKranz"))->isVisible()); // the toolbars stay
 }
 
@@ -140,13 +143,13 @@ void FormularlisteTest::thePatternsShowFormsOrBackups() {
 void FormularlisteTest::aClickTakesTheFileAndShowsItsNumbers() {
     const Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/Herbst.FKR"), Quizdatei("Was fällt ?", 20, 5, 4));
+    const Spielwerte vorher = Spiel;
     Listenlauf::Anklicken(QStringLiteral("Herbst.FKR"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(20, 4, 5));
-    QCOMPARE(DateiName, AppPfad + "\\KRANZ\\Herbst.FKR");
     QCOMPARE(Listenlauf::Markiert(), QStringLiteral("Herbst.FKR"));
     QVERIFY(Listenlauf::Status().startsWith(QStringLiteral(" Ich lade ...  Z\\Herbst.FKR")));
-    QCOMPARE(FormTyp, std::string("FK")); // no form is open: the values are those of the file
-    QCOMPARE(FelderGesamt, std::int16_t(20));
+    QVERIFY(Spiel == vorher); // what the list shows isn't in force
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
     QVERIFY(FKFragenOffen() == nullptr);
 }
 
@@ -161,7 +164,45 @@ void FormularlisteTest::theArrowKeysMarkAndShowToo() {
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     maus::Taste(QStringLiteral("Down"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(20, 5, 4));
-    QCOMPARE(DateiName, AppPfad + "\\KRANZ\\B.FKR");
+    QCOMPARE(Listenlauf::Markiert(), QStringLiteral("B.FKR"));
+    QVERIFY(Listenlauf::Status().endsWith(QStringLiteral("\\KRANZ\\B.FKR ")));
+}
+
+void FormularlisteTest::thePreviewReadsTheNumbersOnly() {
+    const Listenlauf lauf;
+    Quizformular form;
+    form.FrageText.fill("Herbst");
+    Spielwerte werte;
+    werte.FelderGesamt = 24;
+    werte.FragenProWissen = 4;
+    werte.AnzahlWissen = 6;
+    werte.Punkte.fill(7);
+    lauf.Anlegen(QStringLiteral("KRANZ/herbstlager 2008.fkr"),
+                 QByteArray::fromStdString(FormularBytes(form, werte)));
+    const Spielwerte vorher = Spiel;
+    Listenlauf::Anklicken(QStringLiteral("herbstlager 2008.fkr"));
+    QTRY_COMPARE(Listenlauf::Info(), Vorschau(24, 6, 4));
+    QVERIFY(Spiel == vorher);
+    QVERIFY(FKForm == Quizformular());
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
+    QCOMPARE(Listenlauf::Status(), QStringLiteral(" Ich lade ...  ger 2008.fkr "));
+    Listenlauf::Liste()->clearSelection(); // nothing chosen: nothing happens
+    QTest::qWait(100);
+    QCOMPARE(Listenlauf::Info(), Vorschau(24, 6, 4));
+    QVERIFY(Spiel == vorher);
+}
+
+void FormularlisteTest::thePreviewOfATestFormKeepsTheNumbers() {
+    const Listenlauf lauf;
+    lauf.Anlegen(QStringLiteral("KRANZ/T.FKR"), Testdatei("t"));
+    Spiel.FelderGesamt = 12;
+    Spiel.AnzahlWissen = 3;
+    Spiel.FragenProWissen = 4;
+    const Spielwerte vorher = Spiel;
+    Listenlauf::Anklicken(QStringLiteral("T.FKR"));
+    QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
+    QVERIFY(Spiel == vorher);
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
 }
 
 void FormularlisteTest::thePreviewOfATestFormKeepsTheNumbersOfTheFileBefore() {
@@ -175,8 +216,8 @@ void FormularlisteTest::thePreviewOfATestFormKeepsTheNumbersOfTheFileBefore() {
         Listenlauf::Anklicken(QStringLiteral("Q.FKR"));
         QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
         Listenlauf::Anklicken(QStringLiteral("T.FKR"));
-        QTRY_COMPARE(DateiName, AppPfad + "\\KRANZ\\T.FKR");
-        QTRY_VERIFY(Listenlauf::Status().contains(QStringLiteral("T.FKR")));
+        QTRY_COMPARE(Listenlauf::Markiert(), QStringLiteral("T.FKR"));
+        QTRY_VERIFY(Listenlauf::Status().endsWith(QStringLiteral("\\KRANZ\\T.FKR ")));
         QCOMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     }
 }
@@ -205,12 +246,12 @@ void FormularlisteTest::aDoubleClickOpensTheForm() {
     QTRY_VERIFY(FKFragenOffen() != nullptr);
     QTRY_COMPARE(Quizfrage(), QStringLiteral("Eine andere ?"));
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral("herbst.fkr "));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QTRY_VERIFY(MDIFenster()->isActiveWindow());
     QVERIFY(Listenlauf::Fenster()->isVisible());             // the list stays
     Listenlauf::Doppelklicken(QStringLiteral("Herbst.FKR")); // an unchanged form gives way without a word
     QTRY_COMPARE(Quizfrage(), QStringLiteral("Welche Frucht ?"));
-    QCOMPARE(FKDateiName, AppPfad + "\\KRANZ\\Herbst.FKR");
+    QCOMPARE(Stand.FKDateiName, Stand.AppPfad + "\\KRANZ\\Herbst.FKR");
 }
 
 void FormularlisteTest::aDoubleClickOnABackupLoadsItAsAForm() {
@@ -231,8 +272,8 @@ void FormularlisteTest::aTestFormIsOpenedFromItsOwnFolder() {
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("Knoten.FKR")});
     Listenlauf::Doppelklicken(QStringLiteral("Knoten.FKR"));
     QTRY_VERIFY(HBFragenOffen() != nullptr);
-    QCOMPARE(HBFrageText[1], std::string("Welcher Knoten ?"));
-    QCOMPARE(HBDateiName, AppPfad + "\\TEST\\Knoten.FKR");
+    QCOMPARE(HBForm.HBFrageText[1], std::string("Welcher Knoten ?"));
+    QCOMPARE(Stand.HBDateiName, Stand.AppPfad + "\\TEST\\Knoten.FKR");
     QVERIFY(InGebrauch("cmdNeuHB"));
     QVERIFY(!InGebrauch("cmdNeuFK"));
 }
@@ -320,7 +361,6 @@ void FormularlisteTest::aTestFileWhileAQuizFormIsOpenChangesNothing() {
     QVERIFY(!InGebrauch("cmdNeuHB"));
 }
 
-// The preview of a quiz file sets the mode, and the form that is open must not pay for it.
 void FormularlisteTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a"));
@@ -332,8 +372,8 @@ void FormularlisteTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(HBFragenOffen(), form);
     QCOMPARE(HB_Frage(1), std::string("mein Test"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(FormTyp, std::string("Test"));
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(lauf.Lesen(QStringLiteral("TEST/UNGESICHERT.BAK")).isNull());
 }
 
@@ -341,7 +381,7 @@ void FormularlisteTest::theModeOfTheListBindsTheListAndNotTheFileDialog() {
     const Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/T.FKR"), Testdatei("t"));
     Listenlauf::Druecken("cmdNeuFK");
-    QTRY_COMPARE(FormTyp, std::string("FK"));
+    QTRY_COMPARE(Stand.FormTyp, Formart::Quiz);
     Dialogfolge dialoge;
     dialoge.meldung(quizOffen, QStringLiteral("Den Gefallen kann ich dir tun !"));
     Listenlauf::Doppelklicken(QStringLiteral("T.FKR"));

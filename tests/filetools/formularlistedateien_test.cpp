@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aHugeFileIsReportedAndNotSearched();
     void aFileThatVanishesBetweenMarkingAndOpeningChangesNothing();
     void anUnreadableFileInThePreviewIsReportedAndChangesNoNumber();
+    void aFileCutShortInThePreviewIsReportedAndChangesNoNumber();
     void aLongListIsReadAndWalkedThroughWithoutAWait();
     void theListIsClearOfToolbarsAndPanels_data();
     void theListIsClearOfToolbarsAndPanels();
@@ -30,9 +31,9 @@ void FormularlisteDateienTest::filesThatAppearAndVanishShowWithoutARestart() {
     lauf.Anlegen(QStringLiteral("KRANZ/B.FKR"), Quizdatei("b"));
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a"));
     QCOMPARE(Listenlauf::Namen(), (QStringList{QStringLiteral("A.FKR"), QStringLiteral("B.FKR")}));
-    DateiLoeschen(AppPfad + "\\KRANZ\\A.FKR");
+    DateiLoeschen(Stand.AppPfad + "\\KRANZ\\A.FKR");
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("B.FKR")});
-    DateiSchreiben(AppPfad + "\\KRANZ\\C.FKR", "neu"); // as a save does it
+    DateiSchreiben(Stand.AppPfad + "\\KRANZ\\C.FKR", "neu"); // as a save does it
     QTRY_COMPARE(Listenlauf::Namen(), (QStringList{QStringLiteral("B.FKR"), QStringLiteral("C.FKR")}));
 }
 
@@ -44,7 +45,7 @@ void FormularlisteDateienTest::aMarkedFileStaysMarkedWhileOthersComeAndGo() {
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a"));
     QCOMPARE(Listenlauf::Markiert(), QStringLiteral("M.FKR"));
     QCOMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
-    DateiLoeschen(AppPfad + "\\KRANZ\\M.FKR");
+    DateiLoeschen(Stand.AppPfad + "\\KRANZ\\M.FKR");
     QTRY_COMPARE(Listenlauf::Markiert(), QString());
     QCOMPARE(Listenlauf::Info(), QStringLiteral("Datei mit Linksklick auswählen."));
 }
@@ -88,7 +89,7 @@ void FormularlisteDateienTest::aTextFileIsNoForm() {
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(FKFragenOffen(), form);
     QCOMPARE(form->windowTitle(), QStringLiteral(" Neues Feldkranz-Formular"));
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
 }
 
 void FormularlisteDateienTest::aBinaryFileIsNoForm() {
@@ -98,13 +99,13 @@ void FormularlisteDateienTest::aBinaryFileIsNoForm() {
         bytes += static_cast<char>((i * 7919) % 256);
     }
     lauf.Anlegen(QStringLiteral("KRANZ/Bild.FKR"), bytes);
-    FelderGesamt = 30;
+    Spiel.FelderGesamt = 30;
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("Evtl. keine Feldkranz-Datei !"), QStringLiteral("Grrr"));
     Listenlauf::Doppelklicken(QStringLiteral("Bild.FKR"));
     QTRY_VERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FelderGesamt, std::int16_t(30));
+    QCOMPARE(Spiel.FelderGesamt, std::int16_t(30));
 }
 
 void FormularlisteDateienTest::aFileCutShortIsReported() {
@@ -133,13 +134,13 @@ void FormularlisteDateienTest::aHugeFileIsReportedAndNotSearched() {
     lauf.Anlegen(QStringLiteral("KRANZ/Film.FKR"), "Film");
     QVERIFY(QFile::resize(lauf.programm().ordner().nativ(QStringLiteral("KRANZ/Film.FKR")),
                           qint64{3} << 30)); // 3 GiB of nothing
-    FelderGesamt = 30;
+    Spiel.FelderGesamt = 30;
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("DATEI : Oeffnen_Vorschau :\nIch brauche mehr Platz ! (Out of Memory)"),
                     QStringLiteral("Grrr !*?~"));
     Listenlauf::Anklicken(QStringLiteral("Film.FKR"));
     QTRY_VERIFY(dialoge.fertig());
-    QCOMPARE(FelderGesamt, std::int16_t(30));
+    QCOMPARE(Spiel.FelderGesamt, std::int16_t(30));
 }
 
 void FormularlisteDateienTest::aFileThatVanishesBetweenMarkingAndOpeningChangesNothing() {
@@ -163,7 +164,7 @@ void FormularlisteDateienTest::aFileThatVanishesBetweenMarkingAndOpeningChangesN
                        Listenlauf::Liste()->visualItemRect(Listenlauf::Liste()->item(0)).center());
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(FK_Frage(1), std::string("noch da"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(lauf.Lesen(QStringLiteral("KRANZ/UNGESICHERT.BAK")).isNull());
 }
 
@@ -171,6 +172,7 @@ void FormularlisteDateienTest::anUnreadableFileInThePreviewIsReportedAndChangesN
     Listenlauf lauf;
     lauf.Anlegen(QStringLiteral("KRANZ/A.FKR"), Quizdatei("a", 12, 4, 3));
     lauf.Anlegen(QStringLiteral("KRANZ/B.FKR"), Quizdatei("b"));
+    const Spielwerte vorher = Spiel;
     Listenlauf::Anklicken(QStringLiteral("A.FKR"));
     QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
     // A link that leads nowhere can be opened by nobody, the super-user included.
@@ -184,8 +186,27 @@ void FormularlisteDateienTest::anUnreadableFileInThePreviewIsReportedAndChangesN
     QTest::mouseClick(Listenlauf::Liste()->viewport(), Qt::LeftButton, {},
                       ort); // before the list hears of it
     QTRY_VERIFY(dialoge.fertig());
-    QCOMPARE(FelderGesamt, std::int16_t(12));
-    QCOMPARE(AnzahlWissen, std::int16_t(3));
+    QCOMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
+    QVERIFY(Spiel == vorher);
+}
+
+void FormularlisteDateienTest::aFileCutShortInThePreviewIsReportedAndChangesNoNumber() {
+    const Listenlauf lauf;
+    lauf.Anlegen(QStringLiteral("KRANZ/KURZ.FKR"), "\"Feldkranz\"\r\n\"FK\"\r\n[FKINI]\r\nFK\r\n30\r\n5\r\n");
+    Spiel.FelderGesamt = 12;
+    Spiel.AnzahlWissen = 3;
+    Spiel.FragenProWissen = 4;
+    const Spielwerte vorher = Spiel;
+    Dialogfolge dialoge;
+    dialoge.meldung(
+        QStringLiteral("DATEI : Oeffnen_Vorschau :\nIch müsste noch Daten einlesen, aber die Datei ist "
+                       "zu Ende !?"),
+        QStringLiteral("Grrr.. *~§§°"));
+    Listenlauf::Anklicken(QStringLiteral("KURZ.FKR"));
+    QTRY_VERIFY(dialoge.fertig());
+    QTRY_COMPARE(Listenlauf::Info(), Vorschau(12, 3, 4));
+    QVERIFY(Spiel == vorher);
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
 }
 
 void FormularlisteDateienTest::aLongListIsReadAndWalkedThroughWithoutAWait() {

@@ -1,5 +1,4 @@
 // The texts of the list's preview, and the names under which unsaved work is kept.
-#include "core/zustand.h"
 #include "filetools/formularlistetexte.h"
 #include "persistence/formulardatei.h"
 #include "persistence/rettungsname.h"
@@ -40,24 +39,22 @@ INSTANTIATE_TEST_SUITE_P(Tabelle, Rettungsnamen,
 // Which files may take the place of an open form.
 struct Datei {
     const char* bytes;
-    const char* formTyp;
+    Formart offen;
     bool annehmbar;
 };
 class Annahme : public ::testing::TestWithParam<Datei> {};
 
 TEST_P(Annahme, IsKnownBeforeAnythingChanges) {
-    FormTyp = GetParam().formTyp;
-    EXPECT_EQ(FormularAnnehmbar(GetParam().bytes), GetParam().annehmbar);
-    EXPECT_EQ(FormTyp, GetParam().formTyp);
-    FormTyp.clear();
+    EXPECT_EQ(FormularAnnehmbar(GetParam().bytes, GetParam().offen), GetParam().annehmbar);
 }
 
 INSTANTIATE_TEST_SUITE_P(Tabelle, Annahme,
-                         ::testing::Values(Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "", true},
-                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "FK", true},
-                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", "Test", false},
-                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", "FK", false},
-                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", "Test", true},
-                                           Datei{"\"feldkranz\"\r\n\"FK\"\r\n", "", false},
-                                           Datei{"Liebe Eltern", "FK", false},
-                                           Datei{"\"Feldkranz\"\r\n", "FK", false}, Datei{"", "FK", true}));
+                         ::testing::Values(Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", Formart::Keine, true},
+                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", Formart::Quiz, true},
+                                           Datei{"\"Feldkranz\"\r\n\"FK\"\r\n", Formart::Test, false},
+                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", Formart::Quiz, false},
+                                           Datei{"\"Feldkranz\"\r\n\"Test\"\r\n", Formart::Test, true},
+                                           Datei{"\"feldkranz\"\r\n\"FK\"\r\n", Formart::Keine, false},
+                                           Datei{"Liebe Eltern", Formart::Quiz, false},
+                                           Datei{"\"Feldkranz\"\r\n", Formart::Quiz, false},
+                                           Datei{"", Formart::Quiz, true}));

@@ -14,7 +14,7 @@ void Tippen(const QString& text) {
     maus::Taste(QStringLiteral("ctrl+a"));
     maus::Tippen(text);
     QTRY_COMPARE(QString::fromStdString(FK_Frage(1)), text);
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void Oeffnen(const QString& name, const QString& frage) {
@@ -58,8 +58,8 @@ void FormularrettungTest::anUnsavedQuizFormIsKeptAndComesBack() {
     Tippen(QStringLiteral("drei Stunden Arbeit"));
     Oeffnen(QStringLiteral("A.FKR"), QStringLiteral("a")); // no question comes: an unexpected one would fail
     QCOMPARE(Listenlauf::Status(), Meldesatz(QStringLiteral("UNGESICHERT.BAK")));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-    QCOMPARE(FKDateiName, AppPfad + "\\KRANZ\\A.FKR");
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Stand.FKDateiName, Stand.AppPfad + "\\KRANZ\\A.FKR");
     QVERIFY(lauf.Lesen(rettung).contains("\"drei Stunden Arbeit\"\r\n"));
     BackupsZeigen();
     BildVomBildschirm(QStringLiteral("formularrettung"));
@@ -84,7 +84,7 @@ void FormularrettungTest::anUnsavedTestFormIsKeptInItsOwnFolder() {
     BackupsZeigen();
     Listenlauf::Doppelklicken(QStringLiteral("UNGESICHERT.BAK"));
     QTRY_COMPARE(HB_Frage(3), std::string("nie gemerkt"));
-    QCOMPARE(HBDateiName, std::string());
+    QCOMPARE(Stand.HBDateiName, std::string());
 }
 
 void FormularrettungTest::anUnchangedFormLeavesNoFile() {
@@ -113,7 +113,7 @@ void FormularrettungTest::aFileThatIsNotTakenLeavesNoFile() {
     Listenlauf::Doppelklicken(QStringLiteral("T.FKR"));
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(FK_Frage(1), std::string("bleibt"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(lauf.Lesen(rettung).isNull());
 }
 
@@ -148,7 +148,7 @@ void FormularrettungTest::aSaveOfAFormThatCameBackAsksForAName() {
     lauf.Schreiben(rettung, Quizdatei("gestern"));
     BackupsZeigen();
     Oeffnen(QStringLiteral("UNGESICHERT.BAK"), QStringLiteral("gestern"));
-    QCOMPARE(FKDateiName, std::string());
+    QCOMPARE(Stand.FKDateiName, std::string());
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral("UNGESICHERT.BAK "));
     Dialogfolge dialoge;
     dialoge.erwarte({QStringLiteral("frmDatei"),
@@ -208,8 +208,8 @@ void FormularrettungTest::aFailureIsReportedAndTheFormStays() {
     QTRY_VERIFY(dialoge.fertig());
     QCOMPARE(HBFragenOffen(), form);
     QCOMPARE(HB_Frage(1), std::string("mein Test"));
-    QCOMPARE(HBFrageText[1], std::string()); // the stored copy is as it was
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QCOMPARE(HBForm.HBFrageText[1], std::string()); // the stored copy is as it was
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void FormularrettungTest::aFolderOfThatNameStaysAsItIs() {

@@ -2,7 +2,8 @@
 // meant to be.
 #include "listenhilfe.h"
 
-#include "quizform/spezialfelder.h"
+#include "quizform/feldregeln.h"
+#include "rules/spezialfelder.h"
 
 #include <algorithm>
 
@@ -95,11 +96,14 @@ void VorlagenTest::theQuizFormsOpenComplete() {
     QCOMPARE(Gefuellt(), gebiete * jeGebiet);
     QCOMPARE(Buchstaben(), buchstaben);
     QCOMPARE(Titel(), titel);
+    const Feldsichten sichten = BrettSichten(Spiel);
     for (int n = 1; n <= anzahlFelder; ++n) {
+        const auto i = static_cast<std::size_t>(n);
         QCOMPARE(FK_Antwort(n).empty(), FK_Frage(n).empty());
-        QCOMPARE(FK_FrageSichtbar(n), !FK_Frage(n).empty());
+        QCOMPARE(sichten.at(i).frage, !FK_Frage(n).empty());
+        QCOMPARE(!FKFragenOffen()->txtFrage.at(i)->isHidden(), sichten.at(i).frage);
     }
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     BildVon(MDIFenster(), QStringLiteral("vorlage-") + name);
     qInfo().noquote() << name << "questions" << Gefuellt() << "special fields" << Buchstaben();
 }
@@ -135,10 +139,10 @@ void VorlagenTest::theTestFormsOpenComplete() {
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         QVERIFY(!HB_Frage(n).empty());
         QVERIFY(!HB_Antwort(n).empty());
-        summe += HBPunkte.at(static_cast<std::size_t>(n));
+        summe += HBForm.HBPunkte.at(static_cast<std::size_t>(n));
     }
     QCOMPARE(summe, punkte);
-    QCOMPARE(int{HBGesamtpunkte}, punkte);
+    QCOMPARE(int{HBForm.HBGesamtpunkte}, punkte);
     BildVon(MDIFenster(), QStringLiteral("vorlage-") + name);
     qInfo().noquote() << name << "points" << summe;
 }

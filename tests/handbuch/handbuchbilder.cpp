@@ -1,15 +1,17 @@
 // Takes the handbook's pictures of windows at work, and prints a form of each kind for those of the paper. No
 // test: it proves nothing, it shows. BILDER_ORDNER names the folder where pictures and PDF files go.
 #include "catalogue/katalogladen.h"
-#include "core/frmMDI.h"
+#include "mainwindow/frmMDI.h"
+#include "forms/quizformulare.h"
+#include "forms/testformulare.h"
 #include "periphery/zusatz.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "quizform/quizformular.h"
+#include "rules/spielwerte.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -86,13 +88,13 @@ std::size_t Stelle(const Fragenliste& liste, int punkte) {
 void QuizFuellen() {
     for (int a = 1; a <= anzahlGebiete; ++a) {
         const Gebiet& gebiet = gebiete.at(Nr(a - 1));
-        WissenTitel.at(Nr(a)) = gebiet.thema;
+        FKForm.WissenTitel.at(Nr(a)) = gebiet.thema;
         const Fragenliste liste = Fragen(gebiet);
         for (int r = 1; r <= fragenJeGebiet; ++r) {
             const std::size_t n = Nr(fragenJeGebiet * (a - 1) + r);
             const std::size_t i = Stelle(liste, r);
-            FrageText.at(n) = liste.wert(i, Spalte::Frage);
-            AntwortText.at(n) = liste.wert(i, Spalte::Antwort);
+            FKForm.FrageText.at(n) = liste.wert(i, Spalte::Frage);
+            FKForm.AntwortText.at(n) = liste.wert(i, Spalte::Antwort);
         }
     }
     for (const auto& [n, buchstabe] : {std::pair{4, "J"},
@@ -105,31 +107,32 @@ void QuizFuellen() {
                                        {22, "R"},
                                        {24, "E"},
                                        {28, "J"}}) {
-        FeldSpezial.at(Nr(n)) = buchstabe;
+        FKForm.FeldSpezial.at(Nr(n)) = buchstabe;
     }
     const Fragenliste aufgaben = Fragen({"- Aufgaben -", "Standardaufgaben"});
     for (const auto& [n, i] : {std::pair{3, 8}, {26, 7}}) {
-        FeldSpezial.at(Nr(n)) = "A";
-        FrageText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Frage);
-        AntwortText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Antwort);
+        FKForm.FeldSpezial.at(Nr(n)) = "A";
+        FKForm.FrageText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Frage);
+        FKForm.AntwortText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Antwort);
     }
-    FormNr = "1";
-    FormDatum = "20.11.2026";
-    FormZeit = "60 min";
+    FKForm.FormNr = "1";
+    FKForm.FormDatum = "20.11.2026";
+    FKForm.FormZeit = "60 min";
 }
 
 void TestFuellen() {
     const Fragenliste liste = Fragen({"Häuptlingsbuch", "Waldläuferzeichen"});
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         const std::size_t i = Nr(2 * n - 1) % liste.anzahl();
-        HBFrageText.at(Nr(n)) = liste.wert(i, Spalte::Frage);
-        HBAntwortText.at(Nr(n)) = liste.wert(i, Spalte::Antwort);
-        HBPunkte.at(Nr(n)) = static_cast<std::int16_t>(std::stoi(std::string(liste.wert(i, Spalte::Punkte))));
-        HBGesamtpunkte = static_cast<std::int16_t>(HBGesamtpunkte + HBPunkte.at(Nr(n)));
+        HBForm.HBFrageText.at(Nr(n)) = liste.wert(i, Spalte::Frage);
+        HBForm.HBAntwortText.at(Nr(n)) = liste.wert(i, Spalte::Antwort);
+        HBForm.HBPunkte.at(Nr(n)) =
+            static_cast<std::int16_t>(std::stoi(std::string(liste.wert(i, Spalte::Punkte))));
+        HBForm.HBGesamtpunkte = static_cast<std::int16_t>(HBForm.HBGesamtpunkte + HBForm.HBPunkte.at(Nr(n)));
     }
-    HBKopf1 = " TEST Häuptlingsfreizeit";
-    HBKopf2 = HBFach = " Waldläuferzeichen";
-    HBKopf3 = " II";
+    HBForm.HBKopf1 = " TEST Häuptlingsfreizeit";
+    HBForm.HBKopf2 = HBForm.HBFach = " Waldläuferzeichen";
+    HBForm.HBKopf3 = " II";
 }
 
 void Drucken(const QString& taste, const Programm& programm, const QString& pdf, const QString& ziel) {
@@ -157,7 +160,7 @@ void Handbuchbilder::feldkranz() {
     Programm programm;
     programm.NeuesQuizformular();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
+    FK_GelesenesZeigen(" Feldkranz-Formular");
     Dialogfolge dialoge;
     dialoge.frage(
         QStringLiteral("Formular drucken"),
@@ -170,7 +173,7 @@ void Handbuchbilder::test() {
     Programm programm;
     programm.NeuesTestformular();
     TestFuellen();
-    HB_FormularZeigen(" Test-Formular");
+    HB_GelesenesZeigen(" Test-Formular");
     Kindbild(HBFragenOffen(), QStringLiteral("frmHBFragen"));
     Dialogfolge dialoge;
     const QString titel = QStringLiteral("Testformular ausdrucken");
@@ -207,9 +210,9 @@ void Handbuchbilder::formularliste() {
     Programm programm;
     programm.NeuesQuizformular();
     QuizFuellen();
-    FK_FormularZeigen(" Feldkranz-Formular");
-    FelderGesamt = 30;
-    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("FKFragen"));
+    FK_GelesenesZeigen(" Feldkranz-Formular");
+    Spiel.FelderGesamt = 30;
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes(FKForm, Spiel));
     for (const char* name : {"Nachtwanderung", "Sommerfest"}) {
         programm.ordner().schreiben(QStringLiteral("KRANZ/%1.FKR").arg(QLatin1String(name)), bytes);
     }

@@ -1,5 +1,5 @@
 // The helpers of the window tests, tried on windows made here: what they report can be trusted elsewhere.
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
@@ -112,7 +112,7 @@ private Q_SLOTS:
         {
             const Programmordner ordner;
             pfad = ordner.nativ();
-            QCOMPARE(QString::fromStdString(AppPfad), QString(pfad).replace(u'/', u'\\'));
+            QCOMPARE(QString::fromStdString(Stand.AppPfad), QString(pfad).replace(u'/', u'\\'));
             for (const char* name : {"BITMAP", "CONFIG", "KRANZ", "REGEL", "SOUND", "TEST", "WISSEN"}) {
                 QVERIFY2(QFileInfo(ordner.nativ(QLatin1String(name))).isDir(), name);
             }

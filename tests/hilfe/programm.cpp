@@ -3,22 +3,19 @@
 #include "catalogue/auswahl.h"
 #include "catalogue/themen.h"
 #include "core/fortschritt.h"
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/ziehen.h"
-#include "core/zustand.h"
-#include "dialogs/meldung.h"
+#include "core/programmstand.h"
 #include "editor/editor.h"
 #include "editor/editordaten.h"
-#include "printing/drucken.h"
+#include "forms/formulare.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/spezialfelder.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "rules/spielwerte.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/versagen.h"
@@ -28,70 +25,21 @@
 #include <QFile>
 #include <QTest>
 
-namespace {
-
-void FormZuruecksetzen() {
-    WissenTitel.fill({});
-    FrageText.fill({});
-    AntwortText.fill({});
-    FeldSpezial.fill({});
-    FeldPunkte.fill(0);
-    for (std::string* text : {&FormNr, &FormDatum, &FormZeit, &FKDateiName, &HBDateiName, &HBFach, &HBKopf1,
-                              &HBKopf2, &HBKopf3}) {
-        text->clear();
-    }
-    HBFrageText.fill({});
-    HBAntwortText.fill({});
-    HBPunkte.fill(0);
-    AktuellesFeld = LoeschLauf = HBGesamtpunkte = 0;
-    SpezialAnzahl.fill(0);
-    RegelTaste = RegelHinweis = 0;
-}
-
-void EinstellungenZuruecksetzen() {
-    for (std::int16_t* zahl :
-         {&PunkteA,          &PunkteE,      &PunkteG,         &PunkteJ,          &PunkteR,
-          &FelderA,          &FelderE,      &FelderG,         &FelderJ,          &FelderR,
-          &PunkteVA,         &PunkteVE,     &PunkteVG,        &PunkteVJ,         &PunkteVR,
-          &FelderVA,         &FelderVG,     &FelderVJ,        &FelderVR,         &FelderGesamt,
-          &FragenProWissen,  &AnzahlWissen, &OptionMaxFelder, &OptionMaxSpezial, &OptionMaxWissen,
-          &FarbeHintergrund, &OptionTitel,  &OptionWissen,    &OptionJoker,      &OptionRahmen,
-          &OptionDatei}) {
-        *zahl = 0;
-    }
-    FelderVE.reset();
-    OptionEreignis.reset();
-    Zwischenabstand = 0.0F;
-    for (std::string* text : {&Papierformat, &Datei1, &Datei2, &Datei3, &Datei4}) {
-        text->clear();
-    }
-    HilfeEintrag.fill({});
-}
-
-} // namespace
-
 void ZustandZuruecksetzen() {
-    FormZuruecksetzen();
-    EinstellungenZuruecksetzen();
-    for (std::string* text :
-         {&FormTyp, &DateiName, &DateiAlt, &DragHerkunft, &Bemerkung, &BemerkungMarke, &EditorText}) {
-        text->clear();
-    }
-    DateiAbbruch = DateiNr = FormGeaendert = EditorGeaendert = SpeichernMitDialog = 0;
-    FortschrittAktiv = 0;
-    FortschrittWert = 0.0F;
-    DragArt = DragFeld = 0;
-    NachrichtAntwort = 0;
-    BlankoDruck = 0;
-    ThemenListe.fill({});
-    UnterthemenListe.fill({});
+    const std::string pfad = Stand.AppPfad; // where the program lies doesn't change
+    Stand = {};
+    Stand.AppPfad = pfad;
+    FKForm = {};
+    HBForm = {};
+    Spiel = {};
+    Katalog = {};
+    Editor = {};
+    Fortschritt = {};
     BildschirmgroesseVorgeben(QSize());
 }
 
 Programm::Programm(bool mitEinstellungen) {
-    const std::string pfad = AppPfad; // set by the folder
     ZustandZuruecksetzen();
-    AppPfad = pfad;
     if (!mitEinstellungen) {
         QFile::remove(ordner_.nativ(QStringLiteral("CONFIG/Feldkranz.INI")));
     }
@@ -108,9 +56,8 @@ Programm::Programm(bool mitEinstellungen) {
 }
 
 Programm::~Programm() {
-    FormGeaendert = 0;
-    FK_Entladen();
-    HB_Entladen();
+    Stand.FormGeaendert = false;
+    FormulareEntladen();
     EditorEntladen();
     delete FensterOderNichts(QStringLiteral("frmAuswahl"));
     delete MDIFenster();

@@ -1,6 +1,6 @@
 #include "tests/hilfe/programmordner.h"
 
-#include "core/zustand.h"
+#include "core/programmstand.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -47,18 +47,18 @@ std::string MitRueckstrichen(QString pfad) {
 
 } // namespace
 
-Programmordner::Programmordner() : vorher_(AppPfad) {
+Programmordner::Programmordner() : vorher_(Stand.AppPfad) {
     if (!ordner_.isValid()) {
         qFatal("No temporary folder: %s", qPrintable(ordner_.errorString()));
     }
     for (const QString& name : unterordner) {
         Kopieren(QStringLiteral(FELDKRANZ_DATEN "/") + name, ordner_.filePath(name));
     }
-    AppPfad = MitRueckstrichen(ordner_.path());
+    Stand.AppPfad = MitRueckstrichen(ordner_.path());
 }
 
 Programmordner::~Programmordner() {
-    AppPfad = vorher_;
+    Stand.AppPfad = vorher_;
 }
 
 void Programmordner::schreiben(const QString& darunter, const QByteArray& bytes) const {

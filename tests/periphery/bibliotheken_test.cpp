@@ -1,5 +1,5 @@
 // Which libraries the program has loaded, and when: the large ones only once a window needs them.
-#include "core/frmMDI.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/frmBrowser.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"

@@ -25,7 +25,7 @@ void FrmBrowserTest::aMissingRuleDocumentGivesTheMessageWithTheFullPathAndNoWind
     QFile::remove(programm.ordner().nativ(regel));
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("Die Datei\n%1/REGEL/Feldkranz.pdf\nscheint nicht vorhanden zu sein.")
-                        .arg(Anzeige(AppPfad)),
+                        .arg(Anzeige(Stand.AppPfad)),
                     QStringLiteral("Dann brich ab !"));
     Zeigen(programm);
     QVERIFY(dialoge.fertig());
@@ -54,9 +54,9 @@ void FrmBrowserTest::theTitleTakesTheDocumentsLocation() {
     programm.ordner().schreiben(regel, Dokument(1));
     QCOMPARE(frmBrowser().windowTitle(), QStringLiteral(" Spielregel"));
     Zeigen(programm);
-    QCOMPARE(BrowserOffen()->windowTitle(), Anzeige(AppPfad + "\\REGEL\\Feldkranz.pdf"));
+    QCOMPARE(BrowserOffen()->windowTitle(), Anzeige(Stand.AppPfad + "\\REGEL\\Feldkranz.pdf"));
     QCOMPARE(Anzeige(SpielregelAdresse()),
-             QStringLiteral("file://") + Anzeige(AppPfad) + QStringLiteral("/REGEL/Feldkranz.pdf"));
+             QStringLiteral("file://") + Anzeige(Stand.AppPfad) + QStringLiteral("/REGEL/Feldkranz.pdf"));
 }
 
 void FrmBrowserTest::theWindowIsLowerThanTheScreenAndInTheProportionOfAPage() {
@@ -139,7 +139,7 @@ void FrmBrowserTest::aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord() {
     QVERIFY(BrowserOffen()->isVisible());
     QCOMPARE(Ansicht()->Seiten(), 0);
     QCOMPARE(BrowserOffen()->windowTitle(), QStringLiteral(" Spielregel"));
-    QCOMPARE(Stand(),
+    QCOMPARE(Regelstand(),
              QStringLiteral(" Diese Datei kann ich nicht lesen: sie ist beschädigt oder verschlüsselt."));
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("cmdSeiteWeiter"))->isEnabled());
     QWidget* seiten = Ansicht()->Steuerelement();
@@ -161,7 +161,7 @@ void FrmBrowserTest::withoutThePlugInTheWindowSaysSo() {
     const Dialogfolge dialoge;
     Zeigen(programm);
     QVERIFY(BrowserOffen()->isVisible());
-    QCOMPARE(Stand(), QStringLiteral(" Ich kann hier leider keine PDF-Datei zeigen."));
+    QCOMPARE(Regelstand(), QStringLiteral(" Ich kann hier leider keine PDF-Datei zeigen."));
     QTest::keyClick(BrowserOffen(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClick(BrowserOffen(), Qt::Key_PageDown, Qt::ControlModifier);
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("txtSuche"))->isEnabled());

@@ -1,19 +1,19 @@
 // Real pointer and keyboard on the real windows: what a control tells, and when its tip comes and goes.
 #include "catalogue/auswahl.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "dialogs/eingabe.h"
-#include "periphery/hinweise.h"
-#include "periphery/tooltipps.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
 #include "tests/hilfe/programm.h"
+#include "tooltips/hinweise.h"
+#include "tooltips/tooltipps.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
@@ -413,7 +413,7 @@ void HinweiseTest::theInputDialogWarnsAtItsCancelButton() {
                           QStringLiteral("Wenn erforderlich, wird hier ein Hilfesystem implementiert."));
              QVERIFY(stil() == tipp::stilHilfe);
          }});
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
 }
 

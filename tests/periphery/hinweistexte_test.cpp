@@ -1,10 +1,10 @@
 // Tip, title and status line of the main window's and the quiz form's controls, letter for letter.
-#include "core/frmMDI.h"
-#include "periphery/hinweise.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
+#include "tooltips/hinweise.h"
 
 #include <QTest>
 
@@ -172,11 +172,11 @@ void HinweistexteTest::theQuizFormsTipsAndStatusLines() {
 
 void HinweistexteTest::theTipOfASpecialFieldCountsTheLimitsInForce() {
     Programm programm;
-    FelderJ = 4;
-    FelderG = 3;
-    FelderR = 2;
-    FelderA = 1;
-    FelderE = 0;
+    Spiel.Felder[Spezialart::Joker] = 4;
+    Spiel.Felder[Spezialart::Glueck] = 3;
+    Spiel.Felder[Spezialart::Risiko] = 2;
+    Spiel.Felder[Spezialart::Aktion] = 1;
+    Spiel.Felder[Spezialart::Ereignis] = 0;
     const frmFKFragen* fenster = programm.NeuesQuizformular();
     QCOMPARE(fenster->pnlSpezial.at(30)->toolTip(),
              QStringLiteral("Spezialfeld mit Linksklick auswählen\n\n"

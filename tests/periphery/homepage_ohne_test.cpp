@@ -1,5 +1,5 @@
 // The homepage's window without its plug-in: nothing is reported, and the user may take his own browser.
-#include "core/frmMDI.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/frmHomepage.h"
 #include "periphery/uebergabe.h"
 #include "tests/hilfe/bild.h"

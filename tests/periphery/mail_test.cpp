@@ -1,6 +1,6 @@
 // The mail to the makers, from the button and from the menu: the address that is handed to the system, and
 // the pointer meanwhile.
-#include "core/frmMDI.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/mail.h"
 #include "periphery/uebergabe.h"
 #include "tests/hilfe/dialogfolge.h"

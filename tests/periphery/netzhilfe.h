@@ -1,8 +1,8 @@
 // What the tests of the homepage share: a web server on this machine, and a visit to it.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/plattform.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/frmHomepage.h"
 #include "periphery/uebergabe.h"
 #include "tests/hilfe/bild.h"

@@ -1,6 +1,6 @@
 // Whether the rule document is there, where its pages lie on the screen, and which addresses leave the
 // program.
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "periphery/dateivorhanden.h"
 #include "periphery/seitenlage.h"
 #include "periphery/uebergabe.h"
@@ -17,26 +17,26 @@
 TEST(DateiVorhanden, APathThatEndsInAColonOrABackslashIsNoFile) {
     const Programmordner ordner;
     EXPECT_FALSE(DateiVorhanden("C:"));
-    EXPECT_FALSE(DateiVorhanden(AppPfad + "\\REGEL\\"));
+    EXPECT_FALSE(DateiVorhanden(Stand.AppPfad + "\\REGEL\\"));
     // Also where a file of that very name stands.
     ordner.schreiben(QStringLiteral("REGEL/a:"), "x");
-    EXPECT_FALSE(DateiVorhanden(AppPfad + "\\REGEL\\a:"));
+    EXPECT_FALSE(DateiVorhanden(Stand.AppPfad + "\\REGEL\\a:"));
 }
 
 TEST(DateiVorhanden, AFileIsFoundWithEitherSlashAndInAnyCase) {
     const Programmordner ordner;
     ordner.schreiben(QStringLiteral("REGEL/Probe.pdf"), "x");
-    EXPECT_TRUE(DateiVorhanden(AppPfad + "/REGEL/Probe.pdf"));
-    EXPECT_TRUE(DateiVorhanden(AppPfad + "\\REGEL\\Probe.pdf"));
-    EXPECT_TRUE(DateiVorhanden(AppPfad + "\\regel\\PROBE.PDF"));
+    EXPECT_TRUE(DateiVorhanden(Stand.AppPfad + "/REGEL/Probe.pdf"));
+    EXPECT_TRUE(DateiVorhanden(Stand.AppPfad + "\\REGEL\\Probe.pdf"));
+    EXPECT_TRUE(DateiVorhanden(Stand.AppPfad + "\\regel\\PROBE.PDF"));
 }
 
 TEST(DateiVorhanden, NothingAFolderAndAnErrorAreNoFile) {
     const Programmordner ordner;
     EXPECT_FALSE(DateiVorhanden(""));
-    EXPECT_FALSE(DateiVorhanden(AppPfad + "/REGEL"));
-    EXPECT_FALSE(DateiVorhanden(AppPfad + "/REGEL/fehlt.pdf"));
-    EXPECT_FALSE(DateiVorhanden(AppPfad + "/REGEL/" + std::string(5000, 'x')));
+    EXPECT_FALSE(DateiVorhanden(Stand.AppPfad + "/REGEL"));
+    EXPECT_FALSE(DateiVorhanden(Stand.AppPfad + "/REGEL/fehlt.pdf"));
+    EXPECT_FALSE(DateiVorhanden(Stand.AppPfad + "/REGEL/" + std::string(5000, 'x')));
     EXPECT_FALSE(DateiVorhanden(std::string("\0x", 2)));
 }
 

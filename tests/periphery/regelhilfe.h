@@ -1,10 +1,10 @@
 // What the tests of the rule document share: documents to read, and ways to the window and its parts.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
+#include "mainwindow/frmMDI.h"
 #include "periphery/dokumentansicht.h"
 #include "periphery/frmBrowser.h"
 #include "periphery/spielregel.h"
@@ -82,7 +82,7 @@ inline Dokumentansicht* Ansicht() {
     return dynamic_cast<Dokumentansicht*>(Finden(BrowserOffen(), QStringLiteral("seitenansicht")));
 }
 
-inline QString Stand() {
+inline QString Regelstand() {
     return Finden<QLabel>(BrowserOffen(), QStringLiteral("lblStand"))->text();
 }
 

@@ -1,7 +1,7 @@
 #include "tests/periphery/rundgang.h"
 
 #include "core/oberflaeche.h"
-#include "periphery/hinweise.h"
+#include "tooltips/hinweise.h"
 
 #include <QFontMetrics>
 

@@ -1,11 +1,11 @@
 // Opens every window and finds no control that has nothing to tell.
 #include "catalogue/auswahl.h"
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "quizform/frmFKFragen.h"
 #include "testform/frmHBFragen.h"
 #include "tests/filetools/dateifenster.h"
@@ -118,9 +118,9 @@ void RundgangTest::theDialogsThatTellAndAsk() {
     dialoge.erwarte(Besuch("frmMeldung", "cmdKenntnis", 5));
     dialoge.erwarte(Besuch("frmNachricht", "cmdAntwort(1)", 18));
     dialoge.erwarte(Besuch("frmInput", "cmdOK", 5));
-    Meldung(0, 5, "Text", "1", "Aha");
-    Nachricht(7, "Titel", "Frage ?", 2, 1111);
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Meldung(MeldungsText{5, "Text", "1", "Aha"});
+    Nachricht(NachrichtText{7, "Titel", "Frage ?", 2, 1111});
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
 }
 

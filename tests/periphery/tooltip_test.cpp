@@ -1,14 +1,14 @@
 // The tip object: its operations, its window, the standard styles and which window's object they act on.
-#include "core/frmMDI.h"
-#include "core/frmStart.h"
 #include "core/oberflaeche.h"
 #include "dialogs/eingabe.h"
-#include "periphery/hinweise.h"
-#include "periphery/tooltipps.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/frmStart.h"
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
+#include "tooltips/hinweise.h"
+#include "tooltips/tooltipps.h"
 
 #include <QAccessible>
 #include <QPushButton>
@@ -317,7 +317,7 @@ void TooltipTest::afterADialogTheCurrentObjectIsTheDialogs() {
                          QCOMPARE(ToolTip.data(), &Tippobjekt(dialog));
                          QCOMPARE(ToolTip->breite(), 300);
                      }});
-    Eingabe(1, "Titel", "Text", "Vorgabe", 1111);
+    Eingabe(1, "Titel", "Text", "Vorgabe");
     QVERIFY(dialoge.fertig());
     QCOMPARE(ToolTip->parent()->objectName(), QStringLiteral("frmInput"));
     ToolTipHilfe();

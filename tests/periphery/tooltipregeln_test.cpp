@@ -1,5 +1,5 @@
 // Limits, styles and places of the tool tips.
-#include "periphery/tooltipregeln.h"
+#include "tooltips/tooltipregeln.h"
 
 #include <gtest/gtest.h>
 

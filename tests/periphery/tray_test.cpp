@@ -1,11 +1,11 @@
 // Putting the main window away: on a desktop without a tray, and with a real one that this test starts.
 #include "catalogue/auswahl.h"
 #include "catalogue/frmAuswahl.h"
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
-#include "core/programmende.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "filetools/formularliste.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/programmende.h"
 #include "periphery/tray.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/bild.h"
@@ -201,7 +201,7 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     QTRY_COMPARE(AuswahlOffen()->geometry(), platz);
     QVERIFY(liste->isVisible());
     QCOMPARE(form->txtFrage.at(7)->toPlainText(), QStringLiteral("halb getippt"));
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(form->isVisible());
 }
 

@@ -1,41 +1,36 @@
 #include "persistence/dateiliste.h"
-#include "vorgaben.h"
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace {
 
-std::vector<std::string> Liste() {
-    return {Datei1, Datei2, Datei3, Datei4};
-}
+using Liste = std::array<std::string, 4>;
 
 TEST(Dateiliste, TheFifthFilePushesTheOldestOut) {
-    AllesLeeren();
+    Liste liste;
     for (const char* datei : {"A.FKR", "B.FKR", "C.FKR", "D.FKR", "E.FKR"}) {
-        DateilisteErgaenzen(datei);
+        DateilisteErgaenzen(liste, datei);
     }
-    EXPECT_EQ(Liste(), (std::vector<std::string>{"E.FKR", "D.FKR", "C.FKR", "B.FKR"}));
+    EXPECT_EQ(liste, (Liste{"E.FKR", "D.FKR", "C.FKR", "B.FKR"}));
 }
 
 TEST(Dateiliste, AListedFileKeepsItsPlace) {
-    AllesLeeren();
+    Liste liste;
     for (const char* datei : {"A.FKR", "B.FKR", "C.FKR", "D.FKR"}) {
-        DateilisteErgaenzen(datei);
+        DateilisteErgaenzen(liste, datei);
     }
-    const auto vorher = Liste();
+    const Liste vorher = liste;
     for (const std::string& datei : vorher) {
-        DateilisteErgaenzen(datei);
-        EXPECT_EQ(Liste(), vorher);
+        DateilisteErgaenzen(liste, datei);
+        EXPECT_EQ(liste, vorher);
     }
 }
 
 TEST(Dateiliste, APathInAnotherCaseIsAnotherPath) {
-    AllesLeeren();
-    DateilisteErgaenzen("A.FKR");
-    DateilisteErgaenzen("a.fkr");
-    EXPECT_EQ(Liste(), (std::vector<std::string>{"a.fkr", "A.FKR", "", ""}));
+    Liste liste;
+    DateilisteErgaenzen(liste, "A.FKR");
+    DateilisteErgaenzen(liste, "a.fkr");
+    EXPECT_EQ(liste, (Liste{"a.fkr", "A.FKR", "", ""}));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // Broken settings files at the start of the program, and broken catalogue files in its selection dialog: the
 // program comes up, says what it has to say, changes no file and makes a new form.
-#include "core/frmMDI.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -28,7 +28,7 @@ void Neustart(const Programm& programm, const QByteArray& bytes) {
     programm.ordner().schreiben(ini, bytes);
     delete programm.haupt();
     ZustandZuruecksetzen();
-    AppPfad = EigenerPfad(programm.ordner().nativ());
+    Stand.AppPfad = EigenerPfad(programm.ordner().nativ());
     HauptfensterZeigen();
     QVERIFY(QTest::qWaitForWindowActive(MDIFenster()));
 }
@@ -70,8 +70,7 @@ void EinstellungszooTest::aBrokenSettingsFileIsPassedOverWithoutAWord() {
     {
         const Dialogfolge dialoge; // a message fails the test
         Neustart(programm, bytes);
-        QCOMPARE(PunkteA, punkteA);
-        QCOMPARE(DateiNr, 0);
+        QCOMPARE(Spiel.Punkte[Spezialart::Aktion], punkteA);
     }
     frmFKFragen* form = programm.NeuesQuizformular();
     form->txtFrage.at(1)->setFocus();
@@ -82,12 +81,12 @@ void EinstellungszooTest::aBrokenSettingsFileIsPassedOverWithoutAWord() {
 
 void EinstellungszooTest::withNoFileTheFirstFormStartsWithCountsOfZeroAndColour7() {
     Programm programm(false);
-    QCOMPARE(FarbeHintergrund, 0);
+    QCOMPARE(Spiel.FarbeHintergrund, 0);
     programm.NeuesQuizformular();
-    for (const std::int16_t* felder : {&FelderA, &FelderE, &FelderG, &FelderJ, &FelderR}) {
-        QCOMPARE(*felder, 0);
+    for (const std::int16_t felder : Spiel.Felder.werte) {
+        QCOMPARE(felder, 0);
     }
-    QCOMPARE(FarbeHintergrund, 7);
+    QCOMPARE(Spiel.FarbeHintergrund, 7);
     QVERIFY(!programm.ordner().vorhanden(ini));
 }
 

@@ -1,13 +1,13 @@
 #include "formlauf.h"
 
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
 #include "vorgaben.h"
@@ -22,7 +22,7 @@ void Formlauf::Vorbereiten() {
     if (programm_ == nullptr) {
         programm_ = std::make_unique<Programm>(false);
     }
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
     FK_Entladen();
     HB_Entladen();
     ZustandZuruecksetzen();
@@ -36,20 +36,16 @@ void Formlauf::Vorbereiten() {
 QByteArray Formlauf::Quiz(const std::string& wort) {
     QuizFuellen();
     for (int n = 1; n <= anzahlFelder; ++n) {
-        FrageText.at(static_cast<std::size_t>(n)) = wort + " " + std::to_string(n);
-        FeldSpezial.at(static_cast<std::size_t>(n)) = "";
+        W.quiz.FrageText.at(static_cast<std::size_t>(n)) = wort + " " + std::to_string(n);
+        W.quiz.FeldSpezial.at(static_cast<std::size_t>(n)) = "";
     }
-    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("FKFragen"));
-    AllesLeeren();
-    return bytes;
+    return QByteArray::fromStdString(Quizdatei());
 }
 
 QByteArray Formlauf::Test(const std::string& wort) {
     TestFuellen();
-    HBFrageText[1] = wort;
-    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("HBFragen"));
-    AllesLeeren();
-    return bytes;
+    W.test.HBFrageText[1] = wort;
+    return QByteArray::fromStdString(Testdatei());
 }
 
 void Formlauf::Schreiben(const QString& name, const QByteArray& bytes) const {
@@ -61,7 +57,7 @@ QByteArray Formlauf::Lesen(const QString& name) const {
 }
 
 std::string Formlauf::Pfad(const std::string& name) const {
-    return Grossschreiben(AppPfad + "\\KRANZ\\" + name);
+    return Grossschreiben(Stand.AppPfad + "\\KRANZ\\" + name);
 }
 
 void Formlauf::Druecken(const QString& name) const {

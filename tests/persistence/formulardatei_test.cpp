@@ -7,18 +7,14 @@
 
 namespace {
 
-FormularErgebnis Lesen(std::string_view bytes) {
-    return FormularAusBytes(bytes, {});
-}
-
 std::string QuizBytes() {
     QuizFuellen();
-    return FormularBytes("FKFragen");
+    return Quizdatei();
 }
 
 std::string TestBytes() {
     TestFuellen();
-    return FormularBytes("HBFragen");
+    return Testdatei();
 }
 
 // Lines joined by CR LF, as a file has them.
@@ -38,7 +34,7 @@ std::string Abschnitt(const std::string& bytes, const std::string& von, const st
 
 TEST(Formulardatei, AnEmptyQuizFormIs125LinesOf96InFragen) {
     AllesLeeren();
-    const std::string bytes = FormularBytes("FKFragen");
+    const std::string bytes = Quizdatei();
     EXPECT_EQ(Zeilenzahl(bytes), 125);
     EXPECT_EQ(Zeilenzahl(Abschnitt(bytes, "[FRAGEN]", "")), 97) << "the marker and 96 values";
     EXPECT_TRUE(bytes.ends_with("\"\"\r\n"));
@@ -46,18 +42,18 @@ TEST(Formulardatei, AnEmptyQuizFormIs125LinesOf96InFragen) {
 
 TEST(Formulardatei, AnEmptyTestFormIs39Lines) {
     AllesLeeren();
-    EXPECT_EQ(Zeilenzahl(FormularBytes("HBFragen")), 39);
+    EXPECT_EQ(Zeilenzahl(Testdatei()), 39);
 }
 
 TEST(Formulardatei, WithNeitherFormActiveTheFileGetsTheTypeWordAlone) {
-    EXPECT_EQ(FormularBytes(""), "\"Feldkranz\"\r\n");
-    EXPECT_EQ(FormularBytes("Editor"), "\"Feldkranz\"\r\n");
+    EXPECT_EQ(FormularBytes(Formart::Keine, W), "\"Feldkranz\"\r\n");
+    EXPECT_EQ(FormularBytes(Formart::Fremd, W), "\"Feldkranz\"\r\n");
 }
 
 TEST(Formulardatei, TheHeadOfAQuizFormHasEveryByteInItsPlace) {
     QuizFuellen();
-    FrageText[1] = "Wie hei\u00DFt der Fluß?";
-    AntwortText[1] = "Ruhr";
+    W.quiz.FrageText[1] = "Wie hei\u00DFt der Fluß?";
+    W.quiz.AntwortText[1] = "Ruhr";
     const std::string kopf = Datei({"\"Feldkranz\"",
                                     "\"FK\"",
                                     "\"[FKINI]\"",
@@ -91,7 +87,7 @@ TEST(Formulardatei, TheHeadOfAQuizFormHasEveryByteInItsPlace) {
                                     "\"Wie hei\xDFt der Flu\xDF?\"",
                                     "\"Ruhr\"",
                                     "\"A\""});
-    EXPECT_EQ(FormularBytes("FKFragen").substr(0, kopf.size()), kopf);
+    EXPECT_EQ(Quizdatei().substr(0, kopf.size()), kopf);
 }
 
 TEST(Formulardatei, ATestFormHasEveryByteInItsPlace) {
@@ -107,27 +103,27 @@ TEST(Formulardatei, ATestFormHasEveryByteInItsPlace) {
 
 TEST(Formulardatei, TheWriterPutsTheTagOfItsLayoutWhateverFormTypSays) {
     QuizFuellen();
-    FormTyp = "";
-    EXPECT_EQ(Zeile(FormularBytes("FKFragen"), 4), "\"FK\"");
+    W.art = Formart::Keine;
+    EXPECT_EQ(Zeile(Quizdatei(), 4), "\"FK\"");
 }
 
 TEST(Formulardatei, AQuizFormReadsBackByteForByte) {
     const std::string bytes = QuizBytes();
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FormTyp, "FK");
-    EXPECT_EQ(FrageText[30], "Frage 30\r\nüber zwei Zeilen, mit Komma");
-    EXPECT_EQ(PunkteR, -3);
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.art, Formart::Quiz);
+    EXPECT_EQ(W.quiz.FrageText[30], "Frage 30\r\nüber zwei Zeilen, mit Komma");
+    EXPECT_EQ(W.spiel.Punkte[Spezialart::Risiko], -3);
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formulardatei, ATestFormReadsBackByteForByte) {
     const std::string bytes = TestBytes();
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FormTyp, "Test");
-    EXPECT_EQ(HBPunkte[10], 10);
-    EXPECT_EQ(FormularBytes("HBFragen"), bytes);
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.art, Formart::Test);
+    EXPECT_EQ(W.test.HBPunkte[10], 10);
+    EXPECT_EQ(Testdatei(), bytes);
 }
 
 TEST(Formulardatei, ATypeWordInAnotherCaseIsRefusedAMarkerInAnotherCaseIsNot) {
@@ -135,116 +131,115 @@ TEST(Formulardatei, ATypeWordInAnotherCaseIsRefusedAMarkerInAnotherCaseIsNot) {
     AllesLeeren();
     std::string klein = bytes;
     klein[1] = 'f';
-    EXPECT_EQ(Lesen(klein).code, 1);
-    EXPECT_EQ(FormTyp, "");
-    EXPECT_EQ(FormNr, "");
+    EXPECT_EQ(Lesen(klein).ende, Leseende::KeinFormular);
+    EXPECT_EQ(W.art, Formart::Keine);
+    EXPECT_EQ(W.quiz.FormNr, "");
 
     std::string marken = bytes;
     marken.replace(marken.find("[FRAGEN]"), 8, "[fragen]");
     marken.replace(marken.find("[FKPUNKTE]"), 10, "[FkPunkte]");
-    EXPECT_EQ(Lesen(marken).code, 0);
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen(marken).ende, Leseende::Ganz);
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formulardatei, ATextThatIsNoFormFileGives1) {
     AllesLeeren();
     for (const std::string_view bytes :
          {"Liebes Tagebuch,\r\n", "\r\n", " ", "\"\"", "[FKINI]\r\n", "Feldkranz2"}) {
-        EXPECT_EQ(Lesen(bytes).code, 1) << bytes;
-        EXPECT_EQ(Lesen(bytes).kennung, "");
+        EXPECT_EQ(Lesen(bytes).ende, Leseende::KeinFormular) << bytes;
+        EXPECT_EQ(Lesen(bytes).kennung, Formart::Keine);
     }
 }
 
 TEST(Formulardatei, TheTypeWordMayStandWithoutQuotesAndBehindBlanks) {
     AllesLeeren();
-    EXPECT_EQ(Lesen("  Feldkranz  , FK , [ALLGEMEINES], 3, heute, lang\r\n").code, 0);
-    EXPECT_EQ(FormDatum, "heute");
+    EXPECT_EQ(Lesen("  Feldkranz  , FK , [ALLGEMEINES], 3, heute, lang\r\n").ende, Leseende::Ganz);
+    EXPECT_EQ(W.quiz.FormDatum, "heute");
 }
 
 TEST(Formulardatei, AColourOf0LoadsAs7AndPunkteR0Stays) {
     QuizFuellen();
-    FarbeHintergrund = PunkteA = PunkteE = PunkteG = PunkteJ = PunkteR = 0;
-    FelderA = FelderE = FelderG = FelderJ = FelderR = 0;
-    const std::string bytes = FormularBytes("FKFragen");
+    W.spiel.FarbeHintergrund = 0;
+    W.spiel.Punkte = W.spiel.Felder = {};
+    const std::string bytes = Quizdatei();
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FarbeHintergrund, 7);
-    EXPECT_EQ(std::vector({PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR}),
-              (std::vector<std::int16_t>{5, 10, 10, 5, 0}));
-    EXPECT_EQ(std::vector({FelderA, FelderE, FelderG, FelderJ, FelderR}), std::vector<std::int16_t>(5, 0));
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.spiel.FarbeHintergrund, 7);
+    EXPECT_EQ(W.spiel.Punkte, (Artwerte{5, 10, 10, 5, 0}));
+    EXPECT_EQ(W.spiel.Felder, Artwerte{});
 }
 
 TEST(Formulardatei, TheRepairRunsAfterATestFormToo) {
     const std::string bytes = TestBytes();
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FarbeHintergrund, 7);
-    EXPECT_EQ(PunkteE, 10);
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.spiel.FarbeHintergrund, 7);
+    EXPECT_EQ(W.spiel.Punkte[Spezialart::Ereignis], 10);
 }
 
 TEST(Formulardatei, AnEmptyFileCountsAsReadAndIsRepaired) {
     AllesLeeren();
     const FormularErgebnis ergebnis = Lesen("");
-    EXPECT_EQ(ergebnis.code, 0);
+    EXPECT_EQ(ergebnis.ende, Leseende::Ganz);
     EXPECT_FALSE(ergebnis.begonnen());
-    EXPECT_EQ(FarbeHintergrund, 7);
-    EXPECT_EQ(FormTyp, "");
+    EXPECT_EQ(W.spiel.FarbeHintergrund, 7);
+    EXPECT_EQ(W.art, Formart::Keine);
 }
 
 TEST(Formulardatei, ALineEndAndACommaInATextReadBackWhole) {
     QuizFuellen();
-    FrageText[3] = "Eins,\r\nzwei,\ndrei";
-    const std::string bytes = FormularBytes("FKFragen");
+    W.quiz.FrageText[3] = "Eins,\r\nzwei,\ndrei";
+    const std::string bytes = Quizdatei();
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FrageText[3], "Eins,\r\nzwei,\ndrei");
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.quiz.FrageText[3], "Eins,\r\nzwei,\ndrei");
 }
 
 TEST(Formulardatei, ADoubleQuoteCutsItsTextAndTheNextValuesSlide) {
     QuizFuellen();
-    FrageText[1] = "Wer rief \"Land\", und wann?";
-    const std::string bytes = FormularBytes("FKFragen");
+    W.quiz.FrageText[1] = "Wer rief \"Land\", und wann?";
+    const std::string bytes = Quizdatei();
     AllesLeeren();
     EXPECT_EQ(Lesen(bytes).fehler, std::nullopt);
-    EXPECT_EQ(FrageText[1], "Wer rief ");
-    EXPECT_EQ(AntwortText[1], "und wann?\"");
-    EXPECT_EQ(FeldSpezial[1], "Antwört 1");
+    EXPECT_EQ(W.quiz.FrageText[1], "Wer rief ");
+    EXPECT_EQ(W.quiz.AntwortText[1], "und wann?\"");
+    EXPECT_EQ(W.quiz.FeldSpezial[1], "Antwört 1");
 }
 
 TEST(Formulardatei, ATestFileWhileAQuizFormIsOpenIsRefusedAndChangesNothing) {
     const std::string test = TestBytes();
     const std::string vorher = QuizBytes();
-    FarbeHintergrund = 0;
-    HBFach = "unberührt";
+    W.spiel.FarbeHintergrund = 0;
+    W.test.HBFach = "unberührt";
     const FormularErgebnis ergebnis = Lesen(test);
-    EXPECT_EQ(ergebnis.code, 2);
-    EXPECT_EQ(ergebnis.kennung, "Test");
+    EXPECT_EQ(ergebnis.ende, Leseende::Abgelehnt);
+    EXPECT_EQ(ergebnis.kennung, Formart::Test);
     EXPECT_FALSE(ergebnis.begonnen());
-    EXPECT_EQ(FormTyp, "FK");
-    EXPECT_EQ(HBFach, "unberührt");
-    EXPECT_EQ(FarbeHintergrund, 0) << "no repair either";
-    FarbeHintergrund = 3;
-    EXPECT_EQ(FormularBytes("FKFragen"), vorher);
+    EXPECT_EQ(W.art, Formart::Quiz);
+    EXPECT_EQ(W.test.HBFach, "unberührt");
+    EXPECT_EQ(W.spiel.FarbeHintergrund, 0) << "no repair either";
+    W.spiel.FarbeHintergrund = 3;
+    EXPECT_EQ(Quizdatei(), vorher);
 }
 
 TEST(Formulardatei, AQuizFileWhileATestFormIsOpenIsRefusedAndSoIsAnyOtherTag) {
     const std::string quiz = QuizBytes();
     TestFuellen();
-    EXPECT_EQ(Lesen(quiz).code, 2);
-    EXPECT_EQ(Lesen(quiz).kennung, "FK");
-    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"fk\"\r\n").code, 2);
-    EXPECT_EQ(FormTyp, "Test");
+    EXPECT_EQ(Lesen(quiz).ende, Leseende::Abgelehnt);
+    EXPECT_EQ(Lesen(quiz).kennung, Formart::Quiz);
+    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"fk\"\r\n").ende, Leseende::Abgelehnt);
+    EXPECT_EQ(W.art, Formart::Test);
 }
 
 TEST(Formulardatei, WithNoFormOpenEitherKindLoads) {
     const std::string quiz = QuizBytes();
     const std::string test = TestBytes();
     AllesLeeren();
-    EXPECT_EQ(Lesen(quiz).code, 0);
-    EXPECT_EQ(FormTyp, "FK");
+    EXPECT_EQ(Lesen(quiz).ende, Leseende::Ganz);
+    EXPECT_EQ(W.art, Formart::Quiz);
     AllesLeeren();
-    EXPECT_EQ(Lesen(test).code, 0);
-    EXPECT_EQ(FormTyp, "Test");
+    EXPECT_EQ(Lesen(test).ende, Leseende::Ganz);
+    EXPECT_EQ(W.art, Formart::Test);
 }
 
 TEST(Formulardatei, AnUnknownSectionIsPassedOverWithItsValues) {
@@ -252,18 +247,18 @@ TEST(Formulardatei, AnUnknownSectionIsPassedOverWithItsValues) {
     std::string mehr = bytes;
     mehr.insert(mehr.find("\"[FKPUNKTE]\""), "\"[WETTER]\"\r\n\"Regen, viel\"\r\n12\r\n");
     AllesLeeren();
-    EXPECT_EQ(Lesen(mehr).code, 0);
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen(mehr).ende, Leseende::Ganz);
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formulardatei, AValueTooFewTakesTheNextMarkerAndThatSectionIsPassedOver) {
     std::string bytes = QuizBytes();
     bytes.erase(bytes.find("\"1\xBD Stunden\"\r\n"), 14);
     AllesLeeren();
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FormZeit, "[FKPUNKTE]");
-    EXPECT_EQ(FelderA, 0);
-    EXPECT_EQ(WissenTitel[1], "Gebiet 1") << "the section after it is read again";
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.quiz.FormZeit, "[FKPUNKTE]");
+    EXPECT_EQ(W.spiel.Felder[Spezialart::Aktion], 0);
+    EXPECT_EQ(W.quiz.WissenTitel[1], "Gebiet 1") << "the section after it is read again";
 }
 
 TEST(Formulardatei, SectionsMayStandInAnyOrderAndRepeatAndTheLastCounts) {
@@ -274,46 +269,47 @@ TEST(Formulardatei, SectionsMayStandInAnyOrderAndRepeatAndTheLastCounts) {
     const std::string ini = Abschnitt(bytes, "[FKINI]", "[ALLGEMEINES]");
     const std::string anders = Datei({"[allgemeines]", "99", "nie", "kurz"});
     AllesLeeren();
-    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"FK\"\r\n" + fragen + anders + punkte + allgemein + ini).code, 0);
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"FK\"\r\n" + fragen + anders + punkte + allgemein + ini).ende,
+              Leseende::Ganz);
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formulardatei, AMissingSectionLeavesItsValues) {
     const std::string bytes = QuizBytes();
     AllesLeeren();
-    FormNr = "alt";
-    FelderJ = 9;
-    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"FK\"\r\n" + Abschnitt(bytes, "[FRAGEN]", "")).code, 0);
-    EXPECT_EQ(FormNr, "alt");
-    EXPECT_EQ(FelderJ, 9);
-    EXPECT_EQ(FrageText[30], "Frage 30\r\nüber zwei Zeilen, mit Komma");
+    W.quiz.FormNr = "alt";
+    W.spiel.Felder[Spezialart::Joker] = 9;
+    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"FK\"\r\n" + Abschnitt(bytes, "[FRAGEN]", "")).ende, Leseende::Ganz);
+    EXPECT_EQ(W.quiz.FormNr, "alt");
+    EXPECT_EQ(W.spiel.Felder[Spezialart::Joker], 9);
+    EXPECT_EQ(W.quiz.FrageText[30], "Frage 30\r\nüber zwei Zeilen, mit Komma");
 }
 
 TEST(Formulardatei, ValuesSeparatedByCommasReadTheSame) {
     QuizFuellen();
-    for (std::string& text : FrageText) {
+    for (std::string& text : W.quiz.FrageText) {
         text = "Was?";
     }
-    const std::string bytes = FormularBytes("FKFragen");
+    const std::string bytes = Quizdatei();
     std::string kommas = bytes;
     for (auto ende = kommas.find("\r\n"); ende != kommas.npos; ende = kommas.find("\r\n", ende)) {
         kommas.replace(ende, 2, " , ");
     }
     kommas.resize(kommas.size() - 3);
     AllesLeeren();
-    EXPECT_EQ(Lesen(kommas).code, 0);
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen(kommas).ende, Leseende::Ganz);
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formulardatei, LineEndsOfOtherSystemsReadTheSame) {
     TestFuellen();
-    const std::string bytes = FormularBytes("HBFragen");
+    const std::string bytes = Testdatei();
     for (const char ende : {'\r', '\n'}) {
         std::string anders = bytes;
         std::erase(anders, ende == '\r' ? '\n' : '\r');
         AllesLeeren();
-        EXPECT_EQ(Lesen(anders).code, 0);
-        EXPECT_EQ(FormularBytes("HBFragen"), bytes);
+        EXPECT_EQ(Lesen(anders).ende, Leseende::Ganz);
+        EXPECT_EQ(Testdatei(), bytes);
     }
 }
 
@@ -322,19 +318,19 @@ TEST(Formulardatei, HelpAndRemarkAreReadFromAFormAndNeverWritten) {
     const std::string bytes =
         Datei({"\"Feldkranz\"", "\"Test\"", "\"[HILFE]\"", "\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"",
                "\"\"", "\"\"", "\"\"", "\"\"", "\"\"", "\"[BEMERKUNG]\"", "\"Schön war's\""});
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(HilfeEintrag[1] + HilfeEintrag[5], "ae");
-    EXPECT_EQ(Bemerkung, "SchÃ¶n war's") << "the bytes of a file are code page 1252";
-    EXPECT_EQ(FormularBytes("FKFragen").find("HILFE"), std::string::npos);
-    EXPECT_EQ(FormularBytes("FKFragen").find("BEMERKUNG"), std::string::npos);
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.spiel.HilfeEintrag[1] + W.spiel.HilfeEintrag[5], "ae");
+    EXPECT_EQ(W.Bemerkung, "SchÃ¶n war's") << "the bytes of a file are code page 1252";
+    EXPECT_EQ(Quizdatei().find("HILFE"), std::string::npos);
+    EXPECT_EQ(Quizdatei().find("BEMERKUNG"), std::string::npos);
 }
 
 TEST(Formulardatei, TheTagOfLine4OverwritesThatOfLine2WithoutACheck) {
     std::string bytes = QuizBytes();
     bytes.replace(bytes.find("[FKINI]\"\r\n\"FK\"") + 10, 4, "\"Test\"");
-    FormTyp = "FK";
-    EXPECT_EQ(Lesen(bytes).code, 0);
-    EXPECT_EQ(FormTyp, "Test");
+    W.art = Formart::Quiz;
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.art, Formart::Test);
 }
 
 TEST(Formulardatei, AnOverlongNumberIsReportedAndTheReaderGoesOnBehindIt) {
@@ -342,15 +338,15 @@ TEST(Formulardatei, AnOverlongNumberIsReportedAndTheReaderGoesOnBehindIt) {
                                      "6", "\"\"", "\"[ALLGEMEINES]\"", "\"1\"", "\"2\"", "\"3\""});
     AllesLeeren();
     std::vector<int> stellen;
-    const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler& fehler) {
+    const auto ergebnis = Lesen(bytes, [&](const Laufzeitfehler& fehler) {
         EXPECT_EQ(fehler.nummer(), 6);
         stellen.push_back(fehler.zeile());
     });
     EXPECT_EQ(stellen, std::vector<int>{6});
-    EXPECT_EQ(ergebnis.code, 0);
-    EXPECT_EQ(FragenProWissen, 5);
-    EXPECT_EQ(AnzahlWissen, 6);
-    EXPECT_EQ(FormZeit, "3");
+    EXPECT_EQ(ergebnis.ende, Leseende::Ganz);
+    EXPECT_EQ(W.spiel.FragenProWissen, 5);
+    EXPECT_EQ(W.spiel.AnzahlWissen, 6);
+    EXPECT_EQ(W.quiz.FormZeit, "3");
 }
 
 TEST(Formulardatei, AFileCutInsideASectionEndsInError62WithThePartReadAndNoRepair) {
@@ -359,19 +355,19 @@ TEST(Formulardatei, AFileCutInsideASectionEndsInError62WithThePartReadAndNoRepai
     AllesLeeren();
     const FormularErgebnis ergebnis = Lesen(bytes);
     ASSERT_TRUE(ergebnis.fehler);
-    EXPECT_EQ(ergebnis.code, std::nullopt);
+    EXPECT_EQ(ergebnis.ende, Leseende::Abgebrochen);
     EXPECT_TRUE(ergebnis.begonnen());
     EXPECT_EQ(ergebnis.fehler->nummer(), 62);
     EXPECT_EQ(ergebnis.fehler->zeile(), Zeilenzahl(bytes) + 1);
-    EXPECT_EQ(FrageText[2], "Frage 2\r\nüber zwei Zeilen, mit Komma");
-    EXPECT_EQ(AntwortText[2], "");
+    EXPECT_EQ(W.quiz.FrageText[2], "Frage 2\r\nüber zwei Zeilen, mit Komma");
+    EXPECT_EQ(W.quiz.AntwortText[2], "");
 }
 
 TEST(Formulardatei, NoRepairRunsAfterError62) {
     AllesLeeren();
     EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"Test\"\r\n\"[HB-FRAGEN]\"\r\n").fehler->nummer(), 62);
-    EXPECT_EQ(FarbeHintergrund, 0);
-    EXPECT_EQ(FormTyp, "Test");
+    EXPECT_EQ(W.spiel.FarbeHintergrund, 0);
+    EXPECT_EQ(W.art, Formart::Test);
 }
 
 TEST(FKIni, OnlyItsSectionIsReadWhateverElseTheFileHolds) {
@@ -379,11 +375,9 @@ TEST(FKIni, OnlyItsSectionIsReadWhateverElseTheFileHolds) {
     AllesLeeren();
     const auto werte = FKIniAusBytes(bytes);
     ASSERT_TRUE(werte);
-    EXPECT_EQ(werte->formTyp, "FK");
     EXPECT_EQ(werte->felderGesamt, 24);
     EXPECT_EQ(werte->fragenProWissen, 4);
     EXPECT_EQ(werte->anzahlWissen, 6);
-    EXPECT_EQ(FormTyp + FrageText[1], "") << "no variable changes";
 }
 
 TEST(FKIni, ATestFormOrAnEmptyFileHasNone) {

@@ -1,13 +1,13 @@
 // Broken form files in the running program: each is answered as it deserves, no file changes, and the program
 // makes the next new form.
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/pfad.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "formlauf.h"
-#include "persistence/oeffnen.h"
+#include "forms/oeffnen.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "quizform/formdaten.h"
+#include "quizform/quizformular.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
 
@@ -117,9 +117,8 @@ private:
 void FormularzooFensterTest::NeuesFormularGeht() const {
     const frmFKFragen* form = lauf.NeuesFormular(QStringLiteral("Danach"));
     QCOMPARE(form->txtFrage.at(1)->text(), std::string("Danach"));
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FKDateiName, std::string());
-    QCOMPARE(DateiNr, 0);
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QCOMPARE(Stand.FKDateiName, std::string());
 }
 
 void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade_data() {
@@ -182,7 +181,7 @@ void FormularzooFensterTest::aBrokenFileIsAnsweredAndTheNextFormCanBeMade() {
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("KAPUTT.FKR")) == bytes);
     QCoreApplication::processEvents(); // what a text box mends comes behind
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     NeuesFormularGeht();
 }
 
@@ -219,13 +218,12 @@ void FormularzooFensterTest::aBrokenTestFileIsAnsweredAndTheNextTestCanBeMade() 
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("KAPUTT.FKR")) == bytes);
     QCoreApplication::processEvents();
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     HB_Entladen();
     ModusHaupt();
     QVERIFY(lauf.programm().NeuesTestformular() != nullptr);
     QCOMPARE(HB_Frage(1), std::string());
-    QCOMPARE(FormTyp, std::string("Test"));
-    QCOMPARE(DateiNr, 0);
+    QCOMPARE(Stand.FormTyp, Formart::Test);
 }
 
 void FormularzooFensterTest::whatIsNoRegularFileIsABadName_data() {
@@ -244,8 +242,7 @@ void FormularzooFensterTest::whatIsNoRegularFileIsABadName() {
     QFile::link(QStringLiteral("/dev/zero"), ordner.filePath(QStringLiteral("NULL.FKR")));
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::NameFalsch});
-    DateiName = AppPfad + "\\KRANZ\\" + name.toStdString();
-    FormularLaden();
+    FormularLaden(Stand.AppPfad + "\\KRANZ\\" + name.toStdString());
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
     NeuesFormularGeht();
@@ -269,11 +266,11 @@ void FormularzooFensterTest::aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWant
         StelleErwarten(dialoge, 57, 0);
         dialoge.erwarte({QStringLiteral("QMessageBox"), fehlerTitel, laufwerk, {taste}, vorher});
     };
-    DateiName = AppPfad + "\\KRANZ\\PLATTE.FKR";
+    const std::string pfad = Stand.AppPfad + "\\KRANZ\\PLATTE.FKR";
     versuch(ok, {});
     versuch(ok, {});
     versuch(QStringLiteral("Abbrechen"), {});
-    FormularLaden();
+    FormularLaden(pfad);
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() == nullptr);
 
@@ -283,7 +280,7 @@ void FormularzooFensterTest::aDriveThatIsNotReadyIsTriedAgainAsLongAsTheUserWant
         QFile::remove(weg);
         lauf.Schreiben(QStringLiteral("PLATTE.FKR"), wieder);
     });
-    FormularLaden();
+    FormularLaden(pfad);
     QVERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() != nullptr);
     QCOMPARE(FKFragenOffen()->txtFrage.at(1)->text(), std::string("Wieder 1"));
@@ -294,14 +291,13 @@ void FormularzooFensterTest::aRefusedFileLeavesTheOpenFormAlone() {
     const QByteArray gross = Kopf(QByteArray(9'000'000, '\n'));
     lauf.Schreiben(QStringLiteral("GROSS.FKR"), gross);
     lauf.Oeffnen(QStringLiteral("GUT.FKR"));
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::ZuGross});
-    DateiName = lauf.Pfad("GROSS.FKR");
-    FormularLaden();
+    FormularLaden(lauf.Pfad("GROSS.FKR"));
     QVERIFY(dialoge.fertig());
     QCOMPARE(FKFragenOffen()->txtFrage.at(1)->text(), std::string("Gut 1"));
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
     GespeichertErwarten(dialoge, QStringLiteral("GUT.FKR"));
     lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
     QVERIFY(dialoge.fertig());
@@ -333,7 +329,7 @@ void FormularzooFensterTest::aTextThatTheReaderWouldRefuseIsCutWhenItIsPasted() 
                         QStringLiteral("cmdLaden"));
     lauf.Druecken(QStringLiteral("cmdDateiFK(2)"));
     QVERIFY(dialoge.fertig());
-    QVERIFY(FrageText[1] == text);
+    QVERIFY(FKForm.FrageText[1] == text);
 }
 
 QTEST_MAIN(FormularzooFensterTest)

@@ -1,5 +1,6 @@
 // Broken files: each is read with a stated result, none brings the reader down or makes it stand still.
 #include "persistence/einstellungsdatei.h"
+#include "persistence/formularabschnitte.h"
 #include "persistence/formulardatei.h"
 #include "vorgaben.h"
 
@@ -15,7 +16,7 @@ using Melder = WertLeser::Fehlermelder;
 // Where a cut leaves the reader: inside the head, inside a section, or between two.
 struct Schnitt {
     std::string bytes;
-    std::string kennung; // mode tag of the whole file
+    Formart kennung; // of the whole file
 };
 
 void JedenSchnittPruefen(const Schnitt& schnitt) {
@@ -23,11 +24,11 @@ void JedenSchnittPruefen(const Schnitt& schnitt) {
     const std::size_t endeWort = ganz.find("\r\n") + 2;
     for (std::size_t laenge = 0; laenge <= ganz.size(); ++laenge) {
         AllesLeeren();
-        const FormularErgebnis ergebnis = FormularAusBytes(ganz.substr(0, laenge), {});
+        const FormularErgebnis ergebnis = Lesen(ganz.substr(0, laenge));
         if (laenge == 0 || laenge == ganz.size()) {
-            EXPECT_EQ(ergebnis.code, 0) << laenge;
+            EXPECT_EQ(ergebnis.ende, Leseende::Ganz) << laenge;
         } else if (laenge < std::string_view("\"Feldkranz").size()) {
-            EXPECT_EQ(ergebnis.code, 1) << laenge;
+            EXPECT_EQ(ergebnis.ende, Leseende::KeinFormular) << laenge;
         } else if (laenge < endeWort) {
             // The word is whole; what follows is missing, or is the lone line feed of a torn line end.
             EXPECT_EQ(ergebnis.fehler->nummer(), 62) << laenge;
@@ -35,35 +36,37 @@ void JedenSchnittPruefen(const Schnitt& schnitt) {
             EXPECT_EQ(ergebnis.fehler->nummer(), 62) << laenge;
             EXPECT_LE(ergebnis.fehler->zeile(), Zeilenzahl(ganz.substr(0, laenge)) + 2) << laenge;
         } else {
-            EXPECT_EQ(ergebnis.code, 0) << laenge;
-            EXPECT_TRUE(schnitt.kennung.starts_with(ergebnis.kennung)) << laenge;
+            EXPECT_EQ(ergebnis.ende, Leseende::Ganz) << laenge;
+            // A word cut short is a foreign one.
+            const bool ganzesWort = laenge >= endeWort + Formkennung(schnitt.kennung).size() + 1;
+            EXPECT_TRUE(ergebnis.kennung == schnitt.kennung || !ganzesWort) << laenge;
         }
     }
 }
 
 TEST(Formularzoo, AQuizFormCutAtEveryByteIsReadToAStatedResult) {
     QuizFuellen();
-    JedenSchnittPruefen({FormularBytes("FKFragen"), "FK"});
+    JedenSchnittPruefen({Quizdatei(), Formart::Quiz});
 }
 
 TEST(Formularzoo, ATestFormCutAtEveryByteIsReadToAStatedResult) {
     TestFuellen();
-    JedenSchnittPruefen({FormularBytes("HBFragen"), "Test"});
+    JedenSchnittPruefen({Testdatei(), Formart::Test});
 }
 
 TEST(Formularzoo, ACutBehindAWholeValueOfASectionIsAlwaysError62) {
     QuizFuellen();
-    for (std::string& text : FrageText) {
+    for (std::string& text : W.quiz.FrageText) {
         text = "Was?";
     }
-    const std::string ganz = FormularBytes("FKFragen");
+    const std::string ganz = Quizdatei();
     std::size_t laenge = 0;
     for (int zeile = 1; zeile < 125; ++zeile) {
         laenge = ganz.find("\r\n", laenge) + 2;
         AllesLeeren();
-        const FormularErgebnis ergebnis = FormularAusBytes(ganz.substr(0, laenge), {});
+        const FormularErgebnis ergebnis = Lesen(ganz.substr(0, laenge));
         if (zeile == 2 || zeile == 8 || zeile == 12 || zeile == 28) {
-            EXPECT_EQ(ergebnis.code, 0) << "between two sections, line " << zeile;
+            EXPECT_EQ(ergebnis.ende, Leseende::Ganz) << "between two sections, line " << zeile;
         } else {
             ASSERT_TRUE(ergebnis.fehler) << zeile;
             EXPECT_EQ(ergebnis.fehler->nummer(), 62);
@@ -80,7 +83,7 @@ TEST(Formularzoo, RandomBytesAreNoFormFile) {
             byte = static_cast<char>(zufall() & 0xFFU);
         }
         AllesLeeren();
-        EXPECT_EQ(FormularAusBytes(bytes, {}).code, 1);
+        EXPECT_EQ(Lesen(bytes).ende, Leseende::KeinFormular);
         EXPECT_EQ(FKIniAusBytes(bytes), std::nullopt);
     }
 }
@@ -121,41 +124,42 @@ TEST(Formularzoo, PiecesOfTheFormatInAnyOrderEndInZeroOr62) {
         const std::string bytes = ZufaelligeStuecke(zufall);
         AllesLeeren();
         std::size_t gemeldet = 0;
-        const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler& fehler) {
+        const auto ergebnis = Lesen(bytes, [&](const Laufzeitfehler& fehler) {
             EXPECT_EQ(fehler.nummer(), 6);
             ++gemeldet;
         });
-        EXPECT_TRUE(ergebnis.code == 0 || (ergebnis.fehler && ergebnis.fehler->nummer() == 62)) << lauf;
+        EXPECT_TRUE(ergebnis.ende == Leseende::Ganz || (ergebnis.fehler && ergebnis.fehler->nummer() == 62))
+            << lauf;
         EXPECT_LE(gemeldet, bytes.size() / 4);
         // What was read can be written and read again.
-        const std::string neu = FormularBytes("FKFragen");
+        const std::string neu = Quizdatei();
         AllesLeeren();
-        EXPECT_EQ(FormularAusBytes(neu, {}).code, 0);
+        EXPECT_EQ(Lesen(neu).ende, Leseende::Ganz);
     }
 }
 
 TEST(Formularzoo, NulBytesInEveryValueAreHarmless) {
     QuizFuellen();
-    std::string bytes = FormularBytes("FKFragen");
+    std::string bytes = Quizdatei();
     for (auto stelle = bytes.find("Frage"); stelle != bytes.npos; stelle = bytes.find("Frage", stelle)) {
         bytes[stelle] = '\0';
     }
     AllesLeeren();
-    EXPECT_EQ(FormularAusBytes(bytes, {}).code, 0);
-    EXPECT_EQ(FrageText[7].substr(0, 5), std::string("\0rage", 5));
-    EXPECT_EQ(FormularBytes("FKFragen"), bytes);
+    EXPECT_EQ(Lesen(bytes).ende, Leseende::Ganz);
+    EXPECT_EQ(W.quiz.FrageText[7].substr(0, 5), std::string("\0rage", 5));
+    EXPECT_EQ(Quizdatei(), bytes);
 }
 
 TEST(Formularzoo, AQuoteThatNeverClosesTakesTheRestOfTheFile) {
     QuizFuellen();
-    std::string bytes = FormularBytes("FKFragen");
+    std::string bytes = Quizdatei();
     std::erase(bytes, '"');
     bytes.insert(bytes.find("24. Dezember"), "\"");
     AllesLeeren();
-    const FormularErgebnis ergebnis = FormularAusBytes(bytes, {});
+    const FormularErgebnis ergebnis = Lesen(bytes);
     EXPECT_EQ(ergebnis.fehler->nummer(), 62);
-    EXPECT_TRUE(FormDatum.starts_with("24. Dezember\r\n1½ Stunden\r\n[FKPUNKTE]"));
-    EXPECT_EQ(FormZeit, "");
+    EXPECT_TRUE(W.quiz.FormDatum.starts_with("24. Dezember\r\n1½ Stunden\r\n[FKPUNKTE]"));
+    EXPECT_EQ(W.quiz.FormZeit, "");
 }
 
 TEST(Formularzoo, AHundredMegabytesOfOneTextAreError7OnceAndTheReaderGoesOnBehindThem) {
@@ -164,19 +168,19 @@ TEST(Formularzoo, AHundredMegabytesOfOneTextAreError7OnceAndTheReaderGoesOnBehin
     bytes += "\"\r\n\"kurz\"\r\n";
     AllesLeeren();
     std::vector<Laufzeitfehler> gemeldet;
-    const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler& f) { gemeldet.push_back(f); });
-    EXPECT_EQ(ergebnis.code, 0);
+    const auto ergebnis = Lesen(bytes, [&](const Laufzeitfehler& f) { gemeldet.push_back(f); });
+    EXPECT_EQ(ergebnis.ende, Leseende::Ganz);
     ASSERT_EQ(gemeldet.size(), 1U);
     EXPECT_EQ(gemeldet[0].nummer(), 7);
     EXPECT_EQ(gemeldet[0].zeile(), 4);
-    EXPECT_EQ(Bemerkung, "kurz");
+    EXPECT_EQ(W.Bemerkung, "kurz");
 }
 
 TEST(Formularzoo, ATextOf64KiBIsReadWhole) {
     const std::string text(laengsterText, 'x');
     AllesLeeren();
-    EXPECT_EQ(FormularAusBytes("\"Feldkranz\"\r\n\"FK\"\r\n[BEMERKUNG]\r\n\"" + text + "\"\r\n", {}).code, 0);
-    EXPECT_EQ(Bemerkung, text);
+    EXPECT_EQ(Lesen("\"Feldkranz\"\r\n\"FK\"\r\n[BEMERKUNG]\r\n\"" + text + "\"\r\n").ende, Leseende::Ganz);
+    EXPECT_EQ(W.Bemerkung, text);
 }
 
 TEST(Formularzoo, AHundredMegabytesOfOneNumberAreAnOverflowOnce) {
@@ -184,7 +188,7 @@ TEST(Formularzoo, AHundredMegabytesOfOneNumberAreAnOverflowOnce) {
     bytes.append(100'000'000, '7');
     AllesLeeren();
     int gemeldet = 0;
-    const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler&) { ++gemeldet; });
+    const auto ergebnis = Lesen(bytes, [&](const Laufzeitfehler&) { ++gemeldet; });
     EXPECT_EQ(gemeldet, 1);
     EXPECT_EQ(ergebnis.fehler->nummer(), 62);
 }
@@ -200,7 +204,7 @@ TEST(Formularzoo, MillionsOfEmptyLinesAndOverflowsTakeLinearTime) {
     }
     AllesLeeren();
     int gemeldet = 0;
-    const auto ergebnis = FormularAusBytes(bytes, [&](const Laufzeitfehler&) { ++gemeldet; });
+    const auto ergebnis = Lesen(bytes, [&](const Laufzeitfehler&) { ++gemeldet; });
     EXPECT_EQ(gemeldet, 1'000'000);
     EXPECT_EQ(ergebnis.fehler->nummer(), 62);
     EXPECT_EQ(ergebnis.fehler->zeile(), 6'000'005);
@@ -208,29 +212,29 @@ TEST(Formularzoo, MillionsOfEmptyLinesAndOverflowsTakeLinearTime) {
 
 TEST(Einstellungszoo, ASettingsFileCutAtEveryByteIsReadOrEndsInError62) {
     AllesLeeren();
-    const std::string ganz = EinstellungenBytes();
+    const std::string ganz = EinstellungenBytes(W.spiel);
     for (std::size_t laenge = 0; laenge <= ganz.size(); ++laenge) {
         try {
-            EinstellungenAusBytes(std::string_view(ganz).substr(0, laenge));
+            EinstellungenAusBytes(std::string_view(ganz).substr(0, laenge), W.spiel);
         } catch (const Laufzeitfehler& fehler) {
             EXPECT_EQ(fehler.nummer(), 62) << laenge;
         }
     }
-    EXPECT_EQ(EinstellungenBytes(), ganz);
+    EXPECT_EQ(EinstellungenBytes(W.spiel), ganz);
 }
 
 TEST(Einstellungszoo, RandomBytesChangeNothing) {
     AllesLeeren();
-    const std::string vorher = EinstellungenBytes();
+    const std::string vorher = EinstellungenBytes(W.spiel);
     std::mt19937 zufall(7); // NOLINT(cert-msc51-cpp): the same bytes at every run
     for (int lauf = 0; lauf < 300; ++lauf) {
         std::string bytes(1 + zufall() % 3000, '\0');
         for (char& byte : bytes) {
             byte = static_cast<char>(zufall() & 0xFFU);
         }
-        EinstellungenAusBytes(bytes);
+        EinstellungenAusBytes(bytes, W.spiel);
     }
-    EXPECT_EQ(EinstellungenBytes(), vorher);
+    EXPECT_EQ(EinstellungenBytes(W.spiel), vorher);
 }
 
 } // namespace

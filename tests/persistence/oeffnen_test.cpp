@@ -1,12 +1,13 @@
 // Opening forms in the real main window through the real file dialog.
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "editor/editordaten.h"
 #include "formlauf.h"
-#include "persistence/oeffnen.h"
+#include "forms/oeffnen.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "rules/spielwerte.h"
+#include "testform/testformular.h"
 #include "tests/hilfe/finden.h"
 #include "vorgaben.h"
 
@@ -32,8 +33,7 @@ void StelleErwarten(Dialogfolge& dialoge, int fehler, int zeile, Stelle stelle =
 
 // FormularLaden for a file of the folder, as the form list calls it.
 void Laden(const Formlauf& lauf, const std::string& name) {
-    DateiName = lauf.Pfad(name);
-    FormularLaden();
+    FormularLaden(lauf.Pfad(name));
 }
 
 } // namespace
@@ -60,9 +60,6 @@ private Q_SLOTS:
     void aShapeThatFitsNoCounterGivesWayToTheFullBoard();
     void aTagOfNoKindOpensNothingAndBlocksNothing();
     void anEmptyFileCountsAsRead();
-    void thePreviewReadsTheNumbersOnly();
-    void thePreviewOfATestFormKeepsTheNumbers();
-    void anUnreadableFileInThePreviewIsReportedAndChangesNoNumber();
 
 private:
     Formlauf lauf;
@@ -75,10 +72,10 @@ void OeffnenTest::aQuizFileFillsTheFormAndIsUnchanged() {
     QCOMPARE(Frage1(), QStringLiteral("Herbst 1"));
     QCOMPARE(QString::fromStdString(FK_Antwort(30)), QStringLiteral("Antwört 30"));
     QCOMPARE(Fenstertitel(), QStringLiteral("HERBST.FKR "));
-    QCOMPARE(FormGeaendert, 0);
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FKDateiName, lauf.Pfad("herbst.fkr"));
-    QCOMPARE(Datei1, lauf.Pfad("herbst.fkr"));
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("herbst.fkr"));
+    QCOMPARE(Spiel.Datei[0], lauf.Pfad("herbst.fkr"));
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
     QVERIFY(!Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picFK"))->isVisible());
@@ -93,14 +90,14 @@ void OeffnenTest::aQuizFileReplacesTheOpenQuizFormWithoutAClose() {
     QCOMPARE(FKFragenOffen(), fenster);
     QCOMPARE(Frage1(), QStringLiteral("Zwei 1"));
     QCOMPARE(Fenstertitel(), QStringLiteral("B.FKR "));
-    QCOMPARE(FKDateiName, lauf.Pfad("B.FKR"));
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("B.FKR"));
 }
 
 void OeffnenTest::aTestFileWhileAQuizFormIsOpenChangesNothing() {
     lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
     lauf.Schreiben(QStringLiteral("T.FKR"), Formlauf::Test("Knoten"));
     lauf.Oeffnen(QStringLiteral("A.FKR"));
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     Dialogfolge dialoge;
     dialoge.meldung(
         QStringLiteral("Ich kann jetzt kein Testformular laden.\nDu mußt erst das Feldkranzformular "
@@ -110,21 +107,21 @@ void OeffnenTest::aTestFileWhileAQuizFormIsOpenChangesNothing() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(Frage1(), QStringLiteral("Eins 1"));
     QCOMPARE(Fenstertitel(), QStringLiteral("A.FKR "));
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FormGeaendert, 1);
-    QCOMPARE(HBFrageText[1], std::string());
-    QCOMPARE(FKDateiName, lauf.Pfad("A.FKR"));
-    QCOMPARE(DateiName, lauf.Pfad("T.FKR"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(HBForm.HBFrageText[1], std::string());
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
+    QCOMPARE(Editor.DateiAlt, lauf.Pfad("T.FKR"));
 }
 
 void OeffnenTest::aTestFileOpensItsFormAndEntersNoList() {
     lauf.Schreiben(QStringLiteral("T.FKR"), Formlauf::Test("Knoten"));
     Laden(lauf, "T.FKR");
-    QCOMPARE(HBFrageText[1], std::string("Knoten"));
-    QCOMPARE(HBGesamtpunkte, 55);
-    QCOMPARE(FormTyp, std::string("Test"));
-    QCOMPARE(FormGeaendert, 0);
-    QCOMPARE(Datei1, std::string());
+    QCOMPARE(HBForm.HBFrageText[1], std::string("Knoten"));
+    QCOMPARE(HBForm.HBGesamtpunkte, 55);
+    QCOMPARE(Stand.FormTyp, Formart::Test);
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Spiel.Datei[0], std::string());
 }
 
 void OeffnenTest::theFifthFilePushesTheOldestOutOfTheList() {
@@ -135,7 +132,7 @@ void OeffnenTest::theFifthFilePushesTheOldestOutOfTheList() {
         Laden(lauf, name);
     }
     QCOMPARE(Frage1(), QStringLiteral("C.FKR 1"));
-    const std::array liste{Datei1, Datei2, Datei3, Datei4};
+    const std::array liste{Spiel.Datei[0], Spiel.Datei[1], Spiel.Datei[2], Spiel.Datei[3]};
     const std::array erwartet{"E.FKR", "D.FKR", "C.FKR", "B.FKR"};
     for (std::size_t i = 0; i < liste.size(); ++i) {
         QCOMPARE(liste.at(i), lauf.Pfad(erwartet.at(i)));
@@ -155,9 +152,9 @@ void OeffnenTest::aTextFileIsNoFormFile() {
     Laden(lauf, "BRIEF.TXT");
     QVERIFY(dialoge.fertig());
     QCOMPARE(Frage1(), QStringLiteral("Eins 1"));
-    QCOMPARE(DateiName, lauf.Pfad("BRIEF.TXT"));
-    QCOMPARE(FKDateiName, lauf.Pfad("A.FKR"));
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Editor.DateiAlt, lauf.Pfad("BRIEF.TXT"));
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
 }
 
 void OeffnenTest::cancellingTheDialogSaysThatNoFileWasChosen() {
@@ -166,13 +163,12 @@ void OeffnenTest::cancellingTheDialogSaysThatNoFileWasChosen() {
     dialoge.meldung(QStringLiteral("Keine Datei ausgewählt !"), QStringLiteral("Nicht doch"));
     lauf.Druecken(QStringLiteral("cmdLaden"));
     QVERIFY(dialoge.fertig());
-    QCOMPARE(DateiAbbruch, 0);
     QVERIFY(FKFragenOffen() == nullptr);
 }
 
 void OeffnenTest::unsavedChangesAreAskedAboutFirst() {
     lauf.NeuesFormular(QStringLiteral("Neu"));
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
     const QString frage = QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?");
     Dialogfolge dialoge;
     dialoge.frage(QStringLiteral("Auswertung speichern !"), frage, 2);
@@ -187,7 +183,7 @@ void OeffnenTest::unsavedChangesAreAskedAboutFirst() {
     lauf.Druecken(QStringLiteral("cmdDateiFK(2)"));
     QVERIFY(dialoge.fertig());
     QCOMPARE(Frage1(), QStringLiteral("Neu"));
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void OeffnenTest::aFileCutShortIsReportedAndShownAsFarAsRead() {
@@ -212,7 +208,7 @@ void OeffnenTest::anOverlongNumberIsReportedWithItsLine() {
     StelleErwarten(dialoge, 6, 5);
     Laden(lauf, "LANG.FKR");
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FelderGesamt, 24);
+    QCOMPARE(Spiel.FelderGesamt, 24);
     QCOMPARE(Frage1(), QStringLiteral("Herbst 1"));
 }
 
@@ -251,13 +247,12 @@ void OeffnenTest::aMissingFileOpensTheDialogAgainAndCancelLeavesIt() {
     fehlt(52);
     DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), QStringLiteral("A.FKR"),
                         QStringLiteral("cmdLaden"));
-    DateiName = AppPfad + "\\KRANZ";
-    FormularLaden();
+    FormularLaden(Stand.AppPfad + "\\KRANZ");
     QVERIFY(dialoge.fertig());
     QCOMPARE(Frage1(), QStringLiteral("Eins 1"));
     QCOMPARE(Fenstertitel(), QStringLiteral("A.FKR "));
-    QCOMPARE(FKDateiName, lauf.Pfad("A.FKR"));
-    QCOMPARE(Datei2, std::string());
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
+    QCOMPARE(Spiel.Datei[1], std::string());
 }
 
 void OeffnenTest::aShapeThatFitsNoCounterGivesWayToTheFullBoard() {
@@ -269,8 +264,8 @@ void OeffnenTest::aShapeThatFitsNoCounterGivesWayToTheFullBoard() {
                     QStringLiteral("Das gefällt mir gar nicht"));
     Laden(lauf, "GROSS.FKR");
     QVERIFY(dialoge.fertig());
-    QCOMPARE(AnzahlWissen, 6);
-    QCOMPARE(FragenProWissen, 5);
+    QCOMPARE(Spiel.AnzahlWissen, 6);
+    QCOMPARE(Spiel.FragenProWissen, 5);
     QCOMPARE(Frage1(), QStringLiteral("Herbst 1"));
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picFK"))->isVisible());
 }
@@ -280,62 +275,21 @@ void OeffnenTest::aTagOfNoKindOpensNothingAndBlocksNothing() {
     lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
     Laden(lauf, "X.FKR");
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
     Laden(lauf, "A.FKR");
     QCOMPARE(Frage1(), QStringLiteral("Eins 1"));
     // With a form open it is refused without a word.
     Laden(lauf, "X.FKR");
     QCOMPARE(Fenstertitel(), QStringLiteral("A.FKR "));
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
 }
 
 void OeffnenTest::anEmptyFileCountsAsRead() {
     lauf.Schreiben(QStringLiteral("LEER.FKR"), "");
     Laden(lauf, "LEER.FKR");
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FarbeHintergrund, 7);
-    QCOMPARE(FormTyp, std::string());
-}
-
-void OeffnenTest::thePreviewReadsTheNumbersOnly() {
-    lauf.Schreiben(QStringLiteral("herbstlager 2008.fkr"), Formlauf::Quiz("Herbst"));
-    DateiName = lauf.Pfad("herbstlager 2008.fkr");
-    FormularInfoLesen();
-    QCOMPARE(FelderGesamt, 24);
-    QCOMPARE(FragenProWissen, 4);
-    QCOMPARE(AnzahlWissen, 6);
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FrageText[1], std::string());
-    QCOMPARE(PunkteA, 0);
-    QCOMPARE(Finden(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->property("caption").toString(),
-             QStringLiteral(" Ich lade ...  GER 2008.FKR "));
-    DateiName.clear();
-    FormularInfoLesen(); // nothing chosen: nothing happens
-    QCOMPARE(FelderGesamt, 24);
-}
-
-void OeffnenTest::thePreviewOfATestFormKeepsTheNumbers() {
-    lauf.Schreiben(QStringLiteral("T.FKR"), Formlauf::Test("Knoten"));
-    FelderGesamt = 12;
-    DateiName = lauf.Pfad("T.FKR");
-    FormularInfoLesen();
-    QCOMPARE(FelderGesamt, 12);
-    QCOMPARE(FormTyp, std::string());
-}
-
-void OeffnenTest::anUnreadableFileInThePreviewIsReportedAndChangesNoNumber() {
-    lauf.Schreiben(QStringLiteral("KURZ.FKR"), "\"Feldkranz\"\r\n\"FK\"\r\n[FKINI]\r\nFK\r\n30\r\n5\r\n");
-    FelderGesamt = 12;
-    Dialogfolge dialoge;
-    dialoge.meldung(
-        QStringLiteral("DATEI : Oeffnen_Vorschau :\nIch müsste noch Daten einlesen, aber die Datei ist "
-                       "zu Ende !?"),
-        QStringLiteral("Grrr.. *~§§°"));
-    DateiName = lauf.Pfad("KURZ.FKR");
-    FormularInfoLesen();
-    QVERIFY(dialoge.fertig());
-    QCOMPARE(FelderGesamt, 12);
-    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(Spiel.FarbeHintergrund, 7);
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
 }
 
 QTEST_MAIN(OeffnenTest)

@@ -1,13 +1,14 @@
 // Saving the open form in the real main window: old name, new name, backup, and the questions on the way.
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "formlauf.h"
-#include "persistence/oeffnen.h"
-#include "persistence/speichern.h"
+#include "forms/oeffnen.h"
+#include "forms/speichern.h"
+#include "persistence/sicherung.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/finden.h"
 #include "vorgaben.h"
 
@@ -34,7 +35,7 @@ void AendernUndMerken(frmFKFragen* form, const QString& text) {
     form->txtFrage.at(2)->setFocus();
     QTest::keyClick(form->txtFrage.at(2), Qt::Key_End, Qt::ControlModifier); // focus selects the whole text
     QTest::keyClicks(form->txtFrage.at(2), text);
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
 }
 
 } // namespace
@@ -81,7 +82,7 @@ void SpeichernTest::aFormWithoutANameAsksForOneAndTheSecondTimeNot() {
     GespeichertErwarten(dialoge, QStringLiteral("Neu.FKR"));
     lauf.Druecken(speichernTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(form->windowTitle(), QStringLiteral("Neu.FKR "));
     QCOMPARE(lauf.Lesen(QStringLiteral("Neu.FKR")).count('\n'), 125);
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
@@ -90,7 +91,7 @@ void SpeichernTest::aFormWithoutANameAsksForOneAndTheSecondTimeNot() {
     GespeichertErwarten(dialoge, QStringLiteral("Neu.FKR"));
     lauf.Druecken(speichernTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(lauf.Lesen(QStringLiteral("Neu.FKR")).contains("\"Zwei\""));
 }
 
@@ -130,7 +131,7 @@ void SpeichernTest::theBackupIsTheVersionOfTheSaveBefore() {
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("S.FKR"), cmdSpeichern);
     GespeichertErwarten(dialoge, QStringLiteral("S.FKR"));
     lauf.Druecken(speichernTaste);
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     QByteArray vorher;
     for (const char* text : {"Zwei", "Drei"}) {
         vorher = lauf.Lesen(QStringLiteral("S.FKR"));
@@ -147,7 +148,7 @@ void SpeichernTest::theBackupIsTheVersionOfTheSaveBefore() {
 
 void SpeichernTest::aNewFormTellsThatNoBackupCouldBeMade() {
     lauf.NeuesFormular(QStringLiteral("Eins"));
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("N.FKR"), cmdSpeichern);
     dialoge.meldung(
@@ -164,7 +165,7 @@ void SpeichernTest::aNewFormTellsThatNoBackupCouldBeMade() {
 void SpeichernTest::aBackupThatFailsIsToldAndDoesNotStopTheSave() {
     lauf.Schreiben(QStringLiteral("S.FKR"), Formlauf::Quiz("Alt"));
     lauf.Schreiben(QStringLiteral("S.BAK/drin.txt"), "bleibt");
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     lauf.Oeffnen(QStringLiteral("S.FKR"));
     AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
     Dialogfolge dialoge;
@@ -175,7 +176,7 @@ void SpeichernTest::aBackupThatFailsIsToldAndDoesNotStopTheSave() {
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("S.FKR")).contains("Neu"));
     QCOMPARE(lauf.Lesen(QStringLiteral("S.BAK/drin.txt")), QByteArray("bleibt"));
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(QDir(lauf.programm().ordner().nativ(QStringLiteral("KRANZ/S.BAK"))).removeRecursively());
 }
 
@@ -202,7 +203,7 @@ void SpeichernTest::everyByteOfAFileComesBackWhenItIsSavedUnchanged() {
 
 void SpeichernTest::anOpenedBackupIsNotBackedUpOverItself() {
     lauf.Schreiben(QStringLiteral("A.BAK"), Formlauf::Quiz("Alt"));
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     lauf.Oeffnen(QStringLiteral("A.BAK"));
     AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
     Dialogfolge dialoge;
@@ -223,14 +224,13 @@ void SpeichernTest::cancellingTheOverwriteQuestionLeavesTheOldFile() {
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(QStringLiteral("ALT.FKR")), QByteArray("alt"));
-    QCOMPARE(FormGeaendert, 1);
-    QCOMPARE(FKDateiName, std::string());
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.FKDateiName, std::string());
 }
 
 void SpeichernTest::closingTheOverwriteQuestionByItsFrameDestroysNothing() {
     lauf.Schreiben(QStringLiteral("ALT.FKR"), "alt");
     lauf.NeuesFormular(QStringLiteral("Neu"));
-    NachrichtAntwort = antwortJa;
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
     dialoge.erwarte({QStringLiteral("frmNachricht"), std::nullopt, std::nullopt, {durchRahmen}, {}});
@@ -247,10 +247,10 @@ void SpeichernTest::anOverwriteAnsweredJaReplacesTheFile() {
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
     UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 6);
     GespeichertErwarten(dialoge, QStringLiteral("ALT.FKR"));
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
     QVERIFY(lauf.Lesen(QStringLiteral("ALT.FKR")).startsWith("\"Feldkranz\"\r\n\"FK\"\r\n"));
 }
@@ -276,11 +276,10 @@ void SpeichernTest::aCancelledDialogSavesNothingAndKeepsTheFormsFile() {
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("B.FKR"), QStringLiteral("cmdAbbrechen"));
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 1);
-    QCOMPARE(DateiAbbruch, 0);
+    QVERIFY(Stand.FormGeaendert);
     QCOMPARE(lauf.Lesen(QStringLiteral("A.FKR")), vorher);
     QVERIFY(lauf.Lesen(QStringLiteral("B.FKR")).isNull());
-    QCOMPARE(DateiName, lauf.Pfad("A.FKR"));
+    QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
     GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
     lauf.Druecken(speichernTaste);
     QVERIFY(dialoge.fertig());
@@ -293,7 +292,7 @@ void SpeichernTest::anEmptyNameSavesNothing() {
     dialoge.meldung(QStringLiteral("Speichern unter abgebrochen"), QStringLiteral("Machst du später"));
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void SpeichernTest::aFailedSaveIsReportedAndClaimsNothing() {
@@ -305,15 +304,15 @@ void SpeichernTest::aFailedSaveIsReportedAndClaimsNothing() {
                     QStringLiteral("Grrr.. *~§§°"));
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 1);
-    QCOMPARE(FKDateiName, std::string());
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.FKDateiName, std::string());
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral(" Neues Feldkranz-Formular"));
 }
 
 void SpeichernTest::aFailedSaveOfAnUnchangedFormCountsAsUnsaved() {
     lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
     lauf.Oeffnen(QStringLiteral("A.FKR"));
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
     const QString nativ = lauf.programm().ordner().nativ(QStringLiteral("KRANZ/A.FKR"));
     QVERIFY(QFile::remove(nativ) && QDir().mkdir(nativ));
     Dialogfolge dialoge;
@@ -322,7 +321,7 @@ void SpeichernTest::aFailedSaveOfAnUnchangedFormCountsAsUnsaved() {
         QStringLiteral("Grrr.. *~§§°"));
     lauf.Druecken(speichernTaste);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(QDir().rmdir(nativ));
 }
 
@@ -332,8 +331,7 @@ void SpeichernTest::aSaveGoesToTheFormsOwnFileAfterARefusedOne() {
     lauf.Oeffnen(QStringLiteral("A.FKR"));
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("Evtl. keine Feldkranz-Datei !"), QStringLiteral("Grrr"));
-    DateiName = lauf.Pfad("BRIEF.TXT");
-    FormularLaden();
+    FormularLaden(lauf.Pfad("BRIEF.TXT"));
     AendernUndMerken(FKFragenOffen(), QStringLiteral("Neu"));
     GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
     lauf.Druecken(speichernTaste);
@@ -374,10 +372,10 @@ void SpeichernTest::theQuestionBeforeOpeningSavesOnJa() {
                   QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
     GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
     dialoge.meldung(QStringLiteral("Formular wurde gespeichert !"), QStringLiteral("Aha"));
-    QCOMPARE(AuswertungSpeichernFragen(), 0);
+    QVERIFY(AuswertungGesichert());
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("A.FKR")).contains("Neu"));
-    QCOMPARE(FormGeaendert, 0);
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void SpeichernTest::aSaveThatDidNotComeAboutCountsAsCancelled() {
@@ -386,9 +384,9 @@ void SpeichernTest::aSaveThatDidNotComeAboutCountsAsCancelled() {
     dialoge.frage(QStringLiteral("Auswertung speichern !"),
                   QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
     DateidialogErwarten(dialoge, speichernUnter, QString(), QStringLiteral("cmdAbbrechen"));
-    QCOMPARE(AuswertungSpeichernFragen(), 1);
+    QVERIFY(!AuswertungGesichert());
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void SpeichernTest::theClosingCheckKeepsOrReleasesTheForm() {
@@ -403,7 +401,7 @@ void SpeichernTest::theClosingCheckKeepsOrReleasesTheForm() {
     dialoge.frage(titel, frage, 6);
     DateidialogErwarten(dialoge, speichernUnter, QString(), QStringLiteral("cmdAbbrechen"));
     QVERIFY(!FK_Schliessen());
-    QCOMPARE(FormGeaendert, 1);
+    QVERIFY(Stand.FormGeaendert);
 
     dialoge.frage(titel, frage, 6);
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("Z.FKR"), cmdSpeichern);
@@ -411,8 +409,8 @@ void SpeichernTest::theClosingCheckKeepsOrReleasesTheForm() {
     QVERIFY(FK_Schliessen());
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("Z.FKR")).contains("\"Neu\""));
-    QCOMPARE(FormTyp, std::string());
-    QCOMPARE(FormGeaendert, 0);
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
 }
 
@@ -422,30 +420,29 @@ void SpeichernTest::withoutAFormThereIsNothingToSave() {
         dialoge.meldung(QStringLiteral("Speichern unter abgebrochen"), QStringLiteral("Machst du später"));
     }
     lauf.Schreiben(QStringLiteral("A.FKR"), "alt");
-    DateiName = lauf.Pfad("A.FKR");
+    Stand.FKDateiName = lauf.Pfad("A.FKR"); // left by a form that is closed
     QVERIFY(!Speichern());
-    QVERIFY(!SpeichernUnter(2));
+    QVERIFY(!SpeichernUnter(Speicherart::Formular));
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(QStringLiteral("A.FKR")), QByteArray("alt"));
 }
 
 void SpeichernTest::theCatalogueBackupTellsItsTwoMessages() {
     lauf.Schreiben(QStringLiteral("FRAGEN.TXT"), "Kopf\r\n");
-    DateiName = lauf.Pfad("FRAGEN.TXT");
-    SicherungAnlegenKatalog(); // not set: nothing happens
+    const std::string datei = lauf.Pfad("FRAGEN.TXT");
+    SicherungAnlegenKatalog(datei); // not set: nothing happens
     QVERIFY(lauf.Lesen(QStringLiteral("FRAGEN.BAK")).isNull());
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     Dialogfolge dialoge;
     GespeichertErwarten(dialoge, QStringLiteral("FRAGEN.TXT"));
     dialoge.meldung(
         QStringLiteral("BackUp angelegt : \n[ %1.BAK ]").arg(QString::fromStdString(lauf.Pfad("FRAGEN"))),
         QStringLiteral("Wirklich ?!"));
-    SicherungAnlegenKatalog();
+    SicherungAnlegenKatalog(datei);
     QCOMPARE(lauf.Lesen(QStringLiteral("FRAGEN.BAK")), QByteArray("Kopf\r\n"));
-    DateiName = lauf.Pfad("NEU.TXT");
     dialoge.meldung(QStringLiteral("Ich konnte kein BackUp anlegen von : \n[ NEU.TXT ]"),
                     QStringLiteral("Das finde ich nicht so gut"));
-    SicherungAnlegenKatalog();
+    SicherungAnlegenKatalog(lauf.Pfad("NEU.TXT"));
     QVERIFY(dialoge.fertig());
 }
 

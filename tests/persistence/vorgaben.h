@@ -1,85 +1,69 @@
-// States that several tests of the files start from. Writes the program's own variables, as a new process or
-// a filled form would leave them.
+// Values that several tests of the files start from: a quiz form and a test form with a different value at
+// every place, and the way of a value through the bytes of a file and back.
 #pragma once
 
-#include "core/zustand.h"
-#include "editor/editordaten.h"
-#include "quizform/formdaten.h"
-#include "settings/einstellungen.h"
-#include "testform/formdaten.h"
+#include "persistence/formulardatei.h"
 
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <tuple>
 
-// All that a form or settings file touches, as at the start of the program.
+// The values that a test writes and reads.
+inline Formularwerte W;
+
 inline void AllesLeeren() {
-    FormTyp = DateiName = DateiAlt = "";
-    DateiAbbruch = 0;
-    FormNr = FormDatum = FormZeit = "";
-    WissenTitel.fill("");
-    FrageText.fill("");
-    AntwortText.fill("");
-    FeldSpezial.fill("");
-    HBFrageText.fill("");
-    HBAntwortText.fill("");
-    HBPunkte.fill(0);
-    HBFach = HBKopf1 = HBKopf2 = HBKopf3 = "";
-    HBGesamtpunkte = 0;
-    for (auto* wert :
-         {&PunkteA,          &PunkteE,      &PunkteG,         &PunkteJ,          &PunkteR,
-          &FelderA,          &FelderE,      &FelderG,         &FelderJ,          &FelderR,
-          &PunkteVA,         &PunkteVE,     &PunkteVG,        &PunkteVJ,         &PunkteVR,
-          &FelderVA,         &FelderVG,     &FelderVJ,        &FelderVR,         &FelderGesamt,
-          &FragenProWissen,  &AnzahlWissen, &OptionMaxFelder, &OptionMaxSpezial, &OptionMaxWissen,
-          &FarbeHintergrund, &OptionTitel,  &OptionWissen,    &OptionJoker,      &OptionRahmen,
-          &OptionDatei}) {
-        *wert = 0;
-    }
-    FelderVE.reset();
-    OptionEreignis.reset();
-    Zwischenabstand = 0.0F;
-    Papierformat = Datei1 = Datei2 = Datei3 = Datei4 = Bemerkung = "";
-    HilfeEintrag.fill("");
+    W = {};
+}
+
+// Reads over the values, as while the form of their kind is open.
+inline FormularErgebnis Lesen(std::string_view bytes, const WertLeser::Fehlermelder& melder = {}) {
+    return FormularAusBytes(bytes, W.art, W, melder);
+}
+
+inline std::string Quizdatei() {
+    return FormularBytes(W.quiz, W.spiel);
+}
+
+inline std::string Testdatei() {
+    return FormularBytes(W.test);
 }
 
 // A quiz form with a different value at every place.
 inline void QuizFuellen() {
     AllesLeeren();
-    FormTyp = "FK";
-    FelderGesamt = 24;
-    FragenProWissen = 4;
-    AnzahlWissen = 6;
-    FormNr = "7";
-    FormDatum = "24. Dezember";
-    FormZeit = "1½ Stunden";
-    std::tie(FelderA, PunkteA, FelderG, PunkteG, FelderJ) = std::tuple(2, 5, 3, 10, 4);
-    std::tie(PunkteJ, FelderR, PunkteR, FelderE, PunkteE) = std::tuple(6, 1, -3, 5, 11);
-    Zwischenabstand = 1.5F;
-    FarbeHintergrund = 3;
-    for (std::size_t a = 1; a < WissenTitel.size(); ++a) {
-        WissenTitel[a] = "Gebiet " + std::to_string(a);
+    W.art = Formart::Quiz;
+    W.spiel.FelderGesamt = 24;
+    W.spiel.FragenProWissen = 4;
+    W.spiel.AnzahlWissen = 6;
+    W.quiz.FormNr = "7";
+    W.quiz.FormDatum = "24. Dezember";
+    W.quiz.FormZeit = "1½ Stunden";
+    W.spiel.Felder = {2, 5, 3, 4, 1};
+    W.spiel.Punkte = {5, 11, 10, 6, -3};
+    W.spiel.Zwischenabstand = 1.5F;
+    W.spiel.FarbeHintergrund = 3;
+    for (std::size_t a = 1; a < W.quiz.WissenTitel.size(); ++a) {
+        W.quiz.WissenTitel[a] = "Gebiet " + std::to_string(a);
     }
-    for (std::size_t n = 1; n < FrageText.size(); ++n) {
-        FrageText[n] = "Frage " + std::to_string(n) + "\r\nüber zwei Zeilen, mit Komma";
-        AntwortText[n] = "Antwört " + std::to_string(n);
-        FeldSpezial[n] = n % 6 == 0 ? "" : std::string(1, "AEGJR"[n % 6 - 1]);
+    for (std::size_t n = 1; n < W.quiz.FrageText.size(); ++n) {
+        W.quiz.FrageText[n] = "Frage " + std::to_string(n) + "\r\nüber zwei Zeilen, mit Komma";
+        W.quiz.AntwortText[n] = "Antwört " + std::to_string(n);
+        W.quiz.FeldSpezial[n] = n % 6 == 0 ? "" : std::string(1, "AEGJR"[n % 6 - 1]);
     }
 }
 
 inline void TestFuellen() {
     AllesLeeren();
-    FormTyp = "Test";
-    HBKopf1 = " TEST  HFZ";
-    HBKopf2 = " Knoten";
-    HBKopf3 = " II";
-    HBFach = " Knoten";
-    HBGesamtpunkte = 55;
-    for (std::size_t i = 1; i < HBFrageText.size(); ++i) {
-        HBFrageText[i] = "Aufgabe " + std::to_string(i);
-        HBAntwortText[i] = "Lösung, " + std::to_string(i);
-        HBPunkte[i] = static_cast<std::int16_t>(i);
+    W.art = Formart::Test;
+    W.test.HBKopf1 = " TEST  HFZ";
+    W.test.HBKopf2 = " Knoten";
+    W.test.HBKopf3 = " II";
+    W.test.HBFach = " Knoten";
+    W.test.HBGesamtpunkte = 55;
+    for (std::size_t i = 1; i < W.test.HBFrageText.size(); ++i) {
+        W.test.HBFrageText[i] = "Aufgabe " + std::to_string(i);
+        W.test.HBAntwortText[i] = "Lösung, " + std::to_string(i);
+        W.test.HBPunkte[i] = static_cast<std::int16_t>(i);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "persistence/wertgrammatik.h"
+#include "core/wertgrammatik.h"
 
 #include <gtest/gtest.h>
 

@@ -1,14 +1,14 @@
 // The print commands on the real main window: the question, what is on the sheet, what happens to the form,
 // and the printer dialog. The system knows no printer here; the sheets become PDF files.
-#include "core/frmMDI.h"
 #include "core/panel.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
 #include "dialogs/modal.h"
+#include "mainwindow/frmMDI.h"
 #include "printing/drucken.h"
 #include "printing/drucker.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
@@ -83,7 +83,7 @@ void FormulardruckenTest::withoutAPaperTheRoutineEndsWithAMessage() {
     Programm programm;
     programm.NeuesQuizformular();
     for (const char* const papier : {"", "A4", "A3 quer"}) {
-        Papierformat = papier;
+        Spiel.Papierformat = papier;
         Dialogfolge dialoge;
         dialoge.erwarte({QStringLiteral("frmMeldung"),
                          {},
@@ -115,7 +115,7 @@ void FormulardruckenTest::abbrechenPrintsNothingAndTheOrientationComesBack() {
     QFETCH(QString, taste);
     Programm programm;
     programm.NeuesQuizformular();
-    Papierformat = papier.toStdString();
+    Spiel.Papierformat = papier.toStdString();
     for (const auto vorher : {QPageLayout::Portrait, QPageLayout::Landscape}) {
         Drucker().setPageOrientation(vorher);
         Dialogfolge dialoge;
@@ -138,7 +138,7 @@ void FormulardruckenTest::abbrechenPrintsNothingAndTheOrientationComesBack() {
 void FormulardruckenTest::theSheetShowsWhatStandsOnTheScreen() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     form->txtFrage.at(1)->setText("Zauberflöte");
     form->txtAntwort.at(1)->setText("Mozart");
     form->txtDatum->setWert("24.12.2008");
@@ -152,16 +152,16 @@ void FormulardruckenTest::theSheetShowsWhatStandsOnTheScreen() {
         QVERIFY2(Anzahl(seite, wort) == 1, wort);
     }
     QCOMPARE(Anzahl(seite, "Wissen"), 0);
-    const QString pfad = QString::fromStdString(AppPfad) + QStringLiteral("\\KRANZ\\Feldkranz.pdf");
+    const QString pfad = QString::fromStdString(Stand.AppPfad) + QStringLiteral("\\KRANZ\\Feldkranz.pdf");
     QCOMPARE(Status(programm), QStringLiteral(" Ich habe das Blatt als PDF-Datei abgelegt : %1 ").arg(pfad));
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("pnlKaro"))->isVisible());
-    QVERIFY(FrageText.at(1).empty()); // the stored copy is as it was
+    QVERIFY(FKForm.FrageText.at(1).empty()); // the stored copy is as it was
 }
 
 void FormulardruckenTest::theBlankMenuEntryPrintsNoTitlesOnce() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Papierformat = "A5 quer";
+    Spiel.Papierformat = "A5 quer";
     form->txtFrage.at(1)->setText("Zauberflöte");
     form->pnlWissen.at(2)->setCaption(QStringLiteral("Musik"));
     {
@@ -178,9 +178,9 @@ void FormulardruckenTest::theBlankMenuEntryPrintsNoTitlesOnce() {
 void FormulardruckenTest::aSheetOfANamedFormLiesBesideTheForm() {
     Programm programm;
     programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     QVERIFY(QDir(programm.ordner().nativ()).mkpath(QStringLiteral("Eigene")));
-    FKDateiName = AppPfad + "\\EIGENE\\Runde Übung.FKR"; // found whatever its case
+    Stand.FKDateiName = Stand.AppPfad + "\\EIGENE\\Runde Übung.FKR"; // found whatever its case
     const PdfSeite seite = Drucken(programm, frageQuer, QStringLiteral("Eigene/Runde Übung.pdf"));
     QCOMPARE(seite.fehler, std::string());
     QCOMPARE(Anzahl(seite, "FELDKRANZ!"), 1);
@@ -190,7 +190,7 @@ void FormulardruckenTest::aSheetOfANamedFormLiesBesideTheForm() {
 void FormulardruckenTest::blankPrintRestoreWorks() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     form->txtFrage.at(8)->setText("Zauberflöte");
     form->txtAntwort.at(8)->setText("Mozart");
     FK_Merken();
@@ -206,13 +206,13 @@ void FormulardruckenTest::blankPrintRestoreWorks() {
 void FormulardruckenTest::cellsOutOfPlayAreEmptyAlsoWhileTheWindowIsMinimised() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     for (std::size_t n = 1; n <= 30; ++n) {
         form->txtFrage.at(n)->setText("Frage");
     }
     FK_Merken();
-    OptionMaxWissen = 1;
-    AnzahlWissen = 4;
+    Spiel.OptionMaxWissen = true;
+    Spiel.AnzahlWissen = 4;
     FK_WissenRegel();
     form->parentWidget()->showMinimized();
     const PdfSeite seite = Drucken(programm, frageQuer);
@@ -226,7 +226,7 @@ void FormulardruckenTest::cellsOutOfPlayAreEmptyAlsoWhileTheWindowIsMinimised() 
 void FormulardruckenTest::anUnwritableTargetIsReportedInAStockBoxAndNothingIsPrinted() {
     Programm programm;
     programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     Drucker().setPageOrientation(QPageLayout::Portrait);
     QVERIFY(QDir(programm.ordner().nativ()).mkpath(ohneNamen)); // a folder of that name is in the way
     const QString vorher = Status(programm);
@@ -272,7 +272,7 @@ void FormulardruckenTest::thePrinterDialogProposesFiveCopiesAndACancelLeavesTheP
 void FormulardruckenTest::thePrinterOfAnAcceptedDialogServesOn() {
     Programm programm;
     programm.NeuesQuizformular();
-    Papierformat = "A4 quer";
+    Spiel.Papierformat = "A4 quer";
     const QString datei = programm.ordner().nativ(QStringLiteral("Mein Blatt.pdf"));
     ModalHandlerSetzen([&](QDialog& dialog) {
         auto* wahl = qobject_cast<QPrintDialog*>(&dialog);

@@ -154,18 +154,20 @@ private:
         };
         const std::string zeile = std::to_string(r);
         if (spezial == "J") {
-            return wahl(daten_.punkteJ > 0, daten_.punkteJ, zeile);
+            return wahl(daten_.punkte[Spezialart::Joker] > 0, daten_.punkte[Spezialart::Joker], zeile);
         }
         if (spezial == "E") {
-            return wahl(daten_.punkteJ > 0, daten_.punkteE, zeile);
+            return wahl(daten_.punkte[Spezialart::Joker] > 0, daten_.punkte[Spezialart::Ereignis], zeile);
         }
         if (spezial == "R") {
-            return wahl(daten_.punkteR > 0, daten_.punkteR, "?");
+            return wahl(daten_.punkte[Spezialart::Risiko] > 0, daten_.punkte[Spezialart::Risiko], "?");
         }
         if (spezial == "G") {
-            return wahl(daten_.punkteG > 0, daten_.punkteG, zeile);
+            return wahl(daten_.punkte[Spezialart::Glueck] > 0, daten_.punkte[Spezialart::Glueck], zeile);
         }
-        return spezial == "A" ? wahl(daten_.punkteA > 0, daten_.punkteA, zeile) : zeile;
+        return spezial == "A"
+                   ? wahl(daten_.punkte[Spezialart::Aktion] > 0, daten_.punkte[Spezialart::Aktion], zeile)
+                   : zeile;
     }
 
     const FKDruckdaten& daten_;

@@ -1,7 +1,4 @@
-#include "core/zustand.h"
 #include "printing/pdfpfad.h"
-#include "quizform/formdaten.h"
-#include "testform/formdaten.h"
 
 #include <gtest/gtest.h>
 
@@ -17,13 +14,9 @@ TEST(PdfPfad, AFormThatItselfEndsInPdfIsNeverOverwritten) {
 }
 
 TEST(PdfPfad, AFormWithoutANameHasAFixedOne) {
-    AppPfad = "\\opt\\Feldkranz";
-    FKDateiName.clear();
-    HBDateiName.clear();
-    EXPECT_EQ(PdfPfadFK(), "\\opt\\Feldkranz\\KRANZ\\Feldkranz.pdf");
-    EXPECT_EQ(PdfPfadHB(), "\\opt\\Feldkranz\\TEST\\Test.pdf");
-    FKDateiName = "\\opt\\Feldkranz\\KRANZ\\A.FKR";
-    HBDateiName = "\\home\\B.FKR";
-    EXPECT_EQ(PdfPfadFK(), "\\opt\\Feldkranz\\KRANZ\\A.pdf");
-    EXPECT_EQ(PdfPfadHB(), "\\home\\B.pdf");
+    const std::string app = "\\opt\\Feldkranz";
+    EXPECT_EQ(PdfPfad(Formart::Quiz, "", app), "\\opt\\Feldkranz\\KRANZ\\Feldkranz.pdf");
+    EXPECT_EQ(PdfPfad(Formart::Test, "", app), "\\opt\\Feldkranz\\TEST\\Test.pdf");
+    EXPECT_EQ(PdfPfad(Formart::Quiz, app + "\\KRANZ\\A.FKR", app), "\\opt\\Feldkranz\\KRANZ\\A.pdf");
+    EXPECT_EQ(PdfPfad(Formart::Test, "\\home\\B.FKR", app), "\\home\\B.pdf");
 }

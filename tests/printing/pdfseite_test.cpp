@@ -56,9 +56,9 @@ FKDruckdaten GefuelltesFormular() {
                            std::string("Antwort").append(nr).append(" ß"), arten[n % 9], n <= 25,
                            n <= 25 && n != 2};
     }
-    daten.punkteJ = 5;
-    daten.punkteE = 10;
-    daten.punkteG = 7;
+    daten.punkte[Spezialart::Joker] = 5;
+    daten.punkte[Spezialart::Ereignis] = 10;
+    daten.punkte[Spezialart::Glueck] = 7;
     return daten;
 }
 

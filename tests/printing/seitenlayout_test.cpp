@@ -224,11 +224,7 @@ TEST(Seitenlayout, PointsOfTheKinds) {
     for (const auto& zeile : tabelle) {
         FKDruckdaten daten = LeeresFormular();
         daten.felder[4].spezial = zeile.spezial;
-        daten.punkteA = zeile.a;
-        daten.punkteE = zeile.e;
-        daten.punkteG = zeile.g;
-        daten.punkteJ = zeile.j;
-        daten.punkteR = zeile.r;
+        daten.punkte = {zeile.a, zeile.e, zeile.g, zeile.j, zeile.r};
         EXPECT_EQ(Nummer(daten, 4), zeile.nummer) << zeile.spezial;
     }
 }

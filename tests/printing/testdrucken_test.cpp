@@ -1,8 +1,8 @@
 // Printing a test by the command on the real main window: the checks, the questions in their order, what is
 // on the sheet, and that the form is left as it was. The system knows no printer here.
-#include "core/frmMDI.h"
 #include "core/panel.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "printing/drucker.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
@@ -101,7 +101,7 @@ void TestdruckenTest::withoutASubjectTheRoutineEndsWithAMessage() {
 void TestdruckenTest::anEmptyTestIsAskedAboutAndPrinted() {
     Programm programm;
     Formular(programm, 0, false);
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
     Drucker().setPageOrientation(QPageLayout::Landscape);
     Dialogfolge dialoge;
     dialoge.frage(titel, leeresBlatt, 1);
@@ -112,7 +112,7 @@ void TestdruckenTest::anEmptyTestIsAskedAboutAndPrinted() {
     QVERIFY(Enthaelt(seite, "Knoten"));
     QVERIFY(Enthaelt(seite, "1."));
     QVERIFY(!Enthaelt(seite, "2."));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(Drucker().pageLayout().orientation(), QPageLayout::Landscape);
     QVERIFY(Finden<Panel>(programm.haupt(), QStringLiteral("pnlHilfe"))
                 ->caption()
@@ -232,7 +232,7 @@ void TestdruckenTest::blankPrintRestoreWorks() {
 void TestdruckenTest::aNamedTestIsPrintedBesideItsFormUnderItsName() {
     Programm programm;
     Formular(programm, 1, true);
-    HBDateiName = AppPfad + "\\TEST\\Herbst.FKR";
+    Stand.HBDateiName = Stand.AppPfad + "\\TEST\\Herbst.FKR";
     Dialogfolge dialoge;
     dialoge.frage(titel, MitFragen(1), 1);
     SeitenmasseErwarten(dialoge);

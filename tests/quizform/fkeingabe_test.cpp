@@ -58,7 +58,7 @@ void Fuellen(frmFKFragen* form) {
     }
     FK_Merken();
     FK_FelderFaerben();
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
 }
 
 } // namespace
@@ -92,14 +92,14 @@ void FkEingabeTest::aTypedQuestionLeavesTheAnswerAsItWas() {
     Fuellen(form);
     Tippen(form->txtFrage.at(2), QStringLiteral("Anders"));
     form->txtFrage.at(3)->setFocus();
-    QTRY_COMPARE(FrageText.at(2), std::string("Anders"));
-    QCOMPARE(AntwortText.at(2), std::string("Antwort 2"));
+    QTRY_COMPARE(FKForm.FrageText.at(2), std::string("Anders"));
+    QCOMPARE(FKForm.AntwortText.at(2), std::string("Antwort 2"));
 }
 
 void FkEingabeTest::savingByKeyWhileTypingSavesTheTextAndLeavingTheCellChangesNothing() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    FKDateiName = DateiName = AppPfad + "\\KRANZ\\TIPP.FKR";
+    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\TIPP.FKR";
     Tippen(form->txtFrage.at(1), QStringLiteral("Wer?"));
     QTest::keyClick(form->txtFrage.at(1), Qt::Key_Tab);
     QTRY_VERIFY(form->txtAntwort.at(1)->hasFocus());
@@ -112,11 +112,11 @@ void FkEingabeTest::savingByKeyWhileTypingSavesTheTextAndLeavingTheCellChangesNo
     const QByteArray datei = programm.ordner().lesen(QStringLiteral("KRANZ/TIPP.FKR"));
     QVERIFY(datei.contains("\"Wer?\"\r\n"));
     QVERIFY(datei.contains("\"Ich\"\r\n"));
-    QCOMPARE(AntwortText.at(1), std::string("Ich"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(FKForm.AntwortText.at(1), std::string("Ich"));
+    QVERIFY(!Stand.FormGeaendert);
     form->txtNr->setFocus();
     QTRY_VERIFY(form->txtNr->hasFocus());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkEingabeTest::aNewFormByKeyOverTypedTextAnsweredNeinIsUnchanged() {
@@ -129,7 +129,7 @@ void FkEingabeTest::aNewFormByKeyOverTypedTextAnsweredNeinIsUnchanged() {
     QTRY_VERIFY(dialoge.fertig());
     QTRY_VERIFY(FKFragenOffen() != nullptr && FKFragenOffen()->isVisible());
     QCOMPARE(FK_Antwort(3), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkEingabeTest::aClosedFormIsNotMarkedAsChangedByItsLastFocus() {
@@ -145,7 +145,7 @@ void FkEingabeTest::aClosedFormIsNotMarkedAsChangedByItsLastFocus() {
                   7);
     Finden<QAction>(programm.haupt(), QStringLiteral("mFKFormular"))->trigger();
     QTRY_VERIFY(form.isNull());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkEingabeTest::aMenuLeavesThePlaceInTheTextWhereItWas() {
@@ -154,11 +154,11 @@ void FkEingabeTest::aMenuLeavesThePlaceInTheTextWhereItWas() {
     Tippen(form->txtFrage.at(1), QStringLiteral("abc"));
     ImMenue(programm, QStringLiteral("mInfo"), QString(), Qt::Key_Escape);
     QTRY_VERIFY(form->txtFrage.at(1)->hasFocus());
-    QCOMPARE(FrageText.at(1), std::string("abc")); // merged before any command of the menu could run
+    QCOMPARE(FKForm.FrageText.at(1), std::string("abc")); // merged before any command of the menu could run
     QTest::keyClicks(form->txtFrage.at(1), QStringLiteral("d"));
     QCOMPARE(FK_Frage(1), std::string("abcd"));
     form->txtFrage.at(2)->setFocus();
-    QTRY_COMPARE(FrageText.at(1), std::string("abcd"));
+    QTRY_COMPARE(FKForm.FrageText.at(1), std::string("abcd"));
     form->txtNr->setFocus();
     QTest::keyClicks(form->txtNr, QStringLiteral("1"));
     ImMenue(programm, QStringLiteral("mInfo"), QString(), Qt::Key_Escape);
@@ -207,25 +207,25 @@ void FkEingabeTest::blankingAndRestoringFromTheMenuWhileACellHasTheFocus() {
 void FkEingabeTest::openingAListedFileLeavesTheFormUnchangedWhenItsCellIsLeft() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    FKDateiName = DateiName = AppPfad + "\\KRANZ\\LISTE.FKR";
+    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\LISTE.FKR";
     Fuellen(form);
     {
         Dialogfolge dialoge;
         dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ LISTE.FKR ]"), QStringLiteral("Schön"));
         QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdDateiFK(3)")), Qt::LeftButton);
     }
-    Datei1 = FKDateiName;
+    Spiel.Datei[0] = Stand.FKDateiName;
     DateilisteAnzeigen();
     form->txtFrage.at(4)->setText("noch nicht gespeichert");
     FK_Merken();
     form->txtFrage.at(4)->setFocus();
     QTRY_VERIFY(form->txtFrage.at(4)->hasFocus());
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
     ImMenue(programm, QStringLiteral("mDateienFK"), QStringLiteral("mDateiGeoeffnet(0)"), Qt::Key_Return);
     QTRY_COMPARE(FK_Frage(4), std::string("Frage 4"));
     form->txtFrage.at(5)->setFocus();
     QTRY_VERIFY(form->txtFrage.at(5)->hasFocus());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkEingabeTest::openingAFileClosesAnOpenList() {
@@ -236,7 +236,7 @@ void FkEingabeTest::openingAFileClosesAnOpenList() {
     QTest::keyClick(form->cmbWissen->view(), Qt::Key_Escape);
     QTRY_VERIFY(!form->cmbWissen->view()->isVisible());
     QVERIFY(form->cmbWissen->isVisible()); // an unfinished choice stays
-    FK_FormularZeigen("A.FKR ");
+    FK_FormularZeigen();
     QVERIFY(!form->cmbWissen->isVisible());
     QVERIFY(form->pnlWissen.at(2)->isVisible());
 }
@@ -245,21 +245,21 @@ void FkEingabeTest::blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLe
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     Fuellen(form);
-    for (std::size_t a = 1; a < WissenTitel.size(); ++a) {
+    for (std::size_t a = 1; a < FKForm.WissenTitel.size(); ++a) {
         form->pnlWissen.at(a)->setCaption(QStringLiteral("Titel %1").arg(a));
     }
     SpezialWaehlen(form, 1, 1);
     SpezialWaehlen(form, 7, 2);
     SpezialWaehlen(form, 30, 5);
     FK_Merken();
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     const auto gezeigt = [form] {
         QStringList texte;
         for (int n = 1; n <= anzahlFelder; ++n) {
             texte << Anzeige(FK_Frage(n)) << Anzeige(FK_Antwort(n)) << form->pnlSpezial.at(Nr(n))->caption()
                   << form->pnlPunkte.at(Nr(n))->caption() << Grund(form->txtFrage.at(Nr(n))).name();
         }
-        for (std::size_t a = 1; a < WissenTitel.size(); ++a) {
+        for (std::size_t a = 1; a < FKForm.WissenTitel.size(); ++a) {
             texte << form->pnlWissen.at(a)->caption();
         }
         return texte;
@@ -275,7 +275,7 @@ void FkEingabeTest::blankingAndRestoringWithNothingBetweenBringsTextsTitlesAndLe
     QCOMPARE(FK_Frage(1), std::string("----- Joker ! -----\r\n"));
     QCOMPARE(form->pnlWissen.at(6)->caption(), QStringLiteral("Titel 6"));
     QCOMPARE(form->pnlSpezial.at(7)->caption(), QStringLiteral("G"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));                    // the texts have changed
+    QVERIFY(Stand.FormGeaendert);                                // the texts have changed
     form->pnlWissen.at(6)->setCaption(QStringLiteral("anders")); // titles come back as well
     for (int i = 0; i < 2; ++i) {
         QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdFKFLaden")), Qt::LeftButton);
@@ -336,7 +336,7 @@ void FkEingabeTest::theMenuEntriesOfTheSpecialFieldsPressTheirButtons() {
     frmFKFragen* form = programm.NeuesQuizformular();
     SpezialWaehlen(form, 7, 2);
     FK_Merken();
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     auto* loeschen = Finden<QAction>(programm.haupt(), QStringLiteral("mFKSpezial(1)"));
     auto* einfuegen = Finden<QAction>(programm.haupt(), QStringLiteral("mFKSpezial(2)"));
     Dialogfolge dialoge;
@@ -348,8 +348,8 @@ void FkEingabeTest::theMenuEntriesOfTheSpecialFieldsPressTheirButtons() {
         loeschen->trigger();
         QVERIFY(dialoge.fertig());
         QCOMPARE(form->pnlSpezial.at(7)->caption(), QString());
-        QCOMPARE(FeldSpezial.at(7), std::string("G")); // the stored letter and its count stay
-        QCOMPARE(SpezialAnzahl.at(2), std::int16_t(1));
+        QCOMPARE(FKForm.FeldSpezial.at(7), std::string("G")); // the stored letter and its count stay
+        QCOMPARE(form->SpezialAnzahl[Spezialart::Glueck], std::int16_t(1));
         for (int n = 1; n <= anzahlFelder; ++n) {
             QCOMPARE(Grund(form->txtFrage.at(Nr(n))), QColor(Qt::white)); // empty cells as well
             QCOMPARE(Miniatur(programm, n), QColor(192, 192, 192));
@@ -360,33 +360,32 @@ void FkEingabeTest::theMenuEntriesOfTheSpecialFieldsPressTheirButtons() {
         QCOMPARE(form->pnlSpezial.at(7)->caption(), QStringLiteral("G"));
         QCOMPARE(Miniatur(programm, 7), QColor(0, 255, 0));
     }
-    QCOMPARE(FormGeaendert, std::int16_t(0)); // no text has changed
+    QVERIFY(!Stand.FormGeaendert); // no text has changed
 }
 
 void FkEingabeTest::aDoubleClickOnTheMiniatureBringsTheFormToTheFront() {
     Programm programm;
     const frmFKFragen* form = programm.NeuesQuizformular();
     auto* anderes = new QWidget;
-    anderes->setProperty("tag", QStringLiteral("Anderes"));
     KindfensterAufnehmen(anderes)->show();
-    KindNachVorn("Anderes");
-    QTRY_COMPARE(AktivesKind(), std::string("Anderes"));
+    KindNachVorn(anderes);
+    QTRY_COMPARE(AktivesKind(), anderes);
     maus::Doppelklicken(Finden(programm.haupt(), QStringLiteral("picJoker"), 13));
-    QTRY_COMPARE(AktivesKind(), std::string("FKFragen"));
+    QTRY_VERIFY(AktivesKind() == FKFragenOffen());
     QCOMPARE(FKFragenOffen(), form);
     anderes->parentWidget()->close();
     FK_Entladen();
-    QVERIFY(FormTyp.empty());
+    QVERIFY(Stand.FormTyp == Formart::Keine);
     maus::Doppelklicken(Finden(programm.haupt(), QStringLiteral("picSpezial"))); // touching a form makes it
     QTRY_VERIFY(FKFragenOffen() != nullptr && FKFragenOffen()->isVisible());
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("cmdFKFLaden"))->isEnabled());
 }
 
 void FkEingabeTest::aShapeThatFitsNoCounterGivesWayToTheFullBoard() {
     Programm programm;
-    AnzahlWissen = FragenProWissen = 200;
+    Spiel.AnzahlWissen = Spiel.FragenProWissen = 200;
     Dialogfolge dialoge;
     dialoge.frage(neuTitel, neuText, 6);
     dialoge.erwarte(
@@ -394,8 +393,8 @@ void FkEingabeTest::aShapeThatFitsNoCounterGivesWayToTheFullBoard() {
     QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdNeuFK")), Qt::LeftButton);
     QTRY_VERIFY(dialoge.fertig());
     QVERIFY(FKFragenOffen() != nullptr);
-    QCOMPARE(AnzahlWissen, std::int16_t(6));
-    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(6));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
 }
 
 void FkEingabeTest::thePicturesOfTheDragAreThere() {

@@ -59,7 +59,7 @@ void FkFelderTest::aMergeInBetweenReplacesTheQuestionByTheMarkerForGood() {
     SpezialWaehlen(form, 4, 1);
     Tippen(form->txtFrage.at(9), QStringLiteral("anderswo"));
     form->txtFrage.at(10)->setFocus();
-    QTRY_COMPARE(FrageText.at(9), std::string("anderswo"));
+    QTRY_COMPARE(FKForm.FrageText.at(9), std::string("anderswo"));
     SpezialWaehlen(form, 4, 0);
     QCOMPARE(form->txtFrage.at(4)->text(), std::string("----- Joker ! -----\r\n"));
 }
@@ -76,18 +76,18 @@ void FkFelderTest::aFifthJokerIsRefusedAndThePanelReadsEmpty() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(form->pnlSpezial.at(25)->caption(), QString());
     QVERIFY(form->pnlSpezial.at(25)->isVisible());
-    QCOMPARE(FeldSpezial.at(25), std::string());
-    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(4));
+    QCOMPARE(FKForm.FeldSpezial.at(25), std::string());
+    QCOMPARE(form->SpezialAnzahl[Spezialart::Joker], std::int16_t(4));
 }
 
 void FkFelderTest::withTheLimitsOffAnyNumberCanBeSet() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    OptionMaxSpezial = 0;
+    Spiel.OptionMaxSpezial = false;
     for (int n = 1; n <= 7; ++n) {
         SpezialWaehlen(form, n, 1);
     }
-    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(7));
+    QCOMPARE(form->SpezialAnzahl[Spezialart::Joker], std::int16_t(7));
 }
 
 void FkFelderTest::aRefusedChangeFromJokerToTaskKeepsTheCellsLook() {
@@ -102,21 +102,21 @@ void FkFelderTest::aRefusedChangeFromJokerToTaskKeepsTheCellsLook() {
                     QStringLiteral("Akzeptiert"));
     SpezialWaehlen(form, 5, 4);
     QCOMPARE(form->pnlSpezial.at(5)->caption(), QString());
-    QCOMPARE(FeldSpezial.at(5), std::string("J"));
+    QCOMPARE(FKForm.FeldSpezial.at(5), std::string("J"));
     QCOMPARE(Grund(form->txtFrage.at(5)), QColor(255, 255, 223));
     QCOMPARE(Miniatur(programm, 5), QColor(255, 255, 0));
     FK_SpezialZaehlen(); // the next count brings the screen's "" into force
-    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(0));
+    QCOMPARE(form->SpezialAnzahl[Spezialart::Joker], std::int16_t(0));
 }
 
 void FkFelderTest::theSameLetterAgainMarksNothingAsChanged() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     SpezialWaehlen(form, 6, 2);
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    FormGeaendert = 0;
+    QVERIFY(Stand.FormGeaendert);
+    Stand.FormGeaendert = false;
     SpezialWaehlen(form, 6, 2);
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(form->pnlSpezial.at(6)->caption(), QStringLiteral("G"));
 }
 
@@ -146,16 +146,16 @@ void FkFelderTest::aChosenTitleReachesTheModelOnlyWithAMerge() {
     QTRY_VERIFY(!form->cmbWissen->isVisible());
     QVERIFY(form->pnlWissen.at(2)->isVisible());
     QCOMPARE(form->pnlWissen.at(2)->caption(), QStringLiteral("Tiere"));
-    QCOMPARE(WissenTitel.at(2), std::string("Wissen"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QCOMPARE(FKForm.WissenTitel.at(2), std::string("Wissen"));
+    QVERIFY(Stand.FormGeaendert);
     FK_Merken();
-    QCOMPARE(WissenTitel.at(2), std::string("Tiere"));
+    QCOMPARE(FKForm.WissenTitel.at(2), std::string("Tiere"));
 }
 
 void FkFelderTest::aClosedTitleTakesNoClick() {
     Programm programm;
-    OptionMaxWissen = 1;
-    AnzahlWissen = 5;
+    Spiel.OptionMaxWissen = true;
+    Spiel.AnzahlWissen = 5;
     frmFKFragen* form = programm.NeuesQuizformular();
     QTest::mouseClick(form->pnlWissen.at(6), Qt::LeftButton);
     QVERIFY(!form->cmbWissen->isVisible());
@@ -167,10 +167,10 @@ void FkFelderTest::typedTextReachesTheModelWhenTheFocusGoes() {
     FK_FelderFaerben();
     QCOMPARE(Grund(form->txtFrage.at(8)), Systemflaeche());
     Tippen(form->txtFrage.at(8), QStringLiteral("Wie heißt der Fluss?"));
-    QCOMPARE(FrageText.at(8), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QCOMPARE(FKForm.FrageText.at(8), std::string());
+    QVERIFY(Stand.FormGeaendert);
     QTest::keyClick(form->txtFrage.at(8), Qt::Key_Tab);
-    QTRY_COMPARE(FrageText.at(8), std::string("Wie heißt der Fluss?"));
+    QTRY_COMPARE(FKForm.FrageText.at(8), std::string("Wie heißt der Fluss?"));
     QVERIFY(form->txtAntwort.at(8)->hasFocus());
     QCOMPARE(Grund(form->txtFrage.at(8)), QColor(Qt::white));
     QCOMPARE(Miniatur(programm, 8), QColor(Qt::white));
@@ -180,19 +180,19 @@ void FkFelderTest::settingATextThatStandsThereMarksNothingAsChanged() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     form->txtFrage.at(1)->setText("a\r\nb");
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
     form->txtFrage.at(1)->setText("a\r\nb");
     form->txtNr->setWert("");
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     form->txtNr->setWert("3");
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void FkFelderTest::aHeadBoxMarksTheFormAndSelectsItsText() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     form->txtDatum->setText(QStringLiteral("24.12."));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     form->txtZeit->setFocus();
     form->txtDatum->setFocus();
     QTRY_COMPARE(form->txtDatum->selectedText(), QStringLiteral("24.12."));
@@ -229,11 +229,11 @@ void FkFelderTest::aCharacterOutsideTheCodePageIsReplacedAndNamed() {
 
 void FkFelderTest::framesShowOnlyWithTheirOption() {
     Programm programm;
-    OptionRahmen = 0;
+    Spiel.OptionRahmen = false;
     frmFKFragen* form = programm.NeuesQuizformular();
     SpezialWaehlen(form, 2, 1);
     QVERIFY(!form->shpFrage.at(2)->isVisible());
-    OptionRahmen = 1;
+    Spiel.OptionRahmen = true;
     FK_FelderFaerben();
     QVERIFY(form->shpFrage.at(2)->isVisible());
     QCOMPARE(form->shpFrage.at(2)->palette().color(QPalette::Window), QColor(239, 239, 0));

@@ -1,12 +1,12 @@
 // Dragging with a real mouse: from the selection dialog, from cell to cell, to and from the clipboard panels,
 // to the trash; the refusals, the questions and the pictures at the pointer.
 #include "catalogue/auswahl.h"
-#include "core/ablage.h"
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
+#include "core/programmstand.h"
 #include "core/ziehen.h"
-#include "core/zustand.h"
+#include "mainwindow/ablage.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/hilfe/dialogfolge.h"
@@ -36,7 +36,7 @@ void Fuellen(frmFKFragen* form, int n, const char* frage, const char* antwort) {
     form->txtAntwort.at(Nr(n))->setText(antwort);
     FK_Merken();
     FK_FelderFaerben();
-    FormGeaendert = 0;
+    Stand.FormGeaendert = false;
 }
 
 void BuchstabeSetzen(frmFKFragen* form, int n, const QString& buchstabe) {
@@ -129,10 +129,11 @@ void FkZiehenTest::fromTheSelectionDialogIntoAnEmptyCell() {
     QTRY_COMPARE(FK_Frage(7), frage);
     QCOMPARE(FK_Antwort(7), AuswahlAntwort());
     QVERIFY(!FK_Antwort(7).empty());
-    QCOMPARE(FrageText.at(7), frage); // merged at once
+    QCOMPARE(FKForm.FrageText.at(7), frage); // merged at once
     QCOMPARE(form->txtFrage.at(7)->palette().color(QPalette::Base), QColor(Qt::white));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(DragHerkunft, std::string("Auswahl"));
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Gezogen().herkunft, Formart::Keine);
+    QCOMPARE(Gezogen().antwort, FK_Antwort(7));
 }
 
 void FkZiehenTest::ontoAnOccupiedCellAnsweredAbbrechenNothingChanges() {
@@ -147,7 +148,7 @@ void FkZiehenTest::ontoAnOccupiedCellAnsweredAbbrechenNothingChanges() {
     QCOMPARE(FK_Frage(1), std::string("eins"));
     QCOMPARE(FK_Antwort(1), std::string("uno"));
     QCOMPARE(FK_Frage(3), std::string("drei"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkZiehenTest::ontoAnOccupiedCellAnsweredJaReplaces() {
@@ -176,8 +177,7 @@ void FkZiehenTest::aMovedQuestionTakesItsAnswerAlong() {
     QCOMPARE(FK_Antwort(14), std::string("Zwölf"));
     QCOMPARE(FK_Frage(2), std::string());
     QCOMPARE(FK_Antwort(2), std::string());
-    QCOMPARE(FrageText.at(2), std::string());
-    QCOMPARE(DragArt, std::int16_t(0));
+    QCOMPARE(FKForm.FrageText.at(2), std::string());
     QCOMPARE(form->txtFrage.at(2)->palette().color(QPalette::Base), Systemflaeche());
 }
 
@@ -189,7 +189,6 @@ void FkZiehenTest::aCopiedQuestionStaysWhereItWas() {
     QTRY_COMPARE(FK_Frage(14), std::string("Wie viele?"));
     QCOMPARE(FK_Antwort(14), std::string("Zwölf"));
     QCOMPARE(FK_Frage(2), std::string("Wie viele?"));
-    QCOMPARE(DragArt, std::int16_t(0));
 }
 
 void FkZiehenTest::theLetterStaysBehindAndTheTextsGo() {
@@ -201,7 +200,7 @@ void FkZiehenTest::theLetterStaysBehindAndTheTextsGo() {
     QTRY_COMPARE(FK_Frage(8), std::string("Glück?"));
     QCOMPARE(form->pnlSpezial.at(2)->caption(), QStringLiteral("G"));
     QCOMPARE(form->pnlSpezial.at(8)->caption(), QString());
-    QCOMPARE(FeldSpezial.at(2), std::string("G"));
+    QCOMPARE(FKForm.FeldSpezial.at(2), std::string("G"));
 }
 
 void FkZiehenTest::aJokerIsNeitherMovedNorCopied() {
@@ -212,7 +211,6 @@ void FkZiehenTest::aJokerIsNeitherMovedNorCopied() {
     dialoge.meldung(QStringLiteral("Joker kann nicht verschoben werden."), QStringLiteral("Aha"));
     maus::Druecken(form->txtFrage.at(5)->viewport(), Qt::ShiftModifier);
     QTRY_COMPARE(dialoge.offen(), 0);
-    QCOMPARE(DragHerkunft, std::string("FKFragen")); // written before the refusal
     dialoge.meldung(QStringLiteral("Joker kann nicht kopiert werden."), QStringLiteral("Aha"));
     maus::Druecken(form->txtFrage.at(5)->viewport(), Qt::ControlModifier);
     QTRY_COMPARE(dialoge.offen(), 0);
@@ -249,9 +247,9 @@ void FkZiehenTest::ctrlAndShiftTogetherStartNothing() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     Fuellen(form, 2, "bleibt", "hier");
-    DragArt = 0;
+    const Ziehwert vorher = Gezogen();
     maus::Klicken(form->txtFrage.at(2)->viewport(), Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(DragArt, std::int16_t(0));
+    QVERIFY(Gezogen() == vorher);
     QCOMPARE(AktuellesZiehBild(), ZiehBild::Keins);
     QCOMPARE(FK_Frage(2), std::string("bleibt"));
 }
@@ -265,10 +263,10 @@ void FkZiehenTest::aRefusedDropKeepsTheKindOfDragUntilTheNextPress() {
     dialoge.frage(auswahlTitel, besetzt, 2);
     maus::Ziehen(form->txtFrage.at(1), form->txtFrage.at(3), Qt::ControlModifier);
     QTRY_VERIFY(dialoge.fertig());
-    QCOMPARE(DragArt, std::int16_t(2));
+    QCOMPARE(Gezogen().art, Zugart::Kopieren);
     maus::Ziehen(form->txtFrage.at(1), form->txtFrage.at(4), Qt::ShiftModifier);
     QTRY_COMPARE(FK_Frage(4), std::string("eins"));
-    QCOMPARE(DragArt, std::int16_t(0));
+    QCOMPARE(Gezogen().art, Zugart::Verschieben);
 }
 
 void FkZiehenTest::aCellDroppedOnItselfLosesItsQuestion() {
@@ -290,7 +288,7 @@ void FkZiehenTest::aQuestionDroppedOnAJokerLiesUnderItsMarker() {
     Dialogfolge dialoge;
     dialoge.frage(auswahlTitel, besetzt, 6); // the marker counts as a question
     maus::Ziehen(form->txtFrage.at(1), form->txtFrage.at(3), Qt::ControlModifier);
-    QTRY_COMPARE(FrageText.at(3), std::string("darunter"));
+    QTRY_COMPARE(FKForm.FrageText.at(3), std::string("darunter"));
     QCOMPARE(FK_Frage(3), std::string("----- Joker ! -----\r\n"));
 }
 
@@ -316,7 +314,7 @@ void FkZiehenTest::aPressWithoutAKeyCarriesNothingOff() {
     maus::Ziehen(form->txtFrage.at(2), form->txtAntwort.at(4));
     QCOMPARE(FK_Frage(2), std::string("bleibt hier"));
     QCOMPARE(FK_Antwort(4), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkZiehenTest::parkingAQuestionByMoveAndByCopy() {
@@ -335,7 +333,6 @@ void FkZiehenTest::parkingAQuestionByMoveAndByCopy() {
     QTRY_COMPARE(AblageFrage(), std::string("parken"));
     QCOMPARE(FK_Frage(1), std::string());
     QCOMPARE(FK_Antwort(1), std::string());
-    QCOMPARE(DragArt, std::int16_t(0));
 }
 
 void FkZiehenTest::parkingOverAParkedQuestionAsks() {
@@ -378,7 +375,7 @@ void FkZiehenTest::aParkedQuestionStaysAfterItIsPlaced() {
     QCOMPARE(FK_Antwort(12), std::string("Antwort"));
     QCOMPARE(AblageFrage(), std::string("geparkt"));
     QCOMPARE(AblageAntwort(), std::string("Antwort"));
-    QCOMPARE(DragFeld, std::int16_t(0));
+    QCOMPARE(Gezogen().feld, 0);
 }
 
 void FkZiehenTest::anEmptyPanelRefusesThePress() {
@@ -425,9 +422,8 @@ void FkZiehenTest::theTrashEmptiesACellAfterItsQuestion() {
     maus::Ziehen(form->txtFrage.at(1), muell, Qt::ControlModifier);
     QTRY_COMPARE(FK_Frage(1), std::string());
     QCOMPARE(FK_Antwort(1), std::string());
-    QCOMPARE(FrageText.at(1), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(DragArt, std::int16_t(2)); // the trash resets nothing
+    QCOMPARE(FKForm.FrageText.at(1), std::string());
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void FkZiehenTest::theTrashRefusesTheSelectionDialogsOwnQuestion() {

@@ -1,13 +1,13 @@
 // What the tests of the quiz form's window share: reading its cells, choosing in its lists, typing.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "quizform/spezialfelder.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialfelder.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"

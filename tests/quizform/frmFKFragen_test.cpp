@@ -37,24 +37,24 @@ void FrmFKFragenTest::aNewFormShowsNoLetterSixWissenAndThePointsDownEachColumn()
         QCOMPARE(form->pnlWissen.at(Nr(a))->caption(), QStringLiteral("Wissen"));
     }
     QCOMPARE(form->windowTitle(), QStringLiteral(" Neues Feldkranz-Formular"));
-    QCOMPARE(FormTyp, std::string("FK"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
 }
 
 void FrmFKFragenTest::aNewFormStartsWithAnEmptyModel() {
     Programm programm;
-    FrageText.at(3) = "alt";
-    FeldSpezial.at(3) = "J";
-    WissenTitel.at(2) = "Tiere";
-    FormNr = "7";
+    FKForm.FrageText.at(3) = "alt";
+    FKForm.FeldSpezial.at(3) = "J";
+    FKForm.WissenTitel.at(2) = "Tiere";
+    FKForm.FormNr = "7";
     programm.NeuesQuizformular();
-    QCOMPARE(FrageText.at(3), std::string());
-    QCOMPARE(FeldSpezial.at(3), std::string());
-    QCOMPARE(FormNr, std::string());
+    QCOMPARE(FKForm.FrageText.at(3), std::string());
+    QCOMPARE(FKForm.FeldSpezial.at(3), std::string());
+    QCOMPARE(FKForm.FormNr, std::string());
     // The merge runs after the titles are emptied, so the stored title is the placeholder.
-    QCOMPARE(WissenTitel.at(2), std::string("Wissen"));
+    QCOMPARE(FKForm.WissenTitel.at(2), std::string("Wissen"));
 }
 
 void FrmFKFragenTest::abbrechenOnTheNewFormQuestionChangesNothing() {
@@ -66,7 +66,7 @@ void FrmFKFragenTest::abbrechenOnTheNewFormQuestionChangesNothing() {
                   2);
     QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdNeuFK")), Qt::LeftButton);
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
 }
 
@@ -84,7 +84,7 @@ void FrmFKFragenTest::aNewFormOverAChangedOneAnsweredAbbrechenKeepsIt() {
     QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdDateiFK"), 1), Qt::LeftButton);
     QCOMPARE(FKFragenOffen(), form);
     QCOMPARE(form->txtFrage.at(1)->text(), std::string("bleibt"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void FrmFKFragenTest::aNewFormOverAChangedOneAnsweredNeinDiscardsItWithoutASecondQuestion() {
@@ -101,7 +101,7 @@ void FrmFKFragenTest::aNewFormOverAChangedOneAnsweredNeinDiscardsItWithoutASecon
     QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdDateiFK"), 1), Qt::LeftButton);
     QVERIFY(dialoge.fertig());
     QCOMPARE(FK_Frage(1), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FrmFKFragenTest::theGeometryFollowsTheSizeClass_data() {
@@ -146,8 +146,8 @@ void FrmFKFragenTest::theWindowStandsWhereTheScreenWidthPutsIt() {
 
 void FrmFKFragenTest::thePatternOfTwoQuestionsLeavesTwelveCells() {
     Programm programm;
-    OptionMaxFelder = 1;
-    FragenProWissen = 2;
+    Spiel.OptionMaxFelder = true;
+    Spiel.FragenProWissen = 2;
     const frmFKFragen* form = programm.NeuesQuizformular();
     QCOMPARE(SichtbareZellen(form), (std::vector<int>{2, 4, 7, 9, 12, 14, 17, 19, 22, 24, 27, 29}));
     QVERIFY(form->pnlPunkte.at(2)->isVisible());
@@ -156,8 +156,8 @@ void FrmFKFragenTest::thePatternOfTwoQuestionsLeavesTwelveCells() {
 
 void FrmFKFragenTest::withOneQuestionNoPointsPanelShows() {
     Programm programm;
-    OptionMaxFelder = 1;
-    FragenProWissen = 1;
+    Spiel.OptionMaxFelder = true;
+    Spiel.FragenProWissen = 1;
     const frmFKFragen* form = programm.NeuesQuizformular();
     QCOMPARE(SichtbareZellen(form), (std::vector<int>{3, 8, 13, 18, 23, 28}));
     for (int n = 1; n <= anzahlFelder; ++n) {
@@ -171,13 +171,13 @@ void FrmFKFragenTest::withTheRuleOffAllThirtyCellsStay() {
     frmFKFragen* form = programm.NeuesQuizformular();
     Tippen(form->txtFrage.at(2), QStringLiteral("steht"));
     FK_Merken();
-    OptionMaxFelder = 0;
-    FragenProWissen = 3;
+    Spiel.OptionMaxFelder = false;
+    Spiel.FragenProWissen = 3;
     FK_AlleFelderZeigen();
     FK_FragenRegel();
     FK_WissenRegel();
     QCOMPARE(SichtbareZellen(form).size(), std::size_t(30));
-    QCOMPARE(FrageText.at(2), std::string("steht"));
+    QCOMPARE(FKForm.FrageText.at(2), std::string("steht"));
 }
 
 void FrmFKFragenTest::fourAreasCloseTheLastTwoTitles() {
@@ -186,8 +186,8 @@ void FrmFKFragenTest::fourAreasCloseTheLastTwoTitles() {
     form->pnlWissen.at(5)->setCaption(QStringLiteral("Tiere"));
     form->txtFrage.at(21)->setText("geht");
     FK_Merken();
-    OptionMaxWissen = 1;
-    AnzahlWissen = 4;
+    Spiel.OptionMaxWissen = true;
+    Spiel.AnzahlWissen = 4;
     FK_AlleFelderZeigen();
     FK_WissenRegel();
     QCOMPARE(form->pnlWissen.at(5)->caption(), QStringLiteral("Wissen"));
@@ -195,17 +195,17 @@ void FrmFKFragenTest::fourAreasCloseTheLastTwoTitles() {
     QVERIFY(!form->pnlWissen.at(5)->isEnabled());
     QVERIFY(form->pnlWissen.at(4)->isEnabled());
     QCOMPARE(SichtbareZellen(form).back(), 20);
-    QCOMPARE(FrageText.at(21), std::string());
-    QCOMPARE(WissenTitel.at(5), std::string("Tiere")); // in the model only at the next merge
+    QCOMPARE(FKForm.FrageText.at(21), std::string());
+    QCOMPARE(FKForm.WissenTitel.at(5), std::string("Tiere")); // in the model only at the next merge
     FK_Merken();
-    QCOMPARE(WissenTitel.at(5), std::string("Wissen"));
+    QCOMPARE(FKForm.WissenTitel.at(5), std::string("Wissen"));
 }
 
 void FrmFKFragenTest::bothRulesTogetherLeaveEightCells() {
     Programm programm;
-    OptionMaxFelder = OptionMaxWissen = 1;
-    FragenProWissen = 4;
-    AnzahlWissen = 2;
+    Spiel.OptionMaxFelder = Spiel.OptionMaxWissen = true;
+    Spiel.FragenProWissen = 4;
+    Spiel.AnzahlWissen = 2;
     QCOMPARE(SichtbareZellen(programm.NeuesQuizformular()), (std::vector<int>{1, 2, 4, 5, 6, 7, 9, 10}));
 }
 
@@ -216,13 +216,13 @@ void FrmFKFragenTest::hiddenCellsLoseTheirContentsForGood() {
     form->txtAntwort.at(3)->setText("Antwort drei");
     form->pnlSpezial.at(3)->setCaption(QStringLiteral("G"));
     FK_Merken();
-    OptionMaxFelder = 1;
-    FragenProWissen = 4;
+    Spiel.OptionMaxFelder = true;
+    Spiel.FragenProWissen = 4;
     FK_FragenRegel();
-    QCOMPARE(FrageText.at(3), std::string());
-    QCOMPARE(AntwortText.at(3), std::string());
-    QCOMPARE(FeldSpezial.at(3), std::string());
-    FragenProWissen = 5;
+    QCOMPARE(FKForm.FrageText.at(3), std::string());
+    QCOMPARE(FKForm.AntwortText.at(3), std::string());
+    QCOMPARE(FKForm.FeldSpezial.at(3), std::string());
+    Spiel.FragenProWissen = 5;
     FK_FragenRegel();
     QVERIFY(form->txtFrage.at(3)->isVisible());
     QCOMPARE(form->txtFrage.at(3)->text(), std::string());

@@ -1,80 +1,70 @@
 #include "quizform/feldbild.h"
-#include "quizform/spezialfelder.h"
-#include "quizform/texte.h"
-#include "settings/einstellungen.h"
+#include "rules/spezialarten.h"
+#include "rules/spezialfelder.h"
+#include "rules/spielwerte.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace {
 
-class Spezialfelder : public testing::Test {
-protected:
-    void SetUp() override {
-        FelderA = FelderE = FelderG = FelderR = 2;
-        FelderJ = 4;
-        PunkteA = 7;
-        PunkteE = 10;
-        PunkteG = 12;
-        PunkteJ = 5;
-        PunkteR = 9;
-        RegelTaste = 0;
-        RegelHinweis = 0;
-        SpezialAnzahl.fill(0);
-    }
+// Two of each kind but four Jokers, with points of their own.
+Spielwerte Werte() {
+    Spielwerte werte;
+    werte.Felder = {2, 2, 2, 4, 2};
+    werte.Punkte = {7, 10, 12, 5, 9};
+    return werte;
+}
 
-    static void Zaehle(std::initializer_list<std::string> buchstaben) {
-        std::array<std::string, anzahlFelder + 1> felder;
-        std::size_t n = 1;
-        for (const auto& buchstabe : buchstaben) {
-            felder.at(n++) = buchstabe;
-        }
-        SpezialAnzahlZaehlen(felder);
-    }
-};
+Artwerte Gezaehlt(const std::vector<std::string>& buchstaben) {
+    return SpezialAnzahl(buchstaben);
+}
+
+constexpr std::array arten{Spezialart::Aktion, Spezialart::Ereignis, Spezialart::Glueck, Spezialart::Joker,
+                           Spezialart::Risiko};
 
 } // namespace
 
-TEST_F(Spezialfelder, TheLetterOfAListEntryIsItsFirstTwoCharactersTrimmed) {
+TEST(Spezialfelder, TheLetterOfAListEntryIsItsFirstTwoCharactersTrimmed) {
     const std::array<std::string, 6> erwartet{"", "J", "G", "R", "A", "E"};
-    for (std::size_t i = 0; i < spezialListe.size(); ++i) {
-        EXPECT_EQ(SpezialBuchstabe(spezialListe.at(i)), erwartet.at(i));
+    ASSERT_EQ(Spezialliste().size(), erwartet.size());
+    for (std::size_t i = 0; i < erwartet.size(); ++i) {
+        EXPECT_EQ(SpezialBuchstabe(Spezialliste().at(i)), erwartet.at(i));
     }
 }
 
-TEST_F(Spezialfelder, CountsEveryKindAndNothingElse) {
-    Zaehle({"A", "J", "J", "", "X", "R", "G", "E", "J"});
-    EXPECT_EQ(SpezialAnzahl, (std::array<std::int16_t, 6>{1, 1, 1, 3, 1, 0}));
+TEST(Spezialfelder, CountsEveryKindAndNothingElse) {
+    EXPECT_EQ(Gezaehlt({"A", "J", "J", "", "X", "R", "G", "E", "J"}), (Artwerte{1, 1, 1, 3, 1}));
 }
 
-TEST_F(Spezialfelder, AFifthJokerIsRefusedWithFourAllowed) {
-    Zaehle({"J", "J", "J", "J"});
-    EXPECT_TRUE(GrenzeErreicht(SpezialIndex("J")));
-    EXPECT_EQ(Einsetzen(fktexte::grenze.at(3).text, {std::to_string(FelderGrenze(3))}),
+TEST(Spezialfelder, AFifthJokerIsRefusedWithFourAllowed) {
+    const Artwerte anzahl = Gezaehlt({"J", "J", "J", "J"});
+    EXPECT_TRUE(GrenzeErreicht(Werte(), Spezialart::Joker, anzahl[Spezialart::Joker]));
+    EXPECT_EQ(Einsetzen(ArtzeileVon(Spezialart::Joker).grenze.text, {"4"}),
               "Wir wollten uns an die Spielregeln halten -\r\n"
               "Die maximale Anzahl von 4 Jokern wurde bereits erreicht !");
 }
 
-TEST_F(Spezialfelder, AboveTheLimitAFurtherGIsLetThroughButAFurtherAIsRefused) {
-    Zaehle({"G", "G", "G", "A", "A", "A", "E", "E", "E", "R", "R", "R"});
-    EXPECT_FALSE(GrenzeErreicht(SpezialIndex("G")));
-    EXPECT_FALSE(GrenzeErreicht(SpezialIndex("R")));
-    EXPECT_TRUE(GrenzeErreicht(SpezialIndex("A")));
-    EXPECT_TRUE(GrenzeErreicht(SpezialIndex("E")));
+TEST(Spezialfelder, AboveTheLimitAFurtherGIsLetThroughButAFurtherAIsRefused) {
+    EXPECT_FALSE(GrenzeErreicht(Werte(), Spezialart::Glueck, 3));
+    EXPECT_FALSE(GrenzeErreicht(Werte(), Spezialart::Risiko, 3));
+    EXPECT_TRUE(GrenzeErreicht(Werte(), Spezialart::Aktion, 3));
+    EXPECT_TRUE(GrenzeErreicht(Werte(), Spezialart::Ereignis, 3));
 }
 
-TEST_F(Spezialfelder, AtTheLimitEveryKindIsRefusedAndBelowNone) {
-    for (int art = 0; art < anzahlArten; ++art) {
-        SpezialAnzahl.at(static_cast<std::size_t>(art)) = FelderGrenze(art);
-        EXPECT_TRUE(GrenzeErreicht(art)) << art;
-        SpezialAnzahl.at(static_cast<std::size_t>(art)) = static_cast<std::int16_t>(FelderGrenze(art) - 1);
-        EXPECT_FALSE(GrenzeErreicht(art)) << art;
+TEST(Spezialfelder, AtTheLimitEveryKindIsRefusedAndBelowNone) {
+    for (const Spezialart art : arten) {
+        const std::int16_t grenze = Werte().Felder[art];
+        EXPECT_TRUE(GrenzeErreicht(Werte(), art, grenze)) << ArtzeileVon(art).name;
+        EXPECT_FALSE(GrenzeErreicht(Werte(), art, static_cast<std::int16_t>(grenze - 1)))
+            << ArtzeileVon(art).name;
     }
 }
 
-TEST_F(Spezialfelder, PointsPanelOfEachKind) {
+TEST(Spezialfelder, PointsPanelOfEachKind) {
     struct Reihe {
         std::string buchstabe;
         std::string caption;
@@ -85,51 +75,39 @@ TEST_F(Spezialfelder, PointsPanelOfEachKind) {
          {Reihe{"J", "5", Farbe{255, 255, 0}, farbeSchwarz}, Reihe{"E", "10", Farbe{255, 127, 0}, farbeWeiss},
           Reihe{"G", "12", Farbe{0, 255, 0}, farbeSchwarz}, Reihe{"R", "..", Farbe{255, 0, 0}, farbeWeiss},
           Reihe{"A", "3", Farbe{0, 0, 255}, farbeGelb}, Reihe{"", "3", std::nullopt, farbeSchwarz}}) {
-        const PunkteBild bild = PunkteBildFuer(zeile.buchstabe, 3);
+        const PunkteBild bild = PunkteBildFuer(Werte(), zeile.buchstabe, 3);
         EXPECT_EQ(bild.caption, zeile.caption) << zeile.buchstabe;
         EXPECT_EQ(bild.grund, zeile.grund) << zeile.buchstabe;
         EXPECT_EQ(bild.schrift, zeile.schrift) << zeile.buchstabe;
     }
 }
 
-TEST_F(Spezialfelder, APlainCellWorthFourShowsFourOnSystemFace) {
-    const PunkteBild bild = PunkteBildFuer("", 4);
+TEST(Spezialfelder, APlainCellWorthFourShowsFourOnSystemFace) {
+    const PunkteBild bild = PunkteBildFuer(Werte(), "", 4);
     EXPECT_EQ(bild.caption, "4");
     EXPECT_FALSE(bild.grund.has_value());
 }
 
-TEST_F(Spezialfelder, BuiltInValues) {
-    FK_Vorgaben();
-    EXPECT_EQ(VorgabePunkte, (std::array<std::int16_t, 5>{5, 10, 10, 5, 0}));
-    EXPECT_EQ(VorgabeFelder, (std::array<std::int16_t, 5>{2, 2, 2, 4, 2}));
+TEST(Spezialfelder, BuiltInValues) {
+    EXPECT_EQ(werkPunkte, (Artwerte{5, 10, 10, 5, 0}));
+    EXPECT_EQ(werkFelder, (Artwerte{2, 2, 2, 4, 2}));
 }
 
-TEST_F(Spezialfelder, TheHintNeverSpeaksSinceNothingSetsItsKey) {
-    FK_Vorgaben();
-    Zaehle({"A", "A", "J", "J", "J", "J"});
-    EXPECT_EQ(FaelligerRegelHinweis(), -1);
-    EXPECT_EQ(RegelHinweis, 0);
+TEST(Spezialfelder, TheHintNeverSpeaksSinceNothingSetsItsKey) {
+    EXPECT_EQ(FaelligerRegelHinweis('\0', Gezaehlt({"A", "A", "J", "J", "J", "J"})), std::nullopt);
 }
 
-TEST_F(Spezialfelder, WithItsKeySetTheHintIsDueOnceAndOnlyAtTheLimit) {
-    FK_Vorgaben();
-    Zaehle({"A", "A"});
-    RegelTaste = 'A';
-    EXPECT_EQ(FaelligerRegelHinweis(), 0);
-    EXPECT_EQ(RegelTaste, 0);
-    EXPECT_EQ(RegelHinweis, 1);
-    EXPECT_EQ(FaelligerRegelHinweis(), -1);
-    VorgabeFelder.fill(0);
-    Zaehle({});
-    RegelTaste = 'E';
-    EXPECT_EQ(FaelligerRegelHinweis(), -1) << "no Ereignis, no hint";
+TEST(Spezialfelder, WithItsKeySetTheHintIsDueOnlyAtTheLimit) {
+    EXPECT_EQ(FaelligerRegelHinweis('A', Gezaehlt({"A", "A"})), Spezialart::Aktion);
+    EXPECT_EQ(FaelligerRegelHinweis('A', Gezaehlt({"A"})), std::nullopt);
+    EXPECT_EQ(FaelligerRegelHinweis('E', Gezaehlt({})), std::nullopt) << "no Ereignis, no hint";
 }
 
-TEST_F(Spezialfelder, TheTipNamesTheLimitsInForce) {
-    EXPECT_EQ(fktexte::SpezialTipp(), "Spezialfeld mit Linksklick auswählen\r\n\r\n"
-                                      "mögliche Anzahl von Spezialfeldern :\r\n"
-                                      "- 4 Jokerfelder\r\n- 2 Glücksfragen\r\n- 2 Risikofragen\r\n"
-                                      "- 2 Aufgaben\r\n- 2 Ereignisfelder\r\n");
+TEST(Spezialfelder, TheTipNamesTheLimitsInForce) {
+    EXPECT_EQ(SpezialTipp(Werte()), "Spezialfeld mit Linksklick auswählen\r\n\r\n"
+                                    "mögliche Anzahl von Spezialfeldern :\r\n"
+                                    "- 4 Jokerfelder\r\n- 2 Glücksfragen\r\n- 2 Risikofragen\r\n"
+                                    "- 2 Aufgaben\r\n- 2 Ereignisfelder\r\n");
 }
 
 TEST(Feldbild, LookOfEachLetter) {

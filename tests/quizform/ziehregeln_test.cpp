@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace {
 
 struct Druck {
-    bool umschalt;
-    bool strg;
-    bool alt;
+    bool umschalt; // else Strg
     std::string buchstabe;
     bool leer;
-    int art;
+    std::optional<Zugart> art;
     std::string nummer; // "" for no refusal
     std::string text;
     std::string taste;
@@ -22,23 +21,23 @@ struct Druck {
 
 TEST(Ziehregeln, WhatEachPressStarts) {
     const std::vector<Druck> reihen{
-        {true, false, false, "J", false, 0, "39", "Joker kann nicht verschoben werden.", "Aha"},
-        {true, false, false, "E", true, 0, "49", "Ereignis kann nicht verschoben werden.", "Aha"},
-        {true, false, false, "", true, 0, "59", "Keine Frage zum Verschieben vorhanden.", "Ach ja ..."},
-        {false, true, false, "J", false, 0, "69", "Joker kann nicht kopiert werden.", "Aha"},
-        {false, true, false, "E", false, 0, "79", "Ereignis kann nicht kopiert werden.", "Aha"},
-        {false, true, false, "G", true, 0, "89", "Keine Frage zum Kopieren vorhanden.", "Ach ja ..."},
-        {true, false, false, "", false, 1, "", "", ""},
-        {true, false, false, "R", false, 1, "", "", ""},
-        {false, true, false, "A", false, 2, "", "", ""},
-        {false, true, false, "G", false, 2, "", "", ""},
+        {true, "J", false, {}, "39", "Joker kann nicht verschoben werden.", "Aha"},
+        {true, "E", true, {}, "49", "Ereignis kann nicht verschoben werden.", "Aha"},
+        {true, "", true, {}, "59", "Keine Frage zum Verschieben vorhanden.", "Ach ja ..."},
+        {false, "J", false, {}, "69", "Joker kann nicht kopiert werden.", "Aha"},
+        {false, "E", false, {}, "79", "Ereignis kann nicht kopiert werden.", "Aha"},
+        {false, "G", true, {}, "89", "Keine Frage zum Kopieren vorhanden.", "Ach ja ..."},
+        {true, "", false, Zugart::Verschieben, "", "", ""},
+        {true, "R", false, Zugart::Verschieben, "", "", ""},
+        {false, "A", false, Zugart::Kopieren, "", "", ""},
+        {false, "G", false, Zugart::Kopieren, "", "", ""},
     };
     for (const auto& reihe : reihen) {
-        const ZiehBeginn beginn =
-            ZiehBeginnFuer(reihe.umschalt, reihe.strg, reihe.alt, reihe.buchstabe, reihe.leer);
+        const Ziehbeginn beginn =
+            FeldZiehbeginn(ZugartFuer(reihe.umschalt, !reihe.umschalt, false), reihe.buchstabe, reihe.leer);
         EXPECT_EQ(beginn.art, reihe.art) << reihe.text;
-        ASSERT_EQ(beginn.ablehnung != nullptr, !reihe.nummer.empty()) << reihe.text;
-        if (beginn.ablehnung != nullptr) {
+        ASSERT_EQ(beginn.ablehnung.has_value(), !reihe.nummer.empty()) << reihe.text;
+        if (beginn.ablehnung) {
             EXPECT_EQ(beginn.ablehnung->nummer, reihe.nummer);
             EXPECT_EQ(beginn.ablehnung->text, reihe.text);
             EXPECT_EQ(beginn.ablehnung->taste, reihe.taste);
@@ -56,9 +55,9 @@ TEST(Ziehregeln, CtrlAndShiftTogetherOrAltOrNoneStartNothing) {
                                                    {false, false, true},
                                                    {false, false, false}}) {
         for (const char* buchstabe : {"", "J", "E"}) {
-            const ZiehBeginn beginn = ZiehBeginnFuer(umschalt, strg, alt, buchstabe, false);
-            EXPECT_EQ(beginn.art, 0);
-            EXPECT_EQ(beginn.ablehnung, nullptr);
+            const Ziehbeginn beginn = FeldZiehbeginn(ZugartFuer(umschalt, strg, alt), buchstabe, false);
+            EXPECT_EQ(beginn.art, std::nullopt);
+            EXPECT_FALSE(beginn.ablehnung);
         }
     }
 }

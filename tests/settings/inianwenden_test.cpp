@@ -15,11 +15,12 @@ const QString drei = QStringLiteral("Ich soll drei Fragen pro Wissensgebiet anle
 // Whether the cell has lost, or kept, all it held.
 bool Leer(const frmFKFragen* form, int n) {
     return form->txtFrage.at(Nr(n))->text().empty() && form->txtAntwort.at(Nr(n))->text().empty() &&
-           FrageText.at(Nr(n)).empty() && AntwortText.at(Nr(n)).empty() && FeldSpezial.at(Nr(n)).empty();
+           FKForm.FrageText.at(Nr(n)).empty() && FKForm.AntwortText.at(Nr(n)).empty() &&
+           FKForm.FeldSpezial.at(Nr(n)).empty();
 }
 bool Ganz(const frmFKFragen* form, int n) {
     return form->txtFrage.at(Nr(n))->text() == "Frage " + std::to_string(n) &&
-           AntwortText.at(Nr(n)) == "Antwort " + std::to_string(n);
+           FKForm.AntwortText.at(Nr(n)) == "Antwort " + std::to_string(n);
 }
 
 // Rows that a number of questions leaves, written down apart from the program.
@@ -53,7 +54,7 @@ private Q_SLOTS:
 void IniAnwendenTest::fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuestions() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     BrettFuellen(form);
     MitOK(programm, [form](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelFragen, vier, 1);
@@ -74,7 +75,7 @@ void IniAnwendenTest::fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuesti
 void IniAnwendenTest::fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackEmpty() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(3, 6, 1, 1);
+    Form(3, 6, true, true);
     BrettFuellen(form);
     FK_FragenRegel();
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
@@ -91,13 +92,13 @@ void IniAnwendenTest::fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackE
 void IniAnwendenTest::withTheRuleOffAndTwoQuestionsAllThirtyCellsStand() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(2, 6, 1, 1);
+    Form(2, 6, true, true);
     FK_FragenRegel();
     QCOMPARE(SichtbareZellen(form).size(), std::size_t(12));
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 5);
         DruckeWahl(dialog, QStringLiteral("chkMaxFelder"));
-        QCOMPARE(OptionMaxFelder, std::int16_t(0));
+        QVERIFY(!Spiel.OptionMaxFelder);
     });
     QCOMPARE(SichtbareZellen(form).size(), std::size_t(30));
     BrettFuellen(form);
@@ -115,7 +116,7 @@ void IniAnwendenTest::applyingShapesTheBoardForEveryNumberOfQuestionsAndAreas() 
         for (int wissen = 1; wissen <= 6; ++wissen) {
             FK_AlleFelderZeigen();
             BrettFuellen(form);
-            Form(fragen, wissen, 1, 1);
+            Form(fragen, wissen, true, true);
             MitOK(programm, [](QDialog&, Dialogfolge&) {});
             for (int n = 1; n <= anzahlFelder; ++n) {
                 const bool bleibt = GebietVon(n) <= wissen && ZeileSollBleiben(fragen, ZeileVon(n));
@@ -137,7 +138,7 @@ void IniAnwendenTest::applyingShapesTheBoardForEveryNumberOfQuestionsAndAreas() 
 void IniAnwendenTest::applyingWithTheAreasRuleOffOpensTheTitlesAgain() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 3, 1, 1);
+    Form(5, 3, true, true);
     form->pnlWissen.at(5)->setCaption(QStringLiteral("Tiere"));
     MitOK(programm, [](QDialog&, Dialogfolge&) {});
     QVERIFY(!form->pnlWissen.at(5)->isEnabled());
@@ -164,29 +165,26 @@ void IniAnwendenTest::nothingReachesTheSettingsBeforeItIsApplied() {
             Drehe(dialog, QStringLiteral("spnPunkteV"), art, true);
             Drehe(dialog, QStringLiteral("spnFelderV"), art, false);
         }
-        QCOMPARE(PunkteA, std::int16_t(5));
-        QCOMPARE(FelderJ, std::int16_t(4));
-        QCOMPARE(PunkteVG, std::int16_t(10));
-        QCOMPARE(FelderVR, std::int16_t(2));
+        QCOMPARE(Spiel.Punkte[Spezialart::Aktion], std::int16_t(5));
+        QCOMPARE(Spiel.Felder[Spezialart::Joker], std::int16_t(4));
+        QCOMPARE(Spiel.PunkteV[Spezialart::Glueck], std::int16_t(10));
+        QCOMPARE(Spiel.FelderV[Spezialart::Risiko], std::int16_t(2));
     });
-    const QList<int> punkte{PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR};
-    const QList<int> felder{FelderA, FelderE, FelderG, FelderJ, FelderR};
-    const QList<int> punkteV{PunkteVA, PunkteVE, PunkteVG, PunkteVJ, PunkteVR};
-    QCOMPARE(punkte, (QList<int>{6, 11, 11, 6, 1}));
-    QCOMPARE(felder, (QList<int>{1, 1, 1, 3, 1}));
-    QCOMPARE(punkteV, punkte);
-    QCOMPARE(FelderVA, std::int16_t(1));
-    QCOMPARE(FelderVE.value_or(""), std::string("1"));
-    QCOMPARE(FelderVJ, std::int16_t(3));
+    QCOMPARE(Spiel.Punkte, (Artwerte{6, 11, 11, 6, 1}));
+    QCOMPARE(Spiel.Felder, (Artwerte{1, 1, 1, 3, 1}));
+    QCOMPARE(Spiel.PunkteV, Spiel.Punkte);
+    QCOMPARE(Spiel.FelderV[Spezialart::Aktion], std::int16_t(1));
+    QCOMPARE(Spiel.FelderVE.value_or(""), std::string("1"));
+    QCOMPARE(Spiel.FelderV[Spezialart::Joker], std::int16_t(3));
 }
 
 void IniAnwendenTest::applyingMarksTheFormAndRefreshesPointsCountsAndTips() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     SpezialWaehlen(form, 2, 1);
     SpezialWaehlen(form, 8, 1);
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("5"));
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         Register(dialog, 0);
@@ -196,10 +194,11 @@ void IniAnwendenTest::applyingMarksTheFormAndRefreshesPointsCountsAndTips() {
         dialoge.frage(titelFragen, vier, 1);
         Druecke(dialog, "cmdFragenMinus");
     });
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
     QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("6"));
-    QCOMPARE(SpezialAnzahl.at(3), std::int16_t(1)); // the Joker on the third row has gone
+    QCOMPARE(SpezialAnzahl(FKForm.FeldSpezial)[Spezialart::Joker],
+             std::int16_t(1)); // the Joker on the third row has gone
     QCOMPARE(Miniatur(programm, 8), Systemflaeche());
     QVERIFY(form->pnlSpezial.at(1)->toolTip().contains(QStringLiteral("- 3 Jokerfelder")));
     QCOMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlFKFelder"))->caption(),
@@ -209,7 +208,7 @@ void IniAnwendenTest::applyingMarksTheFormAndRefreshesPointsCountsAndTips() {
 void IniAnwendenTest::applyingBringsABlankedFormsQuestionsBack() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     BrettFuellen(form);
     FK_FragenLoeschen();
     QVERIFY(form->txtFrage.at(17)->text().empty());
@@ -240,13 +239,13 @@ void IniAnwendenTest::enterAppliesButNotFromASpin() {
                      }});
     QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdIni")), Qt::LeftButton);
     QVERIFY(nochDa);
-    QCOMPARE(FelderVA, std::int16_t(3)); // applied
+    QCOMPARE(Spiel.FelderV[Spezialart::Aktion], std::int16_t(3)); // applied
 }
 
 void IniAnwendenTest::anOpenListGoesWithTheBoardItStoodOver() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 4, 1, 1);
+    Form(5, 4, true, true);
     QTest::mouseClick(form->pnlSpezial.at(28), Qt::LeftButton);
     QTRY_VERIFY(form->cmbSpezial->isVisible());
     form->cmbSpezial->hidePopup();
@@ -258,9 +257,9 @@ void IniAnwendenTest::anOpenListGoesWithTheBoardItStoodOver() {
 void IniAnwendenTest::cancellingPutsTheFiveValuesBackAndDropsTheEdits() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     BrettFuellen(form);
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelFragen, vier, 1);
         Druecke(dialog, "cmdFragenMinus");
@@ -270,16 +269,16 @@ void IniAnwendenTest::cancellingPutsTheFiveValuesBackAndDropsTheEdits() {
         for (const char* name : {"chkMaxFelder", "chkMaxWissen", "chkMaxSpezial"}) {
             DruckeWahl(dialog, QLatin1String(name));
         }
-        QCOMPARE(OptionMaxWissen, std::int16_t(0));
+        QVERIFY(!Spiel.OptionMaxWissen);
     });
-    QCOMPARE(FragenProWissen, std::int16_t(5));
-    QCOMPARE(AnzahlWissen, std::int16_t(6));
-    QCOMPARE(FelderGesamt, std::int16_t(30));
-    QCOMPARE(OptionMaxFelder, std::int16_t(1));
-    QCOMPARE(OptionMaxWissen, std::int16_t(1));
-    QCOMPARE(OptionMaxSpezial, std::int16_t(1));
-    QCOMPARE(FelderG, std::int16_t(2));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(6));
+    QCOMPARE(Spiel.FelderGesamt, std::int16_t(30));
+    QVERIFY(Spiel.OptionMaxFelder);
+    QVERIFY(Spiel.OptionMaxWissen);
+    QVERIFY(Spiel.OptionMaxSpezial);
+    QCOMPARE(Spiel.Felder[Spezialart::Glueck], std::int16_t(2));
+    QVERIFY(!Stand.FormGeaendert);
     QVERIFY(Ganz(form, 3));
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         QCOMPARE(Zahlen(dialog, QStringLiteral("pnlFelder")), QStringList({"2", "2", "2", "4", "2"}));
@@ -289,7 +288,7 @@ void IniAnwendenTest::cancellingPutsTheFiveValuesBackAndDropsTheEdits() {
 void IniAnwendenTest::abbrechenAnsweredAbbrechenKeepsTheDialogWithAllItsEdits() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         Drehe(dialog, QStringLiteral("spnPunkteV"), 3, true);
         dialoge.frage(titelFragen, vier, 1);
@@ -299,20 +298,19 @@ void IniAnwendenTest::abbrechenAnsweredAbbrechenKeepsTheDialogWithAllItsEdits() 
         QVERIFY(dialog.isVisible());
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlPunkteV(3)")), QStringLiteral("6"));
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("4"));
-        QCOMPARE(FragenProWissen, std::int16_t(4));
-        NachrichtAntwort = 6;
+        QCOMPARE(Spiel.FragenProWissen, std::int16_t(4));
         dialoge.erwarte(
             {QStringLiteral("frmNachricht"), verwerfenTitel + u' ', verwerfenFrage, {durchRahmen}});
         Druecke(dialog, "cmdAbbrechen");
         QVERIFY(dialog.isVisible());
     });
-    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
 }
 
 void IniAnwendenTest::escapeAndTheFrameAreTheCancelButton() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     ImDialog(programm,
              [](QDialog& dialog, Dialogfolge& dialoge) {
                  dialoge.frage(verwerfenTitel, verwerfenFrage, 2);
@@ -321,22 +319,22 @@ void IniAnwendenTest::escapeAndTheFrameAreTheCancelButton() {
                  dialoge.frage(verwerfenTitel, verwerfenFrage, 2);
                  dialog.close();
                  QVERIFY(dialog.isVisible());
-                 FragenProWissen = 2;
+                 Spiel.FragenProWissen = 2;
                  dialoge.frage(verwerfenTitel, verwerfenFrage, 6);
              },
              {durchRahmen});
-    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
 }
 
 void IniAnwendenTest::tickingARuleNamesTheCountAndOKKeepsTheTick() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
-    Form(5, 2, 0, 0);
+    Form(5, 2, false, false);
     BrettFuellen(form);
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         Register(dialog, 5);
         DruckeWahl(dialog, QStringLiteral("chkMaxFelder")); // a full column: nothing to ask
-        QCOMPARE(OptionMaxFelder, std::int16_t(1));
+        QVERIFY(Spiel.OptionMaxFelder);
         dialoge.frage(QStringLiteral("Spielregeln einhalten"),
                       QStringLiteral("Du hast die Anzahl der Wissensgebiete auf  [ 2 ]  begrenzt.\n"
                                      "Wenn Du die Spielregeln einhalten willst, muß ich\n"
@@ -345,7 +343,7 @@ void IniAnwendenTest::tickingARuleNamesTheCountAndOKKeepsTheTick() {
         DruckeWahl(dialog, QStringLiteral("chkMaxWissen"));
         QVERIFY(Finden<QCheckBox>(&dialog, QStringLiteral("chkMaxWissen"))->isChecked());
     });
-    QCOMPARE(OptionMaxWissen, std::int16_t(1));
+    QVERIFY(Spiel.OptionMaxWissen);
     QCOMPARE(SichtbareZellen(form).size(), std::size_t(10));
     QVERIFY(Leer(form, 11));
 }

@@ -258,7 +258,7 @@ void IniDarstellungTest::theGapStaysInForceWhenTheDialogIsCancelled() {
         Register(dialog, 1);
         DruckeWahl(dialog, QStringLiteral("optZwischen(2)"));
     });
-    QCOMPARE(Zwischenabstand, 1.5F);
+    QCOMPARE(Spiel.Zwischenabstand, 1.5F);
 }
 
 void IniDarstellungTest::everyGapIsSetByItsOption() {
@@ -269,11 +269,11 @@ void IniDarstellungTest::everyGapIsSetByItsOption() {
         Register(dialog, 1);
         for (const int i : {4, 3, 2, 1, 0}) {
             DruckeWahl(dialog, QStringLiteral("optZwischen(%1)").arg(i));
-            QCOMPARE(Zwischenabstand, soll.at(Nr(i)));
+            QCOMPARE(Spiel.Zwischenabstand, soll.at(Nr(i)));
         }
     });
     for (int i = 0; i < 5; ++i) {
-        Zwischenabstand = soll.at(Nr(i));
+        Spiel.Zwischenabstand = soll.at(Nr(i));
         MitAbbrechen(programm, [i](QDialog& dialog, Dialogfolge&) {
             for (int j = 0; j < 5; ++j) {
                 QCOMPARE(Finden<QRadioButton>(&dialog, QStringLiteral("optZwischen"), j)->isChecked(),
@@ -286,18 +286,18 @@ void IniDarstellungTest::everyGapIsSetByItsOption() {
 void IniDarstellungTest::aGapOfSevenTenthsChoosesNoneAndStaysUntilAClick() {
     Programm programm;
     programm.NeuesQuizformular();
-    Zwischenabstand = 0.7F;
+    Spiel.Zwischenabstand = 0.7F;
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         for (int i = 0; i < 5; ++i) {
             QVERIFY(!Finden<QRadioButton>(&dialog, QStringLiteral("optZwischen"), i)->isChecked());
         }
     });
-    QCOMPARE(Zwischenabstand, 0.7F);
+    QCOMPARE(Spiel.Zwischenabstand, 0.7F);
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 1);
         DruckeWahl(dialog, QStringLiteral("optZwischen(1)"));
     });
-    QCOMPARE(Zwischenabstand, 1.0F);
+    QCOMPARE(Spiel.Zwischenabstand, 1.0F);
 }
 
 void IniDarstellungTest::thePaperFollowsItsOptionAndShowsItsSheetAlone() {
@@ -311,19 +311,19 @@ void IniDarstellungTest::thePaperFollowsItsOptionAndShowsItsSheetAlone() {
         QVERIFY(Gewaehlt(dialog, "optDrucken(1)"));
         QVERIFY(blatt(1) && !blatt(0));
         DruckeWahl(dialog, QStringLiteral("optDrucken(0)"));
-        QCOMPARE(Papierformat, std::string("A5 quer"));
+        QCOMPARE(Spiel.Papierformat, std::string("A5 quer"));
         QVERIFY(blatt(0) && !blatt(1));
         DruckeWahl(dialog, QStringLiteral("optDrucken(1)"));
-        QCOMPARE(Papierformat, std::string("A4 quer"));
+        QCOMPARE(Spiel.Papierformat, std::string("A4 quer"));
         DruckeWahl(dialog, QStringLiteral("optDrucken(0)"));
     });
-    QCOMPARE(Papierformat, std::string("A5 quer")); // not undone
+    QCOMPARE(Spiel.Papierformat, std::string("A5 quer")); // not undone
 }
 
 void IniDarstellungTest::withoutAPaperFormatNeitherIsChosenAndPrintingReportsIt() {
     Programm programm;
     programm.NeuesQuizformular();
-    Papierformat.clear();
+    Spiel.Papierformat.clear();
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 4);
         for (const int i : {0, 1}) {
@@ -343,24 +343,24 @@ void IniDarstellungTest::withoutAPaperFormatNeitherIsChosenAndPrintingReportsIt(
 void IniDarstellungTest::theShadingActsAtOnceAndTheBoxOfTheEventsChangesNothing() {
     Programm programm;
     programm.NeuesQuizformular();
-    const std::array<std::pair<const char*, std::int16_t*>, 4> kaesten{{{"chkTitel", &OptionTitel},
-                                                                        {"chkWissen", &OptionWissen},
-                                                                        {"chkJoker", &OptionJoker},
-                                                                        {"chkRahmen", &OptionRahmen}}};
+    const std::array<std::pair<const char*, bool*>, 4> kaesten{{{"chkTitel", &Spiel.OptionTitel},
+                                                                {"chkWissen", &Spiel.OptionWissen},
+                                                                {"chkJoker", &Spiel.OptionJoker},
+                                                                {"chkRahmen", &Spiel.OptionRahmen}}};
     MitAbbrechen(programm, [&](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 1);
         for (const auto& [name, option] : kaesten) {
             QVERIFY(Gewaehlt(dialog, name));
             DruckeWahl(dialog, QLatin1String(name));
-            QCOMPARE(*option, std::int16_t(0));
+            QVERIFY(!*option);
         }
         QVERIFY(!Gewaehlt(dialog, "chkEreignis"));
         DruckeWahl(dialog, QStringLiteral("chkEreignis"));
         QVERIFY(Gewaehlt(dialog, "chkEreignis"));
-        QVERIFY(!OptionEreignis.has_value());
-        QCOMPARE(OptionJoker, std::int16_t(0));
+        QVERIFY(!Spiel.OptionEreignis.has_value());
+        QVERIFY(!Spiel.OptionJoker);
     });
-    QCOMPARE(OptionTitel, std::int16_t(0)); // not undone
+    QVERIFY(!Spiel.OptionTitel); // not undone
 }
 
 void IniDarstellungTest::theBackupBoxTakesTheMenuEntryIntoUse() {
@@ -371,10 +371,10 @@ void IniDarstellungTest::theBackupBoxTakesTheMenuEntryIntoUse() {
     MitAbbrechen(programm, [eintrag](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 4);
         DruckeWahl(dialog, QStringLiteral("chkDatei"));
-        QCOMPARE(OptionDatei, std::int16_t(1));
+        QVERIFY(Spiel.OptionDatei);
         QVERIFY(eintrag->isEnabled());
         DruckeWahl(dialog, QStringLiteral("chkDatei"));
-        QCOMPARE(OptionDatei, std::int16_t(0));
+        QVERIFY(!Spiel.OptionDatei);
         QVERIFY(!eintrag->isEnabled());
     });
     QVERIFY(!eintrag->isEnabled());
@@ -398,25 +398,25 @@ void IniDarstellungTest::eachColourPaintsTheFormAtOnce() {
             QCOMPARE(Finden<Panel>(&dialog, QStringLiteral("pnlFarbe"), nummer)->grund(), farbe);
             DruckeWahl(dialog, name);
             QCOMPARE(Formfarbe(), farbe);
-            QCOMPARE(FarbeHintergrund, std::int16_t(7));
+            QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(7));
         }
         DruckeWahl(dialog, QStringLiteral("optFarbe(3)"));
     });
-    QCOMPARE(FarbeHintergrund, std::int16_t(3));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(3));
     QCOMPARE(Formfarbe(), QColor(0, 128, 128));
 }
 
 void IniDarstellungTest::indexSevenPaintsItsOwnGrey() {
     Programm programm;
     programm.NeuesQuizformular();
-    FarbeHintergrund = 1;
+    Spiel.FarbeHintergrund = 1;
     FKFragenOffen()->HintergrundMalen(1);
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 2);
         DruckeWahl(dialog, QStringLiteral("optFarbe(7)"));
         QCOMPARE(Formfarbe(), QColor(188, 184, 176));
     });
-    QCOMPARE(FarbeHintergrund, std::int16_t(7));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(7));
 }
 
 void IniDarstellungTest::aCancelledColourStaysOnTheScreenOnly() {
@@ -427,19 +427,19 @@ void IniDarstellungTest::aCancelledColourStaysOnTheScreenOnly() {
         DruckeWahl(dialog, QStringLiteral("optFarbe(4)"));
     });
     QCOMPARE(Formfarbe(), QColor(128, 0, 0));
-    QCOMPARE(FarbeHintergrund, std::int16_t(7));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(7));
 }
 
 void IniDarstellungTest::withoutAChoiceApplyingKeepsTheColour() {
     Programm programm;
     programm.NeuesQuizformular();
-    FarbeHintergrund = 12; // none of the six
+    Spiel.FarbeHintergrund = 12; // none of the six
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         for (const int nummer : {1, 2, 3, 4, 7, 8}) {
             QVERIFY(!Finden<QRadioButton>(&dialog, QStringLiteral("optFarbe"), nummer)->isChecked());
         }
     });
-    QCOMPARE(FarbeHintergrund, std::int16_t(12));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(12));
 }
 
 void IniDarstellungTest::nothingIsCutOffAndTheTabOrderFollowsTheEye() {

@@ -92,7 +92,7 @@ void IniDruckTest::gapAndPaperActOnTheNextSheet() {
     QFETCH(double, abstand);
     Programm programm;
     programm.NeuesQuizformular();
-    Zwischenabstand = 0.7F;
+    Spiel.Zwischenabstand = 0.7F;
     Umschalten(programm, 1, QStringLiteral("optZwischen(%1)").arg(option));
     for (const Blatt& blatt : {a5, a4}) {
         Umschalten(programm, 4, QStringLiteral("optDrucken(%1)").arg(blatt.option));

@@ -94,9 +94,9 @@ inline void BrettFuellen(frmFKFragen* form) {
     FK_FelderFaerben();
 }
 
-inline void Form(int fragen, int wissen, int maxFelder, int maxWissen) {
-    FragenProWissen = static_cast<std::int16_t>(fragen);
-    AnzahlWissen = static_cast<std::int16_t>(wissen);
-    OptionMaxFelder = static_cast<std::int16_t>(maxFelder);
-    OptionMaxWissen = static_cast<std::int16_t>(maxWissen);
+inline void Form(int fragen, int wissen, bool maxFelder, bool maxWissen) {
+    Spiel.FragenProWissen = static_cast<std::int16_t>(fragen);
+    Spiel.AnzahlWissen = static_cast<std::int16_t>(wissen);
+    Spiel.OptionMaxFelder = maxFelder;
+    Spiel.OptionMaxWissen = maxWissen;
 }

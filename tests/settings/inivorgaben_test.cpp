@@ -60,29 +60,29 @@ private Q_SLOTS:
 void IniVorgabenTest::theFactoryValuesAreWrittenWithoutAQuestionAndLeaveTheValuesInForce() {
     Programm programm;
     programm.NeuesQuizformular();
-    PunkteVA = PunkteVE = PunkteVG = PunkteVJ = PunkteVR = 1;
-    FelderVA = FelderVG = FelderVJ = FelderVR = 1;
-    FelderVE = "1";
-    PunkteA = 7;
+    Spiel.PunkteV.fill(1);
+    Spiel.FelderV.fill(1);
+    Spiel.FelderVE = "1";
+    Spiel.Punkte[Spezialart::Aktion] = 7;
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Druecke(dialog, "cmdAbsolut");
         QCOMPARE(Zahlen(dialog, QStringLiteral("pnlPunkteV")), werkPunkteText);
         QCOMPARE(Zahlen(dialog, QStringLiteral("pnlFelderV")), werkFelderText);
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlPunkte(0)")), QStringLiteral("7"));
-        QCOMPARE(PunkteVA, std::int16_t(1));
+        QCOMPARE(Spiel.PunkteV[Spezialart::Aktion], std::int16_t(1));
     });
-    QCOMPARE(PunkteA, std::int16_t(7));
-    QCOMPARE(PunkteVG, std::int16_t(10));
-    QCOMPARE(FelderVE.value_or(""), std::string("2"));
+    QCOMPARE(Spiel.Punkte[Spezialart::Aktion], std::int16_t(7));
+    QCOMPARE(Spiel.PunkteV[Spezialart::Glueck], std::int16_t(10));
+    QCOMPARE(Spiel.FelderVE.value_or(""), std::string("2"));
 }
 
 void IniVorgabenTest::theStandardValuesAreTakenOverAsTheyAre() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(2, 3, 1, 1);
-    FelderGesamt = 6;
-    PunkteVE = 13;
-    FelderVJ = 5;
+    Form(2, 3, true, true);
+    Spiel.FelderGesamt = 6;
+    Spiel.PunkteV[Spezialart::Ereignis] = 13;
+    Spiel.FelderV[Spezialart::Joker] = 5;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 0);
         Druecke(dialog, "cmdStandard2");
@@ -97,8 +97,8 @@ void IniVorgabenTest::theStandardValuesAreTakenOverAsTheyAre() {
 void IniVorgabenTest::threeQuestionsInFiveAreasRescaleTheFields() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(3, 5, 1, 1);
-    FelderGesamt = 15;
+    Form(3, 5, true, true);
+    Spiel.FelderGesamt = 15;
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Druecke(dialog, "cmdAbsolut");
         Register(dialog, 0);
@@ -108,15 +108,15 @@ void IniVorgabenTest::threeQuestionsInFiveAreasRescaleTheFields() {
         QCOMPARE(Felderrahmen(dialog), QStringLiteral(" Felder (bei 15 Fragen) "));
         QCOMPARE(Felderrahmen(dialog, "fraFelderV"), QStringLiteral(" Felder (bei 30 Fragen) "));
     });
-    QCOMPARE(FelderJ, std::int16_t(2));
-    QCOMPARE(FelderVJ, std::int16_t(4));
+    QCOMPARE(Spiel.Felder[Spezialart::Joker], std::int16_t(2));
+    QCOMPARE(Spiel.FelderV[Spezialart::Joker], std::int16_t(4));
 }
 
 void IniVorgabenTest::oneQuestionInSixAreasRescalesFieldsAndPoints() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(1, 6, 1, 1);
-    FelderGesamt = 6;
+    Form(1, 6, true, true);
+    Spiel.FelderGesamt = 6;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 0);
         Druecke(dialog, "cmdStandard2");
@@ -128,10 +128,10 @@ void IniVorgabenTest::oneQuestionInSixAreasRescalesFieldsAndPoints() {
 void IniVorgabenTest::fiveFieldsAtNineAndAtFifteenQuestionsAreTwo() {
     Programm programm;
     programm.NeuesQuizformular();
-    FelderVA = 5;
+    Spiel.FelderV[Spezialart::Aktion] = 5;
     for (const int gesamt : {9, 15}) {
-        Form(3, gesamt / 3, 1, 1);
-        FelderGesamt = static_cast<std::int16_t>(gesamt);
+        Form(3, gesamt / 3, true, true);
+        Spiel.FelderGesamt = static_cast<std::int16_t>(gesamt);
         MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
             Register(dialog, 0);
             Druecke(dialog, "cmdStandard2");
@@ -143,8 +143,8 @@ void IniVorgabenTest::fiveFieldsAtNineAndAtFifteenQuestionsAreTwo() {
 void IniVorgabenTest::factoryValuesRescaledAtThirtyQuestionsStayAsTheyAre() {
     Programm programm;
     programm.NeuesQuizformular();
-    FelderGesamt = 30;
-    FelderJ = 0;
+    Spiel.FelderGesamt = 30;
+    Spiel.Felder[Spezialart::Joker] = 0;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Druecke(dialog, "cmdAbsolut");
         Register(dialog, 0);
@@ -157,13 +157,13 @@ void IniVorgabenTest::factoryValuesRescaledAtThirtyQuestionsStayAsTheyAre() {
 void IniVorgabenTest::withoutATotalThereIsNothingToRescale() {
     Programm programm;
     programm.NeuesQuizformular();
-    FelderGesamt = 0;
-    FelderJ = 3;
+    Spiel.FelderGesamt = 0;
+    Spiel.Felder[Spezialart::Joker] = 3;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         Register(dialog, 0);
         for (const auto& [gesamt, fragen] : {std::pair{0, 5}, std::pair{30, 0}}) {
-            FelderGesamt = static_cast<std::int16_t>(gesamt);
-            FragenProWissen = static_cast<std::int16_t>(fragen);
+            Spiel.FelderGesamt = static_cast<std::int16_t>(gesamt);
+            Spiel.FragenProWissen = static_cast<std::int16_t>(fragen);
             dialoge.meldung(QStringLiteral("Wieviele Fragen gibt es pro Wissensgebiet ?\n"
                                            "Wieviele Fragefelder gibt es insgesamt ?"),
                             QStringLiteral("Das gebe ich schnell noch ein"));
@@ -240,7 +240,7 @@ void IniVorgabenTest::whatWasSavedStaysOnTheDiskWhenTheDialogIsCancelled() {
         Druecke(dialog, "cmdIniSpeichern");
     });
     QCOMPARE(programm.ordner().lesen(ini), soll);
-    QCOMPARE(PunkteVR, std::int16_t(3));
+    QCOMPARE(Spiel.PunkteV[Spezialart::Risiko], std::int16_t(3));
 }
 
 void IniVorgabenTest::savingAnsweredAbbrechenWritesNothing() {
@@ -253,15 +253,15 @@ void IniVorgabenTest::savingAnsweredAbbrechenWritesNothing() {
         Druecke(dialog, "cmdIniSpeichern");
     });
     QCOMPARE(programm.ordner().lesen(ini), vorher);
-    QCOMPARE(PunkteVR, std::int16_t(0));
+    QCOMPARE(Spiel.PunkteV[Spezialart::Risiko], std::int16_t(0));
 }
 
 void IniVorgabenTest::aSaveAfterAFormWasLoadedCarriesTheFormsNumbers() {
     Programm programm;
     programm.NeuesQuizformular();
     const QByteArray soll = IniMit(programm, {{1, "17"}, {15, "1"}});
-    PunkteA = 17; // as the form's file writes them
-    FelderJ = 1;
+    Spiel.Punkte[Spezialart::Aktion] = 17; // as the form's file writes them
+    Spiel.Felder[Spezialart::Joker] = 1;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(speichernTitel, speichernFrage, 1);
         Druecke(dialog, "cmdIniSpeichern");
@@ -323,25 +323,25 @@ void IniVorgabenTest::loadingShowsTheFile() {
         QVERIFY(an("chkMaxFelder"));
         QVERIFY(an("optDrucken(0)"));
     });
-    QCOMPARE(PunkteVA, std::int16_t(9));
-    QCOMPARE(FarbeHintergrund, std::int16_t(4));
+    QCOMPARE(Spiel.PunkteV[Spezialart::Aktion], std::int16_t(9));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(4));
     QCOMPARE(FKFragenOffen()->palette().color(QPalette::Window), QColor(128, 0, 0));
 }
 
 void IniVorgabenTest::aFileWithColour0LoadsAs7() {
     Programm programm;
     programm.NeuesQuizformular();
-    FarbeHintergrund = 1;
+    Spiel.FarbeHintergrund = 1;
     FKFragenOffen()->HintergrundMalen(1);
     programm.ordner().schreiben(ini, IniMit(programm, {{27, "0"}}));
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         QVERIFY(Finden<QAbstractButton>(&dialog, QStringLiteral("optFarbe(1)"))->isChecked());
         dialoge.frage(ladenTitel, ladenFrage, 1);
         Druecke(dialog, "cmdIniLaden");
-        QCOMPARE(FarbeHintergrund, std::int16_t(7));
+        QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(7));
         QVERIFY(Finden<QAbstractButton>(&dialog, QStringLiteral("optFarbe(7)"))->isChecked());
     });
-    QCOMPARE(FarbeHintergrund, std::int16_t(7));
+    QCOMPARE(Spiel.FarbeHintergrund, std::int16_t(7));
     QCOMPARE(FKFragenOffen()->palette().color(QPalette::Window), QColor(188, 184, 176));
 }
 
@@ -373,8 +373,8 @@ void IniVorgabenTest::loadingWithoutAFileSaysSoInTheStatusLine() {
 void IniVorgabenTest::openingAgainShowsTheValuesOfTheSettings() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(2, 6, 1, 1);
-    FelderGesamt = 12;
+    Form(2, 6, true, true);
+    Spiel.FelderGesamt = 12;
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 0);
         Druecke(dialog, "cmdStandard2");

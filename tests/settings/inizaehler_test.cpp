@@ -35,7 +35,7 @@ private Q_SLOTS:
 void IniZaehlerTest::atFiveQuestionsWithTheRuleOffMinusIsRefusedAndTheNumberStays() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(5, 6, 0, 1);
+    Form(5, 6, false, true);
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.meldung(
             QStringLiteral("Ich lösche keine Fragen,\nweil es in der Spielregel nicht gefordert ist!"),
@@ -43,13 +43,13 @@ void IniZaehlerTest::atFiveQuestionsWithTheRuleOffMinusIsRefusedAndTheNumberStay
         Druecke(dialog, "cmdFragenMinus");
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("5"));
     });
-    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
 }
 
 void IniZaehlerTest::withOneQuestionAndFourAreasPlusNamesTwoAreasAndTheCountBecomesFive() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(1, 4, 1, 1);
+    Form(1, 4, true, true);
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelWissen,
                       QStringLiteral("Ich soll zwei Wissensgebiete anlegen.") + mitte +
@@ -58,24 +58,24 @@ void IniZaehlerTest::withOneQuestionAndFourAreasPlusNamesTwoAreasAndTheCountBeco
         Druecke(dialog, "cmdWissenPlus");
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKW")), QStringLiteral("5"));
     });
-    QCOMPARE(AnzahlWissen, std::int16_t(5));
+    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(5));
 }
 
 void IniZaehlerTest::withThreeQuestionsAndOneAreaPlusAsksNothingAndTheCountBecomesTwo() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(3, 1, 1, 1);
+    Form(3, 1, true, true);
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Druecke(dialog, "cmdWissenPlus"); // a question would fail the test
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKW")), QStringLiteral("2"));
     });
-    QCOMPARE(AnzahlWissen, std::int16_t(2));
+    QCOMPARE(Spiel.AnzahlWissen, std::int16_t(2));
 }
 
 void IniZaehlerTest::everyStepShowsTheNumbersAndTheTotal() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
+    Form(5, 6, true, true);
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelFragen, vier, 1);
         Druecke(dialog, "cmdFragenMinus");
@@ -88,7 +88,7 @@ void IniZaehlerTest::everyStepShowsTheNumbersAndTheTotal() {
         Druecke(dialog, "cmdWissenMinus");
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKW")), QStringLiteral("5"));
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFK")), QStringLiteral("20"));
-        QCOMPARE(FelderGesamt, std::int16_t(20));
+        QCOMPARE(Spiel.FelderGesamt, std::int16_t(20));
         dialoge.frage(titelFragen,
                       QStringLiteral("Ich soll fünf Fragen pro Wissensgebiet anlegen.") + mitte +
                           QStringLiteral("diesmal keine Felder löschen!"),
@@ -103,25 +103,24 @@ void IniZaehlerTest::everyStepShowsTheNumbersAndTheTotal() {
 void IniZaehlerTest::aStepAnsweredAbbrechenOrClosedByItsFrameChangesNothing() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(5, 6, 1, 1);
-    FelderGesamt = 12;
+    Form(5, 6, true, true);
+    Spiel.FelderGesamt = 12;
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(titelFragen, vier, 2);
         Druecke(dialog, "cmdFragenMinus");
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("5"));
-        NachrichtAntwort = 1; // an older answer must not count
         dialoge.erwarte({QStringLiteral("frmNachricht"), titelFragen + u' ', vier, {durchRahmen}});
         Druecke(dialog, "cmdFragenMinus");
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFragenFKF")), QStringLiteral("5"));
     });
-    QCOMPARE(FragenProWissen, std::int16_t(5));
-    QCOMPARE(FelderGesamt, std::int16_t(12));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.FelderGesamt, std::int16_t(12));
 }
 
 void IniZaehlerTest::theBoundsAreToldInTheirOwnWords() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(1, 1, 1, 1);
+    Form(1, 1, true, true);
     const QString verstaendnis = QStringLiteral("Dafür habe ich vollstes Verständnis.");
     MitAbbrechen(programm, [&](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.meldung(
@@ -133,7 +132,7 @@ void IniZaehlerTest::theBoundsAreToldInTheirOwnWords() {
                                        "Ich kann leider nicht weniger!?"),
                         verstaendnis);
         Druecke(dialog, "cmdWissenMinus");
-        Form(5, 6, 1, 1);
+        Form(5, 6, true, true);
         dialoge.meldung(
             QStringLiteral(
                 "Die Maximalanzahl der Fragen ist bereits erreicht.\nIch kann leider nicht mehr!?"),
@@ -149,7 +148,7 @@ void IniZaehlerTest::theBoundsAreToldInTheirOwnWords() {
 void IniZaehlerTest::answerAbbrechenToTheTickedRuleTakesTheTickOutAgain() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(3, 6, 0, 0);
+    Form(3, 6, false, false);
     MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         Register(dialog, 5);
         dialoge.frage(QStringLiteral("Spielregeln einhalten"),
@@ -159,14 +158,14 @@ void IniZaehlerTest::answerAbbrechenToTheTickedRuleTakesTheTickOutAgain() {
                       2);
         DruckeWahl(dialog, QStringLiteral("chkMaxFelder"));
         QVERIFY(!Finden<QCheckBox>(&dialog, QStringLiteral("chkMaxFelder"))->isChecked());
-        QCOMPARE(OptionMaxFelder, std::int16_t(0));
+        QVERIFY(!Spiel.OptionMaxFelder);
     });
 }
 
 void IniZaehlerTest::fillingTheBoxesRaisesNoQuestion() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(2, 2, 1, 1);
+    Form(2, 2, true, true);
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge&) {
         for (const char* name : {"chkMaxFelder", "chkMaxWissen", "chkMaxSpezial"}) {
             QVERIFY(Finden<QCheckBox>(&dialog, QLatin1String(name))->isChecked());
@@ -177,13 +176,13 @@ void IniZaehlerTest::fillingTheBoxesRaisesNoQuestion() {
 void IniZaehlerTest::theRuleOfTheSpecialFieldsIsASwitchAndNothingElse() {
     Programm programm;
     programm.NeuesQuizformular();
-    Form(2, 2, 1, 1);
+    Form(2, 2, true, true);
     MitOK(programm, [](QDialog& dialog, Dialogfolge&) {
         Register(dialog, 5);
         DruckeWahl(dialog, QStringLiteral("chkMaxSpezial"));
-        QCOMPARE(OptionMaxSpezial, std::int16_t(0));
+        QVERIFY(!Spiel.OptionMaxSpezial);
         DruckeWahl(dialog, QStringLiteral("chkMaxSpezial"));
-        QCOMPARE(OptionMaxSpezial, std::int16_t(1));
+        QVERIFY(Spiel.OptionMaxSpezial);
     });
 }
 
@@ -217,12 +216,10 @@ void IniZaehlerTest::everySpinStopsAtItsBounds() {
     QFETCH(QString, zuViel);
     Programm programm;
     programm.NeuesQuizformular();
-    for (std::int16_t* wert : {&PunkteA, &PunkteE, &PunkteG, &PunkteJ, &PunkteR, &FelderA, &FelderE, &FelderG,
-                               &FelderJ, &FelderR, &PunkteVA, &PunkteVE, &PunkteVG, &PunkteVJ, &PunkteVR,
-                               &FelderVA, &FelderVG, &FelderVJ, &FelderVR}) {
-        *wert = 0;
+    for (Artwerte* werte : {&Spiel.Punkte, &Spiel.Felder, &Spiel.PunkteV, &Spiel.FelderV}) {
+        werte->fill(0);
     }
-    FelderVE = "0";
+    Spiel.FelderVE = "0";
     MitAbbrechen(programm, [&](QDialog& dialog, Dialogfolge& dialoge) {
         Register(dialog, tab);
         for (int art = 0; art < 5; ++art) {
@@ -264,7 +261,7 @@ void IniZaehlerTest::countsOutOfAWildFileEndInTheErrorReportNotInAWrap() {
     Programm programm;
     programm.NeuesQuizformular();
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
-        Form(20000, 2, 1, 1);
+        Form(20000, 2, true, true);
         dialoge.frage(titelWissen,
                       QStringLiteral("Ich soll drei Wissensgebiete anlegen.") + mitte +
                           QStringLiteral("diesmal keine Felder löschen!"),
@@ -273,7 +270,7 @@ void IniZaehlerTest::countsOutOfAWildFileEndInTheErrorReportNotInAWrap() {
                         QStringLiteral("Das gefällt mir gar nicht"));
         Druecke(dialog, "cmdWissenPlus");
     });
-    QCOMPARE(FragenProWissen, std::int16_t(5));
+    QCOMPARE(Spiel.FragenProWissen, std::int16_t(5));
 }
 
 QTEST_MAIN(IniZaehlerTest)

@@ -45,7 +45,7 @@ TEST(FragenSchritt, DownwardsWithTheRuleAsksInTheWordsOfEachNumber) {
         {4, "Ich soll drei Fragen pro Wissensgebiet anlegen.", "die Felder 2 und 4 jetzt löschen!"},
         {5, "Ich soll vier Fragen pro Wissensgebiet anlegen.", "die Felder 3 jetzt löschen!"}};
     for (const Zeile& zeile : zeilen) {
-        ErwarteFrage(FragenSchritt(Richtung::Runter, zeile.von, 1), "Fragen pro Wissensgebiet",
+        ErwarteFrage(FragenSchritt(Richtung::Runter, zeile.von, true), "Fragen pro Wissensgebiet",
                      zeile.erste + mitte + zeile.dritte, zeile.von - 1);
     }
 }
@@ -57,7 +57,7 @@ TEST(FragenSchritt, UpwardsAsksWhateverTheRuleSays) {
         {3, "Ich soll vier Fragen pro Wissensgebiet anlegen.", "die Felder 3 jetzt löschen!"},
         {4, "Ich soll fünf Fragen pro Wissensgebiet anlegen.", "diesmal keine Felder löschen!"}};
     for (const Zeile& zeile : zeilen) {
-        for (const std::int16_t regel : {std::int16_t(0), std::int16_t(1)}) {
+        for (const bool regel : {false, true}) {
             ErwarteFrage(FragenSchritt(Richtung::Hoch, zeile.von, regel), "Fragen pro Wissensgebiet",
                          zeile.erste + mitte + zeile.dritte, zeile.von + 1);
         }
@@ -65,7 +65,7 @@ TEST(FragenSchritt, UpwardsAsksWhateverTheRuleSays) {
 }
 
 TEST(FragenSchritt, AtTheBoundsItIsRefusedWithOrWithoutTheRule) {
-    for (const std::int16_t regel : {std::int16_t(0), std::int16_t(1)}) {
+    for (const bool regel : {false, true}) {
         ErwarteAbsage(FragenSchritt(Richtung::Runter, 1, regel),
                       "Die Minimalanzahl der Fragen ist bereits erreicht.\r\nIch kann leider nicht weniger!?",
                       "23", verstaendnis, 1);
@@ -77,19 +77,19 @@ TEST(FragenSchritt, AtTheBoundsItIsRefusedWithOrWithoutTheRule) {
 
 TEST(FragenSchritt, WithoutTheRuleTheCountCantBeLowered) {
     for (std::int16_t fragen = 2; fragen <= 5; ++fragen) {
-        ErwarteAbsage(FragenSchritt(Richtung::Runter, fragen, 0),
+        ErwarteAbsage(FragenSchritt(Richtung::Runter, fragen, false),
                       "Ich lösche keine Fragen,\nweil es in der Spielregel nicht gefordert ist!", "22",
                       nachtragen, fragen);
     }
 }
 
 TEST(FragenSchritt, ACountThatOnlyAFileCanBringComesDownWithoutWords) {
-    const Regelschritt schritt = FragenSchritt(Richtung::Runter, 9, 1);
+    const Regelschritt schritt = FragenSchritt(Richtung::Runter, 9, true);
     EXPECT_EQ(schritt.absage, nullptr);
     EXPECT_FALSE(schritt.frage.has_value());
     EXPECT_EQ(schritt.neu, 8);
-    EXPECT_EQ(FragenSchritt(Richtung::Hoch, 9, 1).neu, 9);
-    EXPECT_EQ(FragenSchritt(Richtung::Runter, -3, 1).neu, -3);
+    EXPECT_EQ(FragenSchritt(Richtung::Hoch, 9, true).neu, 9);
+    EXPECT_EQ(FragenSchritt(Richtung::Runter, -3, true).neu, -3);
 }
 
 TEST(WissenSchritt, DownwardsWithTheRuleAsksInTheWordsOfEachNumber) {
@@ -100,13 +100,13 @@ TEST(WissenSchritt, DownwardsWithTheRuleAsksInTheWordsOfEachNumber) {
         {5, "Ich soll vier Wissensgebiete anlegen.", "das fünfte Wissensgebiet jetzt löschen!"},
         {6, "Ich soll fünf Wissensgebiete anlegen.", "das sechste Wissensgebiet jetzt löschen!"}};
     for (const Zeile& zeile : zeilen) {
-        ErwarteFrage(WissenSchritt(Richtung::Runter, zeile.von, 5, 1), "Wissensgebiete",
+        ErwarteFrage(WissenSchritt(Richtung::Runter, zeile.von, 5, true), "Wissensgebiete",
                      zeile.erste + mitte + zeile.dritte, zeile.von - 1);
     }
 }
 
 TEST(WissenSchritt, AtTheBoundsItIsRefusedWithOrWithoutTheRule) {
-    for (const std::int16_t regel : {std::int16_t(0), std::int16_t(1)}) {
+    for (const bool regel : {false, true}) {
         ErwarteAbsage(
             WissenSchritt(Richtung::Runter, 1, 5, regel),
             "Die Minimalanzahl der Wissensgebiete ist bereits erreicht.\r\nIch kann leider nicht weniger!?",
@@ -120,7 +120,7 @@ TEST(WissenSchritt, AtTheBoundsItIsRefusedWithOrWithoutTheRule) {
 
 TEST(WissenSchritt, WithoutTheRuleTheCountCantBeLowered) {
     for (std::int16_t wissen = 2; wissen <= 6; ++wissen) {
-        ErwarteAbsage(WissenSchritt(Richtung::Runter, wissen, 5, 0),
+        ErwarteAbsage(WissenSchritt(Richtung::Runter, wissen, 5, false),
                       "Ich lösche keine Wissensgebiete,\nweil es in der Spielregel nicht gefordert ist!",
                       "22", nachtragen, wissen);
     }
@@ -128,7 +128,7 @@ TEST(WissenSchritt, WithoutTheRuleTheCountCantBeLowered) {
 
 TEST(WissenSchritt, UpwardsWithOneQuestionItAlwaysNamesTwoAreasWithLineFeedsAlone) {
     for (std::int16_t wissen = 1; wissen <= 5; ++wissen) {
-        for (const std::int16_t regel : {std::int16_t(0), std::int16_t(1)}) {
+        for (const bool regel : {false, true}) {
             ErwarteFrage(WissenSchritt(Richtung::Hoch, wissen, 1, regel), "Wissensgebiete",
                          "Ich soll zwei Wissensgebiete anlegen.\n"
                          "Da Du die Spielregeln einhalten willst, muß ich\n"
@@ -140,7 +140,7 @@ TEST(WissenSchritt, UpwardsWithOneQuestionItAlwaysNamesTwoAreasWithLineFeedsAlon
 
 TEST(WissenSchritt, UpwardsFromOneAreaWithMoreQuestionsAsksNothing) {
     for (std::int16_t fragen = 2; fragen <= 5; ++fragen) {
-        const Regelschritt schritt = WissenSchritt(Richtung::Hoch, 1, fragen, 1);
+        const Regelschritt schritt = WissenSchritt(Richtung::Hoch, 1, fragen, true);
         EXPECT_EQ(schritt.absage, nullptr);
         EXPECT_FALSE(schritt.frage.has_value());
         EXPECT_EQ(schritt.neu, 2);
@@ -154,7 +154,7 @@ TEST(WissenSchritt, UpwardsWithMoreQuestionsItNamesTheNewNumber) {
                                     {5, "Ich soll sechs Wissensgebiete anlegen.", ""}};
     for (const Zeile& zeile : zeilen) {
         for (std::int16_t fragen = 2; fragen <= 5; ++fragen) {
-            for (const std::int16_t regel : {std::int16_t(0), std::int16_t(1)}) {
+            for (const bool regel : {false, true}) {
                 ErwarteFrage(WissenSchritt(Richtung::Hoch, zeile.von, fragen, regel), "Wissensgebiete",
                              zeile.erste + mitte + "diesmal keine Felder löschen!", zeile.von + 1);
             }

@@ -1,5 +1,6 @@
 #include "core/laufzeitfehler.h"
-#include "settings/skalierung.h"
+#include "rules/skalierung.h"
+#include "rules/spezialarten.h"
 
 #include <gtest/gtest.h>
 
@@ -110,7 +111,7 @@ TEST(Skalierung, TheFactoryFieldsForEachExampleTotal) {
 TEST(Skalierung, FieldsForEveryTotalAndEveryStandardValue) {
     for (const int gesamt : Gesamtzahlen()) {
         for (int standard = 0; standard <= 5; ++standard) {
-            const int ist = FelderUmrechnen(Fuenfmal(standard), gesamt).at(2);
+            const int ist = FelderUmrechnen(Fuenfmal(standard), gesamt)[Spezialart::Glueck];
             const int produkt = standard * gesamt;
             EXPECT_EQ(ist, Gleitend(standard, 30.0, gesamt)) << standard << " of " << gesamt;
             if (2 * (produkt % 30) != 30) {
@@ -126,19 +127,23 @@ TEST(Skalierung, PointsForEveryNumberOfQuestionsAndEveryStandardValue) {
             EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), fragen), Fuenfmal(standard));
         }
         // A fifth never lies halfway, so the exact fraction decides.
-        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 2).at(0), RationalGerundet(4 * standard, 5))
+        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 2)[Spezialart::Aktion],
+                  RationalGerundet(4 * standard, 5))
             << standard;
-        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 1).at(4), RationalGerundet(3 * standard, 5))
+        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 1)[Spezialart::Risiko],
+                  RationalGerundet(3 * standard, 5))
             << standard;
-        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 2).at(1), Gleitend(standard, 5.0, 4.0)) << standard;
-        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 1).at(1), Gleitend(standard, 5.0, 3.0)) << standard;
+        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 2)[Spezialart::Ereignis], Gleitend(standard, 5.0, 4.0))
+            << standard;
+        EXPECT_EQ(PunkteUmrechnen(Fuenfmal(standard), 1)[Spezialart::Ereignis], Gleitend(standard, 5.0, 3.0))
+            << standard;
     }
 }
 
 TEST(Skalierung, NoScaledValueIsLargerThanItsStandard) {
     for (const int gesamt : Gesamtzahlen()) {
         for (int standard = 0; standard <= 5; ++standard) {
-            EXPECT_LE(FelderUmrechnen(Fuenfmal(standard), gesamt).at(0), standard);
+            EXPECT_LE(FelderUmrechnen(Fuenfmal(standard), gesamt)[Spezialart::Aktion], standard);
         }
     }
 }

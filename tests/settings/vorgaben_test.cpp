@@ -1,82 +1,98 @@
-#include "core/laufzeitfehler.h"
-#include "quizform/spezialfelder.h"
-#include "settings/darstellung.h"
-#include "settings/einstellungen.h"
 #include "settings/vorgaben.h"
+
+#include "core/laufzeitfehler.h"
+#include "settings/darstellung.h"
 
 #include <gtest/gtest.h>
 
-#include <tuple>
+#include <optional>
+#include <string>
 
 namespace {
 
-void JedemEinEigenerWert() {
-    std::tie(PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR) = std::tuple(1, 2, 3, 4, 5);
-    std::tie(FelderA, FelderE, FelderG, FelderJ, FelderR) = std::tuple(6, 7, 8, 9, 10);
-    std::tie(PunkteVA, PunkteVE, PunkteVG, PunkteVJ, PunkteVR) = std::tuple(11, 12, 13, 14, 15);
-    std::tie(FelderVA, FelderVG, FelderVJ, FelderVR) = std::tuple(16, 18, 19, 20);
-    FelderVE = "17";
+Spielwerte JedemEinEigenerWert() {
+    Spielwerte spiel;
+    spiel.Punkte = {1, 2, 3, 4, 5};
+    spiel.Felder = {6, 7, 8, 9, 10};
+    spiel.PunkteV = {11, 12, 13, 14, 15};
+    spiel.FelderV = {16, 0, 18, 19, 20};
+    spiel.FelderVE = "17";
+    return spiel;
 }
 
 } // namespace
 
-TEST(Vorgaben, TheEditArraysAreFilledInTheOrderOfTheScreen) {
-    JedemEinEigenerWert();
-    VorgabenHolen();
-    EXPECT_EQ(VorgabePunkte, (Artwerte{1, 2, 3, 4, 5}));
-    EXPECT_EQ(VorgabeFelder, (Artwerte{6, 7, 8, 9, 10}));
-    EXPECT_EQ(StdPunkte, (Artwerte{11, 12, 13, 14, 15}));
-    EXPECT_EQ(StdFelder, (Artwerte{16, 17, 18, 19, 20}));
+TEST(Vorgaben, TheEditCopiesAreFilledInTheOrderOfTheScreen) {
+    const Vorgaben vorgaben = VorgabenAus(JedemEinEigenerWert());
+    EXPECT_EQ(vorgaben.Punkte, (Artwerte{1, 2, 3, 4, 5}));
+    EXPECT_EQ(vorgaben.Felder, (Artwerte{6, 7, 8, 9, 10}));
+    EXPECT_EQ(vorgaben.PunkteV, (Artwerte{11, 12, 13, 14, 15}));
+    EXPECT_EQ(vorgaben.FelderV, (Artwerte{16, 17, 18, 19, 20}));
+}
+
+TEST(Vorgaben, TheStandardValuesComeInAloneAndLeaveTheOthers) {
+    Vorgaben vorgaben;
+    vorgaben.Punkte = {21, 22, 23, 24, 25};
+    StandardHolen(vorgaben, JedemEinEigenerWert());
+    EXPECT_EQ(vorgaben.Punkte, (Artwerte{21, 22, 23, 24, 25}));
+    EXPECT_EQ(vorgaben.PunkteV, (Artwerte{11, 12, 13, 14, 15}));
+    EXPECT_EQ(vorgaben.FelderV, (Artwerte{16, 17, 18, 19, 20}));
 }
 
 TEST(Vorgaben, EachWayBackWritesItsOwnValuesAndNoOthers) {
-    JedemEinEigenerWert();
-    VorgabePunkte = {21, 22, 23, 24, 25};
-    VorgabeFelder = {26, 27, 28, 29, 30};
-    VorgabenUebernehmen();
-    EXPECT_EQ(std::tuple(PunkteA, PunkteE, PunkteG, PunkteJ, PunkteR), std::tuple(21, 22, 23, 24, 25));
-    EXPECT_EQ(std::tuple(FelderA, FelderE, FelderG, FelderJ, FelderR), std::tuple(26, 27, 28, 29, 30));
-    EXPECT_EQ(std::tuple(PunkteVA, FelderVE.value_or("")), std::tuple(11, "17"));
-    StdPunkte = {31, 32, 33, 34, 35};
-    StdFelder = {36, 37, 38, 39, 40};
-    StandardUebernehmen();
-    EXPECT_EQ(std::tuple(PunkteVA, PunkteVE, PunkteVG, PunkteVJ, PunkteVR), std::tuple(31, 32, 33, 34, 35));
-    EXPECT_EQ(std::tuple(FelderVA, FelderVE.value_or(""), FelderVG, FelderVJ, FelderVR),
-              std::tuple(36, "37", 38, 39, 40));
-    EXPECT_EQ(PunkteA, 21);
+    const Vorgaben vorgaben{
+        {21, 22, 23, 24, 25}, {26, 27, 28, 29, 30}, {31, 32, 33, 34, 35}, {36, 37, 38, 39, 40}};
+    Spielwerte spiel = JedemEinEigenerWert();
+    VorgabenUebernehmen(vorgaben, spiel);
+    Spielwerte soll = JedemEinEigenerWert();
+    soll.Punkte = {21, 22, 23, 24, 25};
+    soll.Felder = {26, 27, 28, 29, 30};
+    EXPECT_EQ(spiel, soll);
+    StandardUebernehmen(vorgaben, spiel);
+    soll.PunkteV = {31, 32, 33, 34, 35};
+    soll.FelderV = {36, 0, 38, 39, 40};
+    soll.FelderVE = "37";
+    EXPECT_EQ(spiel, soll);
 }
 
 TEST(Vorgaben, AStandardCountThatHoldsNothingOrNoNumberCountsAsNone) {
+    Spielwerte spiel = JedemEinEigenerWert();
     for (const std::optional<std::string>& wert :
          {std::optional<std::string>(), std::optional<std::string>(""), std::optional<std::string>("\"2\""),
           std::optional<std::string>("99999")}) {
-        FelderVE = wert;
-        StandardHolen();
-        EXPECT_EQ(StdFelder.at(1), 0) << wert.value_or("nothing");
+        spiel.FelderVE = wert;
+        EXPECT_EQ(VorgabenAus(spiel).FelderV[Spezialart::Ereignis], 0) << wert.value_or("nothing");
     }
 }
 
-TEST(Vorgaben, ASnapshotPutsFiveValuesBack) {
-    std::tie(FragenProWissen, AnzahlWissen) = std::tuple(3, 4);
-    std::tie(OptionMaxFelder, OptionMaxWissen, OptionMaxSpezial) = std::tuple(1, 0, 1);
-    OptionTitel = 0;
-    const Schnappschuss vorher = SchnappschussNehmen();
-    std::tie(FragenProWissen, AnzahlWissen) = std::tuple(5, 6);
-    std::tie(OptionMaxFelder, OptionMaxWissen, OptionMaxSpezial) = std::tuple(0, 1, 0);
-    OptionTitel = 1;
-    SchnappschussZurueck(vorher);
-    EXPECT_EQ(std::tuple(FragenProWissen, AnzahlWissen), std::tuple(3, 4));
-    EXPECT_EQ(std::tuple(OptionMaxFelder, OptionMaxWissen, OptionMaxSpezial), std::tuple(1, 0, 1));
-    EXPECT_EQ(OptionTitel, 1); // not one of them
+TEST(Vorgaben, FiveValuesAndNoOthersArePutBack) {
+    Spielwerte vorher;
+    vorher.FragenProWissen = 3;
+    vorher.AnzahlWissen = 4;
+    vorher.OptionMaxFelder = vorher.OptionMaxSpezial = true;
+    Spielwerte spiel = JedemEinEigenerWert();
+    spiel.FragenProWissen = 5;
+    spiel.AnzahlWissen = 6;
+    spiel.OptionMaxWissen = true;
+    spiel.OptionTitel = true;
+    Spielwerte soll = spiel;
+    RegelnZuruecksetzen(vorher, spiel);
+    soll.FragenProWissen = 3;
+    soll.AnzahlWissen = 4;
+    soll.OptionMaxFelder = soll.OptionMaxSpezial = true;
+    soll.OptionMaxWissen = false;
+    EXPECT_EQ(spiel, soll);
 }
 
 TEST(Vorgaben, TheTotalIsTheProductAndNeverWraps) {
-    std::tie(FragenProWissen, AnzahlWissen) = std::tuple(4, 6);
-    GesamtRechnen();
-    EXPECT_EQ(FelderGesamt, 24);
-    std::tie(FragenProWissen, AnzahlWissen) = std::tuple(200, 200);
-    EXPECT_THROW(GesamtRechnen(), Laufzeitfehler);
-    EXPECT_EQ(FelderGesamt, 24);
+    Spielwerte spiel;
+    spiel.FragenProWissen = 4;
+    spiel.AnzahlWissen = 6;
+    GesamtRechnen(spiel);
+    EXPECT_EQ(spiel.FelderGesamt, 24);
+    spiel.FragenProWissen = spiel.AnzahlWissen = 200;
+    EXPECT_THROW(GesamtRechnen(spiel), Laufzeitfehler);
+    EXPECT_EQ(spiel.FelderGesamt, 24);
 }
 
 TEST(Vorgaben, ASpinStopsAtItsBoundsAndNowhereElse) {

@@ -1,6 +1,7 @@
 // The rule document names the points and limits that the program counts by: read from its page and compared
 // with the program's own numbers.
-#include "settings/skalierung.h"
+#include "rules/skalierung.h"
+#include "rules/spezialarten.h"
 #include "settings/vorgaben.h"
 
 #include <gtest/gtest.h>
@@ -29,13 +30,13 @@ TEST(Regelzahlen, EverySpecialFieldHasThePointsAndTheLimitOfTheRules) {
     const std::string seite = Seite();
     for (std::size_t i = 0; i < buchstaben.size(); ++i) {
         const std::string art = buchstaben.substr(i, 1);
-        EXPECT_NE(seite.find("id=\"felder" + art + "\">" + std::to_string(werkFelder.at(i)) + "<"),
+        EXPECT_NE(seite.find("id=\"felder" + art + "\">" + std::to_string(werkFelder.werte.at(i)) + "<"),
                   std::string::npos)
             << art;
         // A risk has no points of its own: a question mark stands there.
-        EXPECT_EQ(seite.find("id=\"punkte" + art + "\">" + std::to_string(werkPunkte.at(i)) + "<") !=
+        EXPECT_EQ(seite.find("id=\"punkte" + art + "\">" + std::to_string(werkPunkte.werte.at(i)) + "<") !=
                       std::string::npos,
-                  werkPunkte.at(i) > 0)
+                  werkPunkte.werte.at(i) > 0)
             << art;
     }
 }
@@ -61,11 +62,12 @@ TEST(Regelzahlen, TheTableOfSmallerBoardsIsTheProgramsConversion) {
         EXPECT_EQ(zahl(3), fragen);
         constexpr std::array<std::size_t, 5> felderfolge{3, 2, 4, 0, 1};
         for (std::size_t i = 0; i < felderfolge.size(); ++i) {
-            EXPECT_EQ(zahl(4 + i), felder.at(felderfolge.at(i))) << fragen << " questions, column " << i;
+            EXPECT_EQ(zahl(4 + i), felder.werte.at(felderfolge.at(i)))
+                << fragen << " questions, column " << i;
         }
         constexpr std::array<std::size_t, 4> punktefolge{3, 2, 0, 1};
         for (std::size_t i = 0; i < punktefolge.size(); ++i) {
-            EXPECT_EQ(zahl(9 + i), punkte.at(punktefolge.at(i))) << zahl(2) << " an area, column " << i;
+            EXPECT_EQ(zahl(9 + i), punkte.werte.at(punktefolge.at(i))) << zahl(2) << " an area, column " << i;
         }
     }
     EXPECT_EQ(zeilen, 11);
@@ -82,7 +84,7 @@ TEST(Regelzahlen, TheExampleBoardIsFullAndHoldsEveryKindUpToItsLimit) {
     };
     EXPECT_EQ(anzahl("<td><div class=\"feld"), 30);
     for (std::size_t i = 0; i < buchstaben.size(); ++i) {
-        EXPECT_EQ(anzahl("<div class=\"feld k" + buchstaben.substr(i, 1) + "\">"), werkFelder.at(i));
+        EXPECT_EQ(anzahl("<div class=\"feld k" + buchstaben.substr(i, 1) + "\">"), werkFelder.werte.at(i));
     }
 }
 
@@ -94,10 +96,10 @@ TEST(Regelzahlen, TheHandbooksTableHasThePointsAndTheLimitsOfTheRules) {
     for (std::sregex_iterator lauf(handbuch.begin(), handbuch.end(), zeile), ende; lauf != ende;
          ++lauf, ++zeilen) {
         const std::size_t art = buchstaben.find((*lauf)[1].str());
-        EXPECT_EQ((*lauf)[3].str(), std::to_string(werkFelder.at(art))) << (*lauf)[1].str();
+        EXPECT_EQ((*lauf)[3].str(), std::to_string(werkFelder.werte.at(art))) << (*lauf)[1].str();
         // Risk and task have no points of their own on the screen: dots and a word stand there.
         if (art == buchstaben.find('E') || art == buchstaben.find('G') || art == buchstaben.find('J')) {
-            EXPECT_EQ((*lauf)[2].str(), std::to_string(werkPunkte.at(art))) << (*lauf)[1].str();
+            EXPECT_EQ((*lauf)[2].str(), std::to_string(werkPunkte.werte.at(art))) << (*lauf)[1].str();
         }
     }
     EXPECT_EQ(zeilen, buchstaben.size());

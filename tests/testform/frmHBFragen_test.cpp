@@ -1,6 +1,6 @@
 // The window of the test form: what a new one holds, the head, typing, points and totals, its layout.
-#include "quizform/formdaten.h"
-#include "settings/einstellungen.h"
+#include "quizform/quizformular.h"
+#include "rules/spielwerte.h"
 #include "tests/hilfe/bild.h"
 #include "tests/testform/testhilfe.h"
 
@@ -30,15 +30,15 @@ private Q_SLOTS:
 
 void FrmHBFragenTest::aNewFormStartsEmpty() {
     Programm programm;
-    HBFrageText.fill("alt");
-    HBPunkte.fill(9);
-    HBFach = " alt";
-    HBGesamtpunkte = 90;
+    HBForm.HBFrageText.fill("alt");
+    HBForm.HBPunkte.fill(9);
+    HBForm.HBFach = " alt";
+    HBForm.HBGesamtpunkte = 90;
     const frmHBFragen* form = programm.NeuesTestformular();
     QCOMPARE(form->windowTitle(), QStringLiteral(" Neues Testformular"));
-    QCOMPARE(FormTyp, std::string("Test"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-    QCOMPARE(DateiName, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Test);
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Stand.HBDateiName, std::string());
     QCOMPARE(form->titel.panel->caption(), QStringLiteral(" TEST  HFZ"));
     QCOMPARE(form->fach.panel->caption(), QStringLiteral(" Fach"));
     QCOMPARE(form->gruppe.panel->caption(), QStringLiteral(" Gruppe :"));
@@ -52,11 +52,11 @@ void FrmHBFragenTest::aNewFormStartsEmpty() {
         QCOMPARE(HB_Antwort(n), std::string());
         QCOMPARE(form->pnlPunkte.at(Nr(n))->caption(), QString());
         QCOMPARE(Grund(form->txtFrage.at(Nr(n))), Systemflaeche());
-        QCOMPARE(HBFrageText.at(Nr(n)), std::string());
-        QCOMPARE(HBPunkte.at(Nr(n)), std::int16_t(0));
+        QCOMPARE(HBForm.HBFrageText.at(Nr(n)), std::string());
+        QCOMPARE(HBForm.HBPunkte.at(Nr(n)), std::int16_t(0));
     }
-    QCOMPARE(HBFach, std::string());
-    QCOMPARE(HBGesamtpunkte, std::int16_t(0));
+    QCOMPARE(HBForm.HBFach, std::string());
+    QCOMPARE(HBForm.HBGesamtpunkte, std::int16_t(0));
 }
 
 void FrmHBFragenTest::everyControlOfTheFormIsThere() {
@@ -108,7 +108,7 @@ void FrmHBFragenTest::choosingAGroupShowsItBehindOneBlank() {
     KopfWaehlen(form->gruppe, QStringLiteral("II"), true);
     QCOMPARE(form->lblGruppe->text(), QStringLiteral(" II"));
     QCOMPARE(form->gruppe.panel->caption(), QStringLiteral(" Gruppe :"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible());
     KopfWaehlen(form->gruppe, QStringLiteral("IV"), false);
     QCOMPARE(form->lblGruppe->text(), QStringLiteral(" IV"));
@@ -118,17 +118,17 @@ void FrmHBFragenTest::choosingTitleAndSubject() {
     Programm programm;
     const frmHBFragen* form = programm.NeuesTestformular();
     for (const bool mitTaste : {true, false}) {
-        FormStatusSetzen(0);
+        FormStatusSetzen(false);
         KopfWaehlen(form->titel, QStringLiteral("Späherprüfung"), mitTaste);
         QCOMPARE(form->titel.panel->caption(), QStringLiteral(" Späherprüfung"));
-        QCOMPARE(FormGeaendert, std::int16_t(1));
-        FormStatusSetzen(0);
+        QVERIFY(Stand.FormGeaendert);
+        FormStatusSetzen(false);
         KopfWaehlen(form->fach, QStringLiteral("Knoten"), mitTaste);
         QCOMPARE(form->fach.panel->caption(), QStringLiteral(" Knoten"));
-        QCOMPARE(FormGeaendert, std::int16_t(1));
+        QVERIFY(Stand.FormGeaendert);
     }
     HB_Merken();
-    QCOMPARE(HBFach, std::string(" Knoten"));
+    QCOMPARE(HBForm.HBFach, std::string(" Knoten"));
 }
 
 void FrmHBFragenTest::aListLeftWithoutAChoiceGivesWayToItsPanel() {
@@ -146,7 +146,7 @@ void FrmHBFragenTest::aListLeftWithoutAChoiceGivesWayToItsPanel() {
     form->txtFrage.at(1)->setFocus();
     QTRY_VERIFY(form->titel.panel->isVisible());
     QVERIFY(!form->titel.liste->isVisible());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FrmHBFragenTest::typingPaintsTheRowAndMarksTheForm() {
@@ -157,13 +157,13 @@ void FrmHBFragenTest::typingPaintsTheRowAndMarksTheForm() {
     antwort->setFocus();
     QTRY_VERIFY(antwort->hasFocus());
     QTest::keyClicks(antwort, QStringLiteral("Ja"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QCOMPARE(Grund(antwort), Systemflaeche()); // the question decides
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     frage->setFocus();
     QTRY_VERIFY(frage->hasFocus());
     QTest::keyClicks(frage, QStringLiteral("W"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QCOMPARE(Grund(frage), QColor(Qt::white));
     QCOMPARE(Grund(antwort), QColor(Qt::white));
     QTest::keyClick(frage, Qt::Key_Backspace);
@@ -179,13 +179,12 @@ void FrmHBFragenTest::typedTextReachesTheArraysOnlyWithTheMerge() {
     QTest::keyClicks(form->txtFrage.at(2), QStringLiteral("Wozu?"));
     form->txtAntwort.at(5)->setFocus();
     QTRY_VERIFY(form->txtAntwort.at(5)->hasFocus());
-    QCOMPARE(AktuellesFeld, std::int16_t(2));
     QCOMPARE(form->HBAlterText, std::string("Wozu?"));
-    QCOMPARE(HBFrageText.at(2), std::string());
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string());
     form->txtFrage.at(1)->setFocus();
-    QTRY_COMPARE(AktuellesFeld, std::int16_t(5));
+    QTRY_COMPARE(form->HBAlterText, form->txtAntwort.at(5)->text());
     HB_Merken();
-    QCOMPARE(HBFrageText.at(2), std::string("Wozu?"));
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string("Wozu?"));
 }
 
 void FrmHBFragenTest::takingTheFocusSelectsTheText() {
@@ -207,9 +206,9 @@ void FrmHBFragenTest::aRowAt20BeginsAgainAt0() {
     QCOMPARE(Summenfeld(programm), QStringLiteral("23"));
     Drehen(form, 2, "hoch");
     QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("0"));
-    QCOMPARE(HBPunkte.at(2), std::int16_t(0));
+    QCOMPARE(HBForm.HBPunkte.at(2), std::int16_t(0));
     QCOMPARE(Summenfeld(programm), QStringLiteral("3"));
-    QCOMPARE(HBGesamtpunkte, std::int16_t(3));
+    QCOMPARE(HBForm.HBGesamtpunkte, std::int16_t(3));
 }
 
 void FrmHBFragenTest::aRowAt0GoesDownTo20() {
@@ -217,10 +216,10 @@ void FrmHBFragenTest::aRowAt0GoesDownTo20() {
     frmHBFragen* form = programm.NeuesTestformular();
     Drehen(form, 7, "runter");
     QCOMPARE(form->pnlPunkte.at(7)->caption(), QStringLiteral("20"));
-    QCOMPARE(HBPunkte.at(7), std::int16_t(20));
+    QCOMPARE(HBForm.HBPunkte.at(7), std::int16_t(20));
     Drehen(form, 7, "runter");
     QCOMPARE(form->pnlPunkte.at(7)->caption(), QStringLiteral("19"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void FrmHBFragenTest::afterBlankingAllPointsOneStepMakesATotalOf1() {
@@ -236,7 +235,7 @@ void FrmHBFragenTest::afterBlankingAllPointsOneStepMakesATotalOf1() {
         QCOMPARE(form->pnlPunkte.at(Nr(n))->caption(), n == 3 ? QStringLiteral("1") : QString());
     }
     QCOMPARE(form->pnlPunktkontrolle->caption(), QStringLiteral(" Gesamtpunkte : 1"));
-    QCOMPARE(HBGesamtpunkte, std::int16_t(1));
+    QCOMPARE(HBForm.HBGesamtpunkte, std::int16_t(1));
 }
 
 void FrmHBFragenTest::tenRowsAt20Make200InAllThreePlaces() {
@@ -270,10 +269,10 @@ void FrmHBFragenTest::theBackgroundIsTheColourOfTheSettings() {
          {Zeile{7, {188, 184, 176}}, Zeile{0, {188, 184, 176}}, Zeile{4, {128, 0, 0}},
           Zeile{8, {128, 128, 128}}, Zeile{15, {255, 255, 255}}}) {
         Programm programm;
-        FarbeHintergrund = nummer;
+        Spiel.FarbeHintergrund = nummer;
         const frmHBFragen* form = programm.NeuesTestformular();
         QCOMPARE(form->palette().color(QPalette::Window), farbe);
-        QCOMPARE(FarbeHintergrund, nummer == 0 ? std::int16_t(7) : nummer);
+        QCOMPARE(Spiel.FarbeHintergrund, nummer == 0 ? std::int16_t(7) : nummer);
     }
 }
 

@@ -2,7 +2,7 @@
 // back.
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/testform/testhilfe.h"
 
 #include <QAction>
@@ -41,7 +41,7 @@ void HbBefehleTest::refusingTheNewFormChangesNothing() {
         Druecken(programm, QStringLiteral("cmdNeuHB"));
         QVERIFY(dialoge.fertig());
         QVERIFY(HBFragenOffen() == nullptr);
-        QCOMPARE(FormTyp, std::string());
+        QCOMPARE(Stand.FormTyp, Formart::Keine);
         QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
     }
 }
@@ -54,14 +54,14 @@ void HbBefehleTest::theMainMenusEntryPutsTheFormerModeBackWhenRefused() {
         dialoge.frage(neuTitel, neuFrage, 2);
         eintrag->trigger();
     }
-    QCOMPARE(FormTyp, std::string());
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
     QVERIFY(Finden(programm.haupt(), QStringLiteral("cmdEnde"))->isVisible());
     const frmFKFragen* quiz = programm.NeuesQuizformular();
     Dialogfolge dialoge;
     dialoge.frage(neuTitel, neuFrage, 2);
     eintrag->trigger();
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
     QCOMPARE(FKFragenOffen(), quiz);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picFK"))->isVisible());
     QVERIFY(Finden(programm.haupt(), QStringLiteral("pnlFKFelder"))->isVisible());
@@ -94,7 +94,7 @@ void HbBefehleTest::theMainMenusEntryRefusedPutsTheCountsBackAfterAFormHasGone()
         Finden<QAction>(programm.haupt(), QStringLiteral("mDatei(2)"))->trigger();
         QVERIFY(dialoge.fertig());
         QCOMPARE(gezeigt(), vorher);
-        QCOMPARE(FormTyp, std::string());
+        QCOMPARE(Stand.FormTyp, Formart::Keine);
     }
 }
 
@@ -104,7 +104,7 @@ void HbBefehleTest::theMainMenusEntryMakesANewForm() {
     dialoge.frage(neuTitel, neuFrage, 6);
     Finden<QAction>(programm.haupt(), QStringLiteral("mDatei(2)"))->trigger();
     QVERIFY(HBFragenOffen() != nullptr);
-    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picHB"))->isVisible());
 }
 
@@ -123,7 +123,7 @@ void HbBefehleTest::aNewFormAsksAboutUnsavedChanges() {
     Druecken(programm, QStringLiteral("cmdDateiHB(1)")); // discarded without a second question
     QVERIFY(dialoge.fertig());
     QCOMPARE(HB_Frage(1), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbBefehleTest::aNewTestFormTakesThePlaceOfAQuizForm() {
@@ -132,7 +132,7 @@ void HbBefehleTest::aNewTestFormTakesThePlaceOfAQuizForm() {
     ModusHaupt(); // as the back button leaves it while another window is in front
     programm.NeuesTestformular();
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string("Test"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdFKFLaden"))->isEnabled());
     QCOMPARE(Finden<QMdiArea>(programm.haupt(), QStringLiteral("kindflaeche"))->subWindowList().size(), 1);
 }
@@ -143,7 +143,7 @@ void HbBefehleTest::aNewQuizFormTakesThePlaceOfATestForm() {
     ModusHaupt();
     programm.NeuesQuizformular();
     QVERIFY(HBFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string("FK"));
+    QCOMPARE(Stand.FormTyp, Formart::Quiz);
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("cmdHBFLaden"))->isEnabled());
 }
 
@@ -178,12 +178,12 @@ void HbBefehleTest::closingAChangedFormAsksAndAbbrechenKeepsIt() {
     dialoge.frage(neuTitel, neuSpeichernFrage, 2);
     Druecken(programm, QStringLiteral("cmdDateiHB(5)"));
     QCOMPARE(HBFragenOffen(), form);
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     dialoge.frage(neuTitel, neuSpeichernFrage, 7);
     Druecken(programm, QStringLiteral("cmdDateiHB(5)"));
     QVERIFY(HBFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbBefehleTest::closingAnUnchangedFormAsksNothing() {
@@ -243,11 +243,10 @@ void HbBefehleTest::theBackButtonWithAnotherWindowInFrontOnlySwapsTheToolbar() {
     frmHBFragen* form = programm.NeuesTestformular();
     form->txtFrage.at(1)->setText("bleibt");
     auto* anderes = new QWidget;
-    anderes->setProperty("tag", QStringLiteral("Editor"));
     KindfensterAufnehmen(anderes);
     anderes->show();
-    KindNachVorn("Editor");
-    QTRY_COMPARE(AktivesKind(), std::string("Editor"));
+    KindNachVorn(anderes);
+    QTRY_COMPARE(AktivesKind(), anderes);
     Dialogfolge dialoge;
     Druecken(programm, QStringLiteral("cmdHBZurueck"));
     QVERIFY(Finden(programm.haupt(), QStringLiteral("picKranz"))->isVisible());
@@ -284,17 +283,17 @@ void HbBefehleTest::theFormBringsItsOwnMenus() {
 void HbBefehleTest::theBackupSwitchOfTheMenuIsTheOption() {
     Programm programm;
     programm.NeuesTestformular();
-    OptionDatei = 0;
+    Spiel.OptionDatei = false;
     auto* eintrag = Finden<QAction>(programm.haupt(), QStringLiteral("mBackUpHB"));
     auto* menue = Finden<QMenu>(programm.haupt(), QStringLiteral("mOptionen"));
     Q_EMIT menue->aboutToShow();
     QVERIFY(!eintrag->isChecked());
     eintrag->trigger();
-    QCOMPARE(OptionDatei, std::int16_t(1));
+    QVERIFY(Spiel.OptionDatei);
     QVERIFY(eintrag->isChecked());
     eintrag->trigger();
-    QCOMPARE(OptionDatei, std::int16_t(0));
-    OptionDatei = 1; // by another switch
+    QVERIFY(!Spiel.OptionDatei);
+    Spiel.OptionDatei = true; // by another switch
     Q_EMIT menue->aboutToShow();
     QVERIFY(eintrag->isChecked());
 }

@@ -28,7 +28,7 @@ frmHBFragen* Gefuellt(Programm& programm) {
     Fuellen(form, 1, "Frage eins", "Antwort eins");
     Fuellen(form, 10, "Frage zehn", "Antwort zehn");
     Drehen(form, 1, "hoch", 5);
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     return form;
 }
 
@@ -71,15 +71,15 @@ void HbBlankoTest::eachContentIsBlankedAndPutBackByItsButtons() {
     const QStringList vorher = Gezeigt(form);
     for (int spalte = 0; spalte < 3; ++spalte) {
         const Inhalt& inhalt = inhalte.at(Nr(spalte));
-        FormStatusSetzen(0);
+        FormStatusSetzen(false);
         Dialogfolge dialoge;
         dialoge.frage(inhalt.titel, inhalt.frage + wiederEinfuegen, 6);
         Druecken(programm, QLatin1String(inhalt.loeschen));
         QCOMPARE(Gezeigt(form), Ohne(vorher, spalte));
-        QCOMPARE(FormGeaendert, std::int16_t(spalte == 2 ? 0 : 1)); // a panel's caption marks nothing
-        QCOMPARE(HBFrageText.at(1), std::string("Frage eins"));
-        QCOMPARE(HBAntwortText.at(10), std::string("Antwort zehn"));
-        QCOMPARE(HBPunkte.at(1), std::int16_t(5));
+        QCOMPARE(Stand.FormGeaendert, std::int16_t(spalte == 2 ? 0 : 1)); // a panel's caption marks nothing
+        QCOMPARE(HBForm.HBFrageText.at(1), std::string("Frage eins"));
+        QCOMPARE(HBForm.HBAntwortText.at(10), std::string("Antwort zehn"));
+        QCOMPARE(HBForm.HBPunkte.at(1), std::int16_t(5));
         Druecken(programm, QLatin1String(inhalt.laden));
         QCOMPARE(Gezeigt(form), vorher);
         Druecken(programm, QLatin1String(inhalt.laden));
@@ -118,7 +118,7 @@ void HbBlankoTest::abbrechenAndTheFrameBlankNothing() {
             QCOMPARE(Gezeigt(form), vorher);
         }
     }
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbBlankoTest::aMergeAfterTheBlankingLosesTheStoredTexts() {
@@ -189,14 +189,14 @@ void HbBlankoTest::aSecondBlankingAsksAgainAndChangesNothing() {
     Programm programm;
     const frmHBFragen* form = Gefuellt(programm);
     HB_FragenLoeschen();
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
     const QStringList vorher = Gezeigt(form);
     Dialogfolge dialoge;
     dialoge.frage(inhalte[0].titel, inhalte[0].frage + wiederEinfuegen, 6);
     Druecken(programm, QStringLiteral("cmdHBFLoeschen"));
     QVERIFY(dialoge.fertig());
     QCOMPARE(Gezeigt(form), vorher);
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 QTEST_MAIN(HbBlankoTest)

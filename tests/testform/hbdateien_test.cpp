@@ -1,10 +1,10 @@
 // Saving and opening test forms, and how the two kinds of form refuse each other's files.
 #include "core/hauptfenster.h"
 #include "formlauf.h"
+#include "forms/oeffnen.h"
 #include "persistence/formulardatei.h"
-#include "persistence/oeffnen.h"
 #include "quizform/fkformular.h"
-#include "settings/einstellungen.h"
+#include "rules/spielwerte.h"
 #include "tests/testform/testhilfe.h"
 
 #include <QDir>
@@ -19,8 +19,7 @@ const QByteArray& Knoten() {
 }
 
 void Laden(const Formlauf& lauf, const std::string& name) {
-    DateiName = lauf.Pfad(name);
-    FormularLaden();
+    FormularLaden(lauf.Pfad(name));
 }
 
 } // namespace
@@ -67,9 +66,9 @@ void HbDateienTest::aTestFileFillsTheFormAndIsUnchanged() {
     QCOMPARE(form->pnlPunktkontrolle->caption(), QStringLiteral(" Gesamtpunkte : 55"));
     QCOMPARE(form->pnlGesamtpunkte->caption(), QStringLiteral(" Punkte :           / 55"));
     QCOMPARE(Summenfeld(lauf.programm()), QStringLiteral("55"));
-    QCOMPARE(FormTyp, std::string("Test"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-    QCOMPARE(HBDateiName, lauf.Pfad("test.fkr"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Stand.HBDateiName, lauf.Pfad("test.fkr"));
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picHB"))->isVisible());
     QVERIFY(Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagGruen"))->isVisible());
 }
@@ -82,15 +81,15 @@ void HbDateienTest::aTestFileReplacesTheOpenTestForm() {
     lauf.Oeffnen(QStringLiteral("B.FKR"));
     QCOMPARE(HBFragenOffen(), form);
     QCOMPARE(HB_Frage(1), std::string("Zwei"));
-    QCOMPARE(HBDateiName, lauf.Pfad("B.FKR"));
-    QCOMPARE(Datei1, std::string());
+    QCOMPARE(Stand.HBDateiName, lauf.Pfad("B.FKR"));
+    QCOMPARE(Spiel.Datei[0], std::string());
 }
 
 void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
     lauf.Schreiben(QStringLiteral("Q.FKR"), Formlauf::Quiz("Eins"));
     lauf.Oeffnen(QStringLiteral("T.FKR"));
-    FormStatusSetzen(1);
+    FormStatusSetzen(true);
     Dialogfolge dialoge;
     dialoge.meldung(
         QStringLiteral("Ich kann jetzt kein Feldkranzformular laden.\nDu mußt erst das Testformular "
@@ -100,9 +99,9 @@ void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(HB_Frage(1), std::string("Knoten"));
     QVERIFY(FKFragenOffen() == nullptr);
-    QCOMPARE(FormTyp, std::string("Test"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(HBDateiName, lauf.Pfad("T.FKR"));
+    QCOMPARE(Stand.FormTyp, Formart::Test);
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.HBDateiName, lauf.Pfad("T.FKR"));
 }
 
 void HbDateienTest::aSavedTestFormIsByteForByteTheOneThatWasOpened() {
@@ -129,7 +128,7 @@ void HbDateienTest::whatStandsOnTheFormStandsInTheFile() {
     GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
     lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
     HB_Entladen();
     Laden(lauf, "T.FKR");
     form = HBFragenOffen();
@@ -161,7 +160,7 @@ void HbDateienTest::aFormWithoutANameAsksForOneOnlyOnce() {
 void HbDateienTest::theSavedFormKeepsABackupOfItsLastVersion() {
     lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
     lauf.Oeffnen(QStringLiteral("T.FKR"));
-    OptionDatei = 1;
+    Spiel.OptionDatei = true;
     HBFragenOffen()->txtFrage.at(1)->setText("anders");
     Dialogfolge dialoge;
     dialoge.meldung(QStringLiteral("BackUp angelegt :   [ T.BAK ]"), QStringLiteral("Schön"));
@@ -201,9 +200,8 @@ void HbDateienTest::jaBeforeANewFormSavesTheOldOne() {
     QVERIFY(lauf.Lesen(QStringLiteral("T.FKR")).contains("anders"));
     QCOMPARE(HBFragenOffen()->windowTitle(), QStringLiteral(" Neues Testformular"));
     QCOMPARE(HB_Frage(1), std::string());
-    QCOMPARE(HBDateiName, std::string());
-    QCOMPARE(DateiName, std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QCOMPARE(Stand.HBDateiName, std::string());
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbDateienTest::aCancelledSaveKeepsTheFormThatWasToBeReplaced() {
@@ -218,15 +216,15 @@ void HbDateienTest::aCancelledSaveKeepsTheFormThatWasToBeReplaced() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(HBFragenOffen(), form);
     QCOMPARE(HB_Frage(1), std::string("bleibt"));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void HbDateienTest::aFileWithHugePointsIsShownAndItsTotalNeverWraps() {
     Formlauf::Test("Riesig"); // leaves the data empty
-    HBFrageText[1] = "Riesig";
-    HBPunkte[1] = 32767;
-    HBPunkte[2] = 5;
-    const QByteArray bytes = QByteArray::fromStdString(FormularBytes("HBFragen"));
+    HBForm.HBFrageText[1] = "Riesig";
+    HBForm.HBPunkte[1] = 32767;
+    HBForm.HBPunkte[2] = 5;
+    const QByteArray bytes = QByteArray::fromStdString(FormularBytes(HBForm));
     lauf.Schreiben(QStringLiteral("R.FKR"), bytes);
     Laden(lauf, "R.FKR");
     frmHBFragen* form = HBFragenOffen();
@@ -250,14 +248,14 @@ void HbDateienTest::aFailedSaveOfATestFormIsReportedAndClaimsNothing() {
         QStringLiteral("Grrr.. *~§§°"));
     lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
     QVERIFY(dialoge.fertig());
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QCOMPARE(HB_Frage(1), std::string("Knoten"));
     QVERIFY(QDir().rmdir(nativ));
     GespeichertErwarten(dialoge, QStringLiteral("T.FKR"));
     lauf.Druecken(QStringLiteral("cmdDateiHB(3)"));
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(QStringLiteral("T.FKR")), Knoten());
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbDateienTest::saveKeysOfTheMenuSaveTheTestForm() {

@@ -1,8 +1,8 @@
 // Dragging on the test form with a real mouse: from the selection dialog, from row to row, to and from the
 // clipboard panels, to the trash; the refusals, the questions and the pictures at the pointer.
 #include "catalogue/auswahl.h"
-#include "core/ablage.h"
 #include "core/ziehen.h"
+#include "mainwindow/ablage.h"
 #include "tests/hilfe/versagen.h"
 #include "tests/testform/testhilfe.h"
 
@@ -97,10 +97,10 @@ void HbZiehenTest::fromTheSelectionDialogIntoAnEmptyRow() {
     QTRY_COMPARE(HB_Frage(3), frage);
     QCOMPARE(HB_Antwort(3), AuswahlAntwort());
     QVERIFY(!HB_Antwort(3).empty());
-    QCOMPARE(HBFrageText.at(3), frage); // merged at once
+    QCOMPARE(HBForm.HBFrageText.at(3), frage); // merged at once
     QCOMPARE(Grund(form->txtFrage.at(3)), QColor(Qt::white));
-    QCOMPARE(FormGeaendert, std::int16_t(1));
-    QCOMPARE(DragHerkunft, std::string("Auswahl"));
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Gezogen().herkunft, Formart::Keine);
 }
 
 void HbZiehenTest::aRowThatReadsFrageTakesADropWithoutAQuestion() {
@@ -125,8 +125,8 @@ void HbZiehenTest::ontoAnOccupiedRowAnsweredAbbrechenNothingChanges() {
     QCOMPARE(HB_Frage(1), std::string("eins"));
     QCOMPARE(HB_Frage(3), std::string("drei"));
     QCOMPARE(HB_Antwort(3), std::string("tre"));
-    QCOMPARE(FormGeaendert, std::int16_t(0));
-    QCOMPARE(DragArt, std::int16_t(1)); // until the next press
+    QVERIFY(!Stand.FormGeaendert);
+    QCOMPARE(Gezogen().art, Zugart::Verschieben);
 }
 
 void HbZiehenTest::ontoAnOccupiedRowAnsweredJaReplaces() {
@@ -155,8 +155,7 @@ void HbZiehenTest::aMovedQuestionTakesItsAnswerAlongAndLeavesItsPoints() {
     QCOMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("4"));
     QCOMPARE(form->pnlPunkte.at(5)->caption(), QString());
     QCOMPARE(Grund(form->txtFrage.at(2)), Systemflaeche());
-    QCOMPARE(DragArt, std::int16_t(0));
-    QCOMPARE(DragHerkunft, std::string("HBFragen"));
+    QCOMPARE(Gezogen().herkunft, Formart::Test);
 }
 
 void HbZiehenTest::aRowDroppedOnItselfLosesItsQuestion() {
@@ -173,7 +172,7 @@ void HbZiehenTest::aRowDroppedOnItselfLosesItsQuestion() {
     QTRY_VERIFY(dialoge.fertig());
     QTRY_COMPARE(HB_Frage(2), std::string());
     QCOMPARE(HB_Antwort(2), std::string());
-    QCOMPARE(HBFrageText.at(2), std::string()); // merged at once, as every target
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string()); // merged at once, as every target
     QCOMPARE(Grund(form->txtFrage.at(2)), Systemflaeche());
 }
 
@@ -199,7 +198,7 @@ void HbZiehenTest::aCopyWithAnEmptySelectionDialogLeavesTheAnswerEmpty() {
     QCOMPARE(HB_Antwort(5), std::string());
     QCOMPARE(HB_Frage(2), std::string("Wie viele?"));
     QCOMPARE(HB_Antwort(2), std::string("Zwölf"));
-    QCOMPARE(DragArt, std::int16_t(27)); // until the next press
+    QCOMPARE(Gezogen().art, Zugart::Testkopie);
 }
 
 void HbZiehenTest::aCopyTakesTheAnswerFromTheSelectionDialog() {
@@ -217,15 +216,13 @@ void HbZiehenTest::anEmptyRowRefusesThePress() {
     Programm programm;
     frmHBFragen* form = FormLinks(programm);
     form->txtAntwort.at(4)->setText("nur die Antwort");
-    DragArt = 5;
+    const Ziehwert vorher = Gezogen();
     for (const auto taste : {Qt::ShiftModifier, Qt::ControlModifier}) {
-        DragHerkunft = "Auswahl";
         Dialogfolge dialoge;
         dialoge.kasten(QString(), QStringLiteral("Keine Frage vorhanden !"), QStringLiteral("OK"));
         maus::Druecken(form->txtFrage.at(4), taste);
         QTRY_VERIFY(dialoge.fertig());
-        QCOMPARE(DragHerkunft, std::string("HBFragen"));
-        QCOMPARE(DragArt, std::int16_t(5));
+        QVERIFY(Gezogen() == vorher);
     }
 }
 
@@ -233,10 +230,10 @@ void HbZiehenTest::ctrlAndShiftTogetherStartNothing() {
     Programm programm;
     frmHBFragen* form = FormLinks(programm);
     Fuellen(form, 1, "bleibt", "hier");
-    DragArt = 0;
+    const Ziehwert vorher = Gezogen();
     maus::Klicken(form->txtFrage.at(1), Qt::ControlModifier | Qt::ShiftModifier);
     maus::Klicken(form->txtFrage.at(1), Qt::NoModifier);
-    QCOMPARE(DragArt, std::int16_t(0));
+    QVERIFY(Gezogen() == vorher);
     QCOMPARE(AktuellesZiehBild(), ZiehBild::Keins);
     QCOMPARE(HB_Frage(1), std::string("bleibt"));
 }
@@ -246,10 +243,10 @@ void HbZiehenTest::theSourceRowKeepsItsStoredValuesUntilTheMerge() {
     frmHBFragen* form = FormLinks(programm);
     Fuellen(form, 2, "Wie viele?", "Zwölf");
     maus::Ziehen(form->txtFrage.at(2), form->txtFrage.at(5), Qt::ShiftModifier);
-    QTRY_COMPARE(HBFrageText.at(5), std::string("Wie viele?"));
-    QCOMPARE(HBFrageText.at(2), std::string("Wie viele?"));
+    QTRY_COMPARE(HBForm.HBFrageText.at(5), std::string("Wie viele?"));
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string("Wie viele?"));
     HB_Merken();
-    QCOMPARE(HBFrageText.at(2), std::string());
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string());
 }
 
 void HbZiehenTest::nothingButAQuestionTakesADrop() {
@@ -263,7 +260,7 @@ void HbZiehenTest::nothingButAQuestionTakesADrop() {
         QCOMPARE(HB_Frage(2), std::string("bleibt"));
         QCOMPARE(HB_Antwort(4), std::string());
     }
-    QCOMPARE(FormGeaendert, std::int16_t(0));
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void HbZiehenTest::parkingAMovedQuestionEmptiesItsRow() {
@@ -274,9 +271,9 @@ void HbZiehenTest::parkingAMovedQuestionEmptiesItsRow() {
     QTRY_COMPARE(AblageFrage(), std::string("Wie viele?"));
     QCOMPARE(AblageAntwort(), std::string("Zwölf"));
     QCOMPARE(HB_Frage(2), std::string());
-    QCOMPARE(HBFrageText.at(2), std::string()); // merged
+    QCOMPARE(HBForm.HBFrageText.at(2), std::string()); // merged
     QCOMPARE(Grund(form->txtFrage.at(2)), Systemflaeche());
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QVERIFY(Stand.FormGeaendert);
     QCOMPARE(Ablage(programm, "pnlCopyF")->grund(), QColor(Qt::white));
 }
 
@@ -313,7 +310,6 @@ void HbZiehenTest::aParkedQuestionBringsItsAnswerAndEmptiesNoRow() {
         QCOMPARE(HB_Antwort(zeile), std::string("dazu"));
         QCOMPARE(AblageFrage(), std::string("geparkt"));
         QCOMPARE(HB_Frage(1), std::string("eins"));
-        QCOMPARE(DragArt, std::int16_t(0));
     }
 }
 
@@ -331,8 +327,8 @@ void HbZiehenTest::theTrashEmptiesARowAfterItsQuestion() {
     maus::Ziehen(form->txtFrage.at(1), muell, Qt::ShiftModifier);
     QTRY_COMPARE(HB_Frage(1), std::string());
     QCOMPARE(HB_Antwort(1), std::string());
-    QTRY_COMPARE(HBFrageText.at(1), std::string());
-    QCOMPARE(FormGeaendert, std::int16_t(1));
+    QTRY_COMPARE(HBForm.HBFrageText.at(1), std::string());
+    QVERIFY(Stand.FormGeaendert);
 }
 
 void HbZiehenTest::theSameWayWithKeysAlone() {

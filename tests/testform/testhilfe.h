@@ -1,10 +1,10 @@
 // What the tests of the test form share: filling rows, reading colours, the texts of its questions.
 #pragma once
 
-#include "core/frmMDI.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
-#include "core/zustand.h"
+#include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/dialogfolge.h"
@@ -31,7 +31,7 @@ inline void Fuellen(frmHBFragen* form, int n, const char* frage, const char* ant
     form->txtFrage.at(Nr(n))->setText(frage);
     form->txtAntwort.at(Nr(n))->setText(antwort);
     HB_Merken();
-    FormStatusSetzen(0);
+    FormStatusSetzen(false);
 }
 
 inline QColor Grund(const Textfeld* feld) {

@@ -1,0 +1,33 @@
+#include "core/formularfenster.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// While one form takes another's place both may exist for a moment; the one that came last is the open one.
+std::vector<Formularfenster*> formulare;
+
+} // namespace
+
+Formularfenster* OffenesFormular() {
+    return formulare.empty() ? nullptr : formulare.back();
+}
+
+Formularfenster* OffenesFormular(Formart art) {
+    const auto fund = std::ranges::find_if(formulare, [art](const auto* form) { return form->art() == art; });
+    return fund == formulare.end() ? nullptr : *fund;
+}
+
+Formart OffeneArt() {
+    const Formularfenster* form = OffenesFormular();
+    return form == nullptr ? Formart::Keine : form->art();
+}
+
+void FormularAnmelden(Formularfenster& form) {
+    formulare.push_back(&form);
+}
+
+void FormularAbmelden(const Formularfenster& form) {
+    std::erase(formulare, &form);
+}

@@ -1,0 +1,35 @@
+#include "forms/formularpfad.h"
+
+#include "core/datei.h"
+#include "core/pfad.h"
+#include "forms/formulare.h"
+
+namespace {
+
+struct Gemerkt {
+    std::string pfad;
+    QString nativ;
+};
+Gemerkt gemerkt;
+
+} // namespace
+
+void FormularpfadMerken(Formart art, const std::string& pfad) {
+    Formulardatei(art) = pfad;
+    gemerkt = {pfad, NativerPfad(pfad)};
+}
+
+void FormularpfadVergessen(Formart art) {
+    Formulardatei(art).clear();
+}
+
+std::string Formularpfad(Formart art) {
+    std::string pfad = Formulardatei(art);
+    if (!pfad.empty() && pfad == gemerkt.pfad) {
+        AuswahlMerken(pfad, gemerkt.nativ);
+        if (NativerPfad(pfad) != gemerkt.nativ && DateiDa(pfad)) {
+            return {}; // the file has gone and another one answers to its name: a save asks for one
+        }
+    }
+    return pfad;
+}

@@ -1,0 +1,16 @@
+// The path of the open form itself, together with the very file that it means.
+#pragma once
+
+#include "core/formart.h"
+
+#include <string>
+
+// The open form's file is that path, exactly as it is found now.
+void FormularpfadMerken(Formart art, const std::string& pfad);
+
+// The open form has no file of its own: the next save asks for a name.
+void FormularpfadVergessen(Formart art);
+
+// The open form's path, meaning the same file as when it was noted, also if another file that differs only in
+// case was chosen since. "" for a form that has no file yet.
+[[nodiscard]] std::string Formularpfad(Formart art);

@@ -1,0 +1,116 @@
+#include "forms/oeffnen.h"
+
+#include "core/formularfenster.h"
+#include "core/hauptfenster.h"
+#include "core/pfadname.h"
+#include "core/programmstand.h"
+#include "dialogs/meldung.h"
+#include "editor/editordaten.h"
+#include "filetools/dateidialog.h"
+#include "forms/formulare.h"
+#include "forms/formularlesen.h"
+#include "forms/formularpfad.h"
+#include "forms/rettung.h"
+#include "forms/speichern.h"
+#include "persistence/dateiliste.h"
+#include "persistence/rettungsname.h"
+#include "persistence/texte.h"
+
+#include <functional>
+
+namespace {
+
+using namespace persistenztexte;
+
+// What was rescued comes back as a form without a file: a save must not go over the rescued one.
+void PfadUebernehmen(Formart art, const std::string& pfad) {
+    if (IstRettungsname(NurDateiname(pfad))) {
+        FormularpfadVergessen(art);
+    } else {
+        FormularpfadMerken(art, pfad);
+    }
+}
+
+void Zeigen(Formart art, const std::string& pfad) {
+    if (art == Formart::Quiz) {
+        DateilisteErgaenzen(Spiel.Datei, pfad);
+        DateilisteAnzeigen();
+        GelesenesZeigen(art, NurDateiname(pfad) + " ");
+    } else {
+        GelesenesZeigen(art, " Test : " + NurDateiname(pfad));
+    }
+    PfadUebernehmen(art, pfad);
+    FormStatusSetzen(false);
+}
+
+// A tag of no kind opens no form, and a form that is open stays as it is.
+void NichtsZeigen() {
+    Stand.FormTyp = OffeneArt();
+    if (Stand.FormTyp == Formart::Keine) {
+        FormStatusSetzen(false);
+    }
+}
+
+// True when the file was taken.
+bool Laden(const std::string& pfad, const std::function<bool()>& vorDemErsatz) {
+    if (pfad.empty()) {
+        Meldung(keineDatei);
+        return false;
+    }
+    Editor.DateiAlt = pfad;
+    const Lesung lesung = FormularEinlesen(pfad, vorDemErsatz);
+    if (lesung == Lesung::KeinFormular) {
+        Meldung(keinFormular);
+    }
+    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
+        return false;
+    }
+    if (Stand.FormTyp == Formart::Quiz || Stand.FormTyp == Formart::Test) {
+        Zeigen(Stand.FormTyp, pfad);
+    } else {
+        NichtsZeigen();
+    }
+    return true;
+}
+
+} // namespace
+
+void FormularOeffnen() {
+    if (Stand.FormGeaendert && !AuswertungGesichert()) {
+        return;
+    }
+    const auto gewaehlt =
+        DateidialogZeigen({std::string(oeffnen),
+                           false,
+                           {"Feldkranz-Formular (*.FKR)", "Feldkranz-Formular (*.BAK)", "Alle Dateien (*.*)"},
+                           {"*.fkr", "*.*"},
+                           "*.FKR",
+                           "",
+                           "",
+                           true,
+                           Formulardatei(OffeneArt())});
+    FormularLaden(gewaehlt.value_or(""));
+}
+
+void FormularLaden(const std::string& pfad) {
+    Stand.FormTyp = OffeneArt(); // without a form the list of forms may have set one
+    Laden(pfad, {});
+}
+
+void GelistetesOeffnen(const std::string& pfad) {
+    if (!Stand.FormGeaendert || AuswertungGesichert()) {
+        FormularLaden(pfad);
+    }
+}
+
+bool FormularErsetzen(const std::string& pfad) {
+    if (const Formart art = OffeneArt(); art != Formart::Keine) {
+        Stand.FormTyp = art; // the list's buttons may have set another one
+    }
+    std::string gerettet;
+    const bool genommen = Laden(pfad, [&] { return UngesichertesRetten(pfad, gerettet); });
+    if (!gerettet.empty()) {
+        HilfeText(Einsetzen(rettungsort, {gerettet}));
+    }
+    return genommen;
+}

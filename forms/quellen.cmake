@@ -1,0 +1,9 @@
+feldkranz_quellen(fenster
+  forms/formulare.cpp
+  forms/formularlesen.cpp
+  forms/formularpfad.cpp
+  forms/oeffnen.cpp
+  forms/quizformulare.cpp
+  forms/rettung.cpp
+  forms/speichern.cpp
+  forms/testformulare.cpp)

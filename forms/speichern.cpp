@@ -1,0 +1,171 @@
+#include "forms/speichern.h"
+
+#include "core/datei.h"
+#include "core/formularfenster.h"
+#include "core/hauptfenster.h"
+#include "core/pfadname.h"
+#include "core/programmstand.h"
+#include "core/wartezeiger.h"
+#include "dialogs/meldung.h"
+#include "editor/editordaten.h"
+#include "filetools/dateidialog.h"
+#include "forms/formulare.h"
+#include "forms/formularpfad.h"
+#include "persistence/formulardatei.h"
+#include "persistence/sicherung.h"
+#include "persistence/texte.h"
+
+#include <optional>
+
+namespace {
+
+using namespace persistenztexte;
+
+// The form to be saved comes to the front, so that it is the one whose layout is written, whatever child
+// window the user looked at last.
+Formularfenster* FormularVorbereiten() {
+    Formularfenster* form = OffenesFormular();
+    if (form != nullptr) {
+        KindNachVorn(form->fenster());
+    }
+    return form;
+}
+
+// Writes the whole form. The old file is whole until the new one is.
+void FormularSchreiben(Formularfenster& form, const std::string& pfad) {
+    const Wartezeiger warten;
+    form.KopfMerken();
+    DateiSchreiben(pfad, form.art() == Formart::Quiz ? FormularBytes(FKForm, Spiel) : FormularBytes(HBForm));
+}
+
+// True when the form stands in its file; everything else was told.
+bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
+    if (form == nullptr || NurDateiname(pfad).empty()) {
+        Meldung(nameFehlt);
+        return false;
+    }
+    SicherungAnlegenForm(pfad);
+    try {
+        FormularSchreiben(*form, pfad);
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden("DATEI : FormularSpeichern", fehler);
+        FormStatusSetzen(true); // what the form shows may stand in no file by now
+        return false;
+    }
+    FormularpfadMerken(form->art(), pfad);
+    Meldung(gespeichert, {NurDateiname(pfad)});
+    FormStatusSetzen(false);
+    return true;
+}
+
+std::string MitEndung(std::string pfad, std::string_view endung) {
+    if (!NurDateiname(pfad).empty() && !Grossschreiben(pfad).ends_with(endung)) {
+        pfad += endung;
+    }
+    return pfad;
+}
+
+// Asks until the answer is Ja. False when the existing file is to stay.
+bool DarfUeberschreiben(const std::string& pfad, Speicherart art) {
+    if (!DateiDa(pfad)) {
+        return true;
+    }
+    const std::string_view wasDa = art == Speicherart::Ini ? dieIniDatei : dieAuswertung;
+    Antwort antwort = Antwort::Nein;
+    while (antwort != Antwort::Ja) {
+        antwort = Nachricht(ueberschreiben, {wasDa, NurDateiname(pfad)});
+        if (antwort == Antwort::Abbrechen) {
+            Meldung(abgebrochen);
+            return false;
+        }
+    }
+    return true;
+}
+
+// Asks for the name. No value when the dialog was cancelled.
+std::optional<std::string> NameErfragen(const std::string& bisher) {
+    return DateidialogZeigen({std::string(speichernUnter),
+                              true,
+                              {"Feldkranz-Formular (*.FKR)", "Alle Dateien (*.*)"},
+                              {"*.fkr", "*.bak", "*.ini", "*.*"},
+                              "*.FKR",
+                              "",
+                              NurDateiname(bisher),
+                              true,
+                              bisher});
+}
+
+void BefehleZuruecknehmen(Formart art) {
+    BefehleFreigeben(art, false);
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        MiniaturFaerben(n, std::nullopt);
+    }
+    FormStatusSetzen(false);
+    FlaggeZeigen(true);
+}
+
+// Brings the stored copy up to date and saves it.
+bool MergenUndSpeichern() {
+    OffenesMerken();
+    return Speichern();
+}
+
+} // namespace
+
+bool Speichern() {
+    Formularfenster* form = FormularVorbereiten();
+    if (form == nullptr) {
+        return FormularSpeichern(form, {}); // which says that there is nothing to save
+    }
+    const std::string pfad = Formularpfad(form->art());
+    return pfad.empty() ? SpeichernUnter(Speicherart::Formular) : FormularSpeichern(form, pfad);
+}
+
+bool SpeichernUnter(Speicherart art) {
+    Formularfenster* form = FormularVorbereiten();
+    if (form == nullptr) {
+        return FormularSpeichern(form, {});
+    }
+    SoundSpielen("freiz_2");
+    const std::optional<std::string> gewaehlt = NameErfragen(Formularpfad(form->art()));
+    const std::string pfad = MitEndung(gewaehlt.value_or(""), art == Speicherart::Ini ? ".INI" : ".FKR");
+    if (gewaehlt) {
+        Editor.DateiAlt = pfad;
+    }
+    if (!gewaehlt || !DarfUeberschreiben(pfad, art) || !FormularSpeichern(form, pfad)) {
+        static_cast<void>(Formularpfad(form->art())); // the form keeps the file it had
+        return false;
+    }
+    form->TitelSetzen(NurDateiname(pfad) + " ");
+    return true;
+}
+
+bool AuswertungGesichert() {
+    Antwort antwort = Antwort::OK;
+    while (antwort != Antwort::Ja && antwort != Antwort::Nein) {
+        antwort = Nachricht(aenderungen);
+        if (antwort == Antwort::Abbrechen) {
+            return false;
+        }
+    }
+    if (antwort == Antwort::Nein) {
+        Meldung(nichtGespeichert);
+        return true;
+    }
+    if (!MergenUndSpeichern()) {
+        return false; // a save that did not come about counts as Abbrechen
+    }
+    Meldung(wurdeGespeichert);
+    return true;
+}
+
+bool SchliessenErlaubt(Formart art) {
+    if (Stand.FormGeaendert) {
+        const Antwort antwort = Nachricht(schliessen);
+        if (antwort == Antwort::Abbrechen || (antwort == Antwort::Ja && !MergenUndSpeichern())) {
+            return false;
+        }
+    }
+    BefehleZuruecknehmen(art);
+    return true;
+}

@@ -1,0 +1,62 @@
+#include "mainwindow/flaggen.h"
+
+#include "core/bilder.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+#include "core/programmstand.h"
+#include "editor/editor.h"
+
+#include <QLabel>
+#include <QPointer>
+
+#include <array>
+
+namespace {
+
+QPointer<QLabel> picEingabeFlagGruen;
+QPointer<QLabel> picEingabeFlagRot;
+
+// They differ in shape as well: one flies at the top, the other hangs lower.
+QLabel* FlaggeBauen(QWidget* pnlKranz, const char* name, std::string_view bild) {
+    auto* flagge = new QLabel(pnlKranz);
+    flagge->setObjectName(QLatin1String(name));
+    flagge->setPixmap(Bild(bild, flagge->devicePixelRatioF()));
+    flagge->hide();
+    return flagge;
+}
+
+} // namespace
+
+void FlaggenBauen(QWidget* pnlKranz) {
+    picEingabeFlagGruen = FlaggeBauen(pnlKranz, "picEingabeFlagGruen", "status/flagge_gruen");
+    picEingabeFlagGruen->setAccessibleName(QStringLiteral("Alles gespeichert"));
+    picEingabeFlagRot = FlaggeBauen(pnlKranz, "picEingabeFlagRot", "status/flagge_rot");
+    picEingabeFlagRot->setAccessibleName(QStringLiteral("Ungespeicherte Änderungen"));
+}
+
+void FlaggenAnordnen(QWidget* pnlKranz) {
+    const auto* picFK = pnlKranz->findChild<QWidget*>(QStringLiteral("picFK"));
+    const auto* picHB = pnlKranz->findChild<QWidget*>(QStringLiteral("picHB"));
+    const QWidget* leiste = picHB->isHidden() ? picFK : picHB;
+    for (QLabel* flagge : {picEingabeFlagGruen.data(), picEingabeFlagRot.data()}) {
+        flagge->setGeometry(Pixel(60) + leiste->width() + Pixel(120), Pixel(60), 24, Pixel(375));
+    }
+}
+
+void FlaggeZeigen(bool rot) {
+    if (picEingabeFlagRot.isNull()) {
+        return;
+    }
+    picEingabeFlagRot->setVisible(rot);
+    picEingabeFlagGruen->setVisible(!rot);
+}
+
+void FormStatusSetzen(bool geaendert) {
+    Stand.FormGeaendert = geaendert;
+    FlaggeZeigen(geaendert);
+}
+
+void EditorStatusSetzen(bool geaendert) {
+    Stand.EditorGeaendert = geaendert;
+    EditorLampenZeigen(geaendert);
+}

@@ -1,0 +1,99 @@
+#include "mainwindow/frmStart.h"
+
+#include "core/bilder.h"
+#include "core/konfiguration.h"
+#include "core/oberflaeche.h"
+#include "core/pfad.h"
+#include "core/programmstand.h"
+#include "dialogs/meldung.h"
+#include "mainwindow/frmMDI.h"
+#include "mainwindow/hinweistexte.h"
+#include "mainwindow/texte.h"
+#include "tooltips/hinweise.h"
+#include "tooltips/tooltipregeln.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+
+namespace {
+
+constexpr int breite = 5605; // client area in twips
+constexpr int hoehe = 3045;
+constexpr int tippBreite = 300; // pixels
+
+} // namespace
+
+frmStart::frmStart() {
+    SanduhrZeigen();
+    setObjectName(QStringLiteral("frmStart"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(Anzeige(kerntexte::startfenster));
+    setFixedSize(Pixel(breite), Pixel(hoehe));
+    const QRect schirm = screen()->geometry();
+    move(schirm.center() - QPoint(width() / 2, height() / 2));
+    BildLaden();
+    lblVersion_ = new QLabel(this);
+    lblVersion_->setObjectName(QStringLiteral("lblVersion"));
+    lblVersion_->setFont(Schrift(8.25));
+    lblVersion_->setAlignment(Qt::AlignCenter);
+    lblVersion_->setText(QStringLiteral("[ Rev. %1.%2.%3 ]")
+                             .arg(konfiguration::versionHaupt)
+                             .arg(konfiguration::versionNeben)
+                             .arg(konfiguration::versionRevision));
+    lblVersion_->setGeometry(0, height() - 58, width(), 16);
+    cmdStart_ = new QPushButton(Anzeige(kerntexte::startZeile), this);
+    cmdStart_->setObjectName(QStringLiteral("cmdStart"));
+    cmdStart_->setGeometry(40, height() - 38, width() - 80, 28);
+    cmdStart_->setAutoDefault(true); // Enter presses it, as a click does
+    cmdStart_->setFocus();
+    TippsEinrichten(this, tippBreite);
+    HinweiseSetzen(*this, kerntexte::starthinweise);
+    HinweisSetzen(this, "", tipp::titelStandard, ""); // the window itself only has the standard style
+    connect(cmdStart_, &QPushButton::clicked, this, [this] {
+        // The main window first, so that the program doesn't end with its last window.
+        HauptfensterZeigen();
+        close();
+    });
+    auto* Timer1 = new QTimer(this); // it never closes the window by itself: its handler does nothing
+    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->start(2500);
+    NormalerZeiger();
+}
+
+void frmStart::BildLaden() {
+    const std::string pfad = Stand.AppPfad + std::string(kerntexte::startbild);
+    const QString datei = NativerPfad(pfad);
+    // The format is known: asking every picture plug-in for it would cost a good part of the start.
+    QImageReader leser(datei, "bmp");
+    leser.setAutoDetectImageFormat(false);
+    bild_ = QPixmap::fromImage(leser.read());
+    if (!bild_.isNull()) {
+        bild_ = Feinbild(bild_, pfad, devicePixelRatioF());
+        return;
+    }
+    if (QFileInfo::exists(datei)) {
+        Meldung(kerntexte::startbildProblem);
+    } else {
+        Meldung(kerntexte::startbildFehlt, {Stand.AppPfad + std::string(kerntexte::startbild)});
+    }
+}
+
+void frmStart::paintEvent(QPaintEvent* ereignis) {
+    QWidget::paintEvent(ereignis);
+    if (!bild_.isNull()) {
+        QPainter(this).drawPixmap(rect(), bild_);
+    }
+}
+
+void StartfensterZeigen() {
+    Stand.AppPfad = EigenerPfad(QCoreApplication::applicationDirPath());
+    auto* fenster = new frmStart;
+    fenster->show();
+}

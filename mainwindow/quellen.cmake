@@ -1,0 +1,16 @@
+feldkranz_quellen(modell mainwindow/schaltflaechen.cpp)
+feldkranz_quellen(fenster
+  mainwindow/ablage.cpp
+  mainwindow/befehle.cpp
+  mainwindow/flaggen.cpp
+  mainwindow/formularbefehle.cpp
+  mainwindow/fortschrittsbalken.cpp
+  mainwindow/frmMDI.cpp mainwindow/frmMDI.h
+  mainwindow/frmStart.cpp mainwindow/frmStart.h
+  mainwindow/hauptfensterdienste.cpp
+  mainwindow/hilfepanel.cpp mainwindow/hilfepanel.h
+  mainwindow/menueleiste.cpp
+  mainwindow/programmende.cpp
+  mainwindow/spezialraster.cpp
+  mainwindow/testbefehle.cpp
+  mainwindow/werkzeugleisten.cpp)

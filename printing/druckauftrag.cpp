@@ -1,0 +1,44 @@
+#include "printing/druckauftrag.h"
+
+#include "core/hauptfenster.h"
+#include "core/laufzeitfehler.h"
+#include "core/pfadname.h"
+#include "dialogs/meldung.h"
+#include "printing/texte.h"
+
+#include <new>
+
+namespace {
+
+// The progress bar, from start to end whatever way the work is left.
+class Fortschrittsanzeige {
+public:
+    Fortschrittsanzeige() { FortschrittStart(drucktexte::status); }
+    ~Fortschrittsanzeige() { FortschrittEnde(); }
+    Fortschrittsanzeige(const Fortschrittsanzeige&) = delete;
+    Fortschrittsanzeige& operator=(const Fortschrittsanzeige&) = delete;
+};
+
+std::string MitFortschritt(const std::function<std::string()>& arbeit) {
+    const Fortschrittsanzeige fortschritt;
+    return arbeit();
+}
+
+} // namespace
+
+std::string Auftragstitel(const std::string& datei, std::string_view ohneNamen) {
+    return datei.empty() ? std::string(ohneNamen) : NurDateiname(datei);
+}
+
+void AuftragAusfuehren(const std::function<std::string()>& arbeit) {
+    try {
+        const std::string pdf = MitFortschritt(arbeit);
+        if (!pdf.empty()) {
+            HilfeText(Einsetzen(drucktexte::alsPdf, {pdf}));
+        }
+    } catch (const Laufzeitfehler& fehler) {
+        Systemkasten(Kastenart::Schlicht, drucktexte::kastentitel, fehler.text());
+    } catch (const std::bad_alloc&) {
+        Systemkasten(Kastenart::Schlicht, drucktexte::kastentitel, FehlerText(Fehler::SpeicherVoll));
+    }
+}

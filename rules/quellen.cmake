@@ -1,0 +1,1 @@
+feldkranz_quellen(modell rules/skalierung.cpp rules/spezialfelder.cpp)
