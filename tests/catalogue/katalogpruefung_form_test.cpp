@@ -150,6 +150,16 @@ TEST(Katalogform, EveryValueFromOneToFiveStandsAtLeastThreeTimesInEveryFile) {
     }
 }
 
+TEST(Katalogform, OutsideAZEveryFileBeginsWithItsEasiestQuestions) {
+    for (const Katalogdatei& datei : Katalogdateien()) {
+        std::string vorher;
+        for (const Katalogfrage* frage : FragenVon(datei)) {
+            EXPECT_TRUE(datei.thema->name == "A-Z" || frage->punkte >= vorher) << Fundort(*frage);
+            vorher = frage->punkte;
+        }
+    }
+}
+
 TEST(Katalogform, TheAnswersOfAZRunThroughTheAlphabet) {
     int dateien = 0;
     for (const Katalogdatei& datei : Katalogdateien()) {
