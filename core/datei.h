@@ -1,7 +1,6 @@
 // Reading, durable saving and the small file operations, on paths in the program's own notation. Every
 // failure leaves as a Laufzeitfehler with a number that tells a lasting reason (52, 53, 70, 75, 76) from a
-// device that may come back (57, 68, 71, 72); a full disk is 61. Knows no format and asks nobody. DateiNr is
-// 1 while a file is open here.
+// device that may come back (57, 68, 71, 72); a full disk is 61. Knows no format and asks nobody.
 #pragma once
 
 #include <cstddef>

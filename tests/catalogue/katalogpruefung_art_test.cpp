@@ -112,7 +112,7 @@ TEST(Kataloginhalt, TrueAndFalseHaveTheirReasonAndAreBothAThirdAtLeast) {
     for (const Katalogfrage& frage : fragen) {
         const auto wahr = WahrheitLesen(frage.antwort);
         EXPECT_TRUE(wahr.has_value()) << Fundort(frage);
-        richtig += wahr.value_or(false) ? 1 : 0;
+        richtig += wahr.value_or(false) ? 1U : 0U;
     }
     EXPECT_GE(3 * richtig, fragen.size());
     EXPECT_GE(3 * (fragen.size() - richtig), fragen.size());

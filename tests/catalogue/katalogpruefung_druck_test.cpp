@@ -17,7 +17,7 @@
 namespace {
 
 constexpr std::size_t felder = 30;
-constexpr double ueberstand = 1.0; // mm
+constexpr Millimeter ueberstand = 1_mm;
 
 class Katalogdruck : public testing::TestWithParam<std::tuple<Papier, float>> {
 protected:
@@ -32,7 +32,7 @@ protected:
     Druckseite seite_{papier_ == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait,
                       EigenerPfad(ordner_.filePath(QStringLiteral("Blatt.pdf"))), "Katalog"};
     Druckgeometrie g_ =
-        GeometrieRechnen(papier_, std::get<1>(GetParam()), seite_.masse().links, seite_.masse().oben);
+        GeometrieRechnen(papier_, Millimeter(std::get<1>(GetParam())), seite_.masse().links, seite_.masse().oben);
 };
 
 FKDruckdaten Blatt(std::size_t erste) {
@@ -47,19 +47,19 @@ FKDruckdaten Blatt(std::size_t erste) {
 void Katalogdruck::ZeilePruefen(const Textstelle& zeile, std::size_t erste) {
     const float spalte = std::floor((zeile.x - g_.RandLinks) / g_.SpaltenRaster);
     const float reihe = std::floor((zeile.y - g_.ZeilenOben) / g_.ZeilenRaster);
-    const float oben = g_.ZeilenOben + reihe * g_.ZeilenRaster;
+    const Millimeter oben = g_.ZeilenOben + reihe * g_.ZeilenRaster;
     const bool antwort = zeile.schrift.fett;
-    const float beginn = oben + (antwort ? g_.FrageHoehe + g_.AntwortOben : g_.TextOben);
-    const float ende = oben + g_.FrageHoehe + (antwort ? g_.AntwortHoehe : 0.0F);
-    const float hoehe = seite_.schriftmass().Hoehe(zeile.schrift);
+    const Millimeter beginn = oben + (antwort ? g_.FrageHoehe + g_.AntwortOben : g_.TextOben);
+    const Millimeter ende = oben + g_.FrageHoehe + (antwort ? g_.AntwortHoehe : 0_mm);
+    const Millimeter hoehe = seite_.schriftmass().Hoehe(zeile.schrift);
     const std::string text = zeile.text.substr(0, zeile.text.find_last_not_of(' ') + 1);
-    const float zuBreit = seite_.schriftmass().Breite(text, zeile.schrift) - g_.TextBreite;
+    const Millimeter zuBreit = seite_.schriftmass().Breite(text, zeile.schrift) - g_.TextBreite;
     const auto feld = static_cast<std::size_t>(spalte * 5.0F + reihe);
     const Katalogfrage& frage = Katalogfragen().at(erste + feld);
 
     EXPECT_LE(std::lround((zeile.y - beginn) / hoehe) + 1, antwort ? 2 : 5) << Fundort(frage);
-    EXPECT_LE(zeile.y + hoehe, ende) << Fundort(frage);
-    EXPECT_LE(static_cast<double>(zuBreit), ueberstand) << Fundort(frage) << "\nline: " << zeile.text;
+    EXPECT_LE((zeile.y + hoehe).zahl(), ende.zahl()) << Fundort(frage);
+    EXPECT_LE(zuBreit.zahl(), ueberstand.zahl()) << Fundort(frage) << "\nline: " << zeile.text;
 }
 
 } // namespace
@@ -69,7 +69,7 @@ TEST_P(Katalogdruck, EveryQuestionTakesFiveLinesAndEveryAnswerTwoAtMost) {
         std::size_t zeilen = 0;
         for (const Element& element : FormularZeichnen(Blatt(erste), g_, seite_.schriftmass())) {
             const auto* zeile = std::get_if<Textstelle>(&element);
-            if (zeile != nullptr && zeile->schrift.groesse == 8.0F * g_.Massstab) {
+            if (zeile != nullptr && zeile->schrift.groesse == 8_pt * g_.Massstab) {
                 ZeilePruefen(*zeile, erste);
                 ++zeilen;
             }
