@@ -31,8 +31,8 @@ protected:
     QTemporaryDir ordner_;
     Druckseite seite_{papier_ == Papier::A4Quer ? QPageLayout::Landscape : QPageLayout::Portrait,
                       EigenerPfad(ordner_.filePath(QStringLiteral("Blatt.pdf"))), "Katalog"};
-    Druckgeometrie g_ =
-        GeometrieRechnen(papier_, Millimeter(std::get<1>(GetParam())), seite_.masse().links, seite_.masse().oben);
+    Druckgeometrie g_ = GeometrieRechnen(papier_, Millimeter(std::get<1>(GetParam())), seite_.masse().links,
+                                         seite_.masse().oben);
 };
 
 FKDruckdaten Blatt(std::size_t erste) {

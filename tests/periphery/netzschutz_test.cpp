@@ -151,6 +151,7 @@ void NetzschutzTest::nothingIsStored() {
     QTRY_COMPARE(geladen->size(), 1);
     QVERIFY(!Verdeckt());
     QVERIFY(IstGruen());
+    qWarning() << AllesImHeimordner() << vorher;
     QCOMPARE(AllesImHeimordner(), vorher);
     QVERIFY(!QDir::current().exists(QStringLiteral("Feldkranz.zip")));
 }
