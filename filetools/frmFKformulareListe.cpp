@@ -39,7 +39,7 @@ std::string Schluss(const std::string& text, int zeichen) {
 }
 
 // The numbers of the file, none where it has none; one that can't be read is reported.
-std::optional<FKIni> Dateizahlen(const Dateiort& ort) {
+std::optional<FKIni> FormularInfoLesen(const Dateiort& ort) {
     using namespace persistenztexte;
     AuswahlMerken(ort.pfad(), ort.nativ()); // exactly the file of that name
     HilfeText(std::string(ichLade) + Schluss(ort.pfad(), 12));
@@ -109,7 +109,7 @@ void frmFKformulare::Vorschau() {
     if (!stand_ || stand_->inKraft != InKraft()) {
         stand_ = {InKraft(), InKraft()};
     }
-    if (const auto zahlen = Dateizahlen(ort)) {
+    if (const auto zahlen = FormularInfoLesen(ort)) {
         stand_->gezeigt = *zahlen;
     }
     const FKIni& z = stand_->gezeigt;

@@ -24,7 +24,8 @@ struct Weg {
 };
 constexpr std::array<Weg, 2> wege{
     {{Formart::Quiz, "\\KRANZ", &Programmstand::FKDateiName, FK_GelesenesZeigen, FK_InWerte, FK_Drucken},
-     {Formart::Test, "\\TEST", &Programmstand::HBDateiName, HB_GelesenesZeigen, HB_InWerte, HB_Drucken}}};
+     {Formart::Test, "\\TEST", &Programmstand::HBDateiName, HB_GelesenesZeigen, HB_InWerte,
+      [](bool) { HB_Drucken(); }}}};
 
 const Weg& WegFuer(Formart art) {
     return art == Formart::Test ? wege.back() : wege.front();

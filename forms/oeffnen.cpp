@@ -76,7 +76,7 @@ bool Laden(const std::string& pfad, const std::function<bool()>& vorDemErsatz) {
 } // namespace
 
 void FormularOeffnen() {
-    if (Stand.FormGeaendert && !AuswertungGesichert()) {
+    if (Stand.FormGeaendert && !AuswertungSpeichernFragen()) {
         return;
     }
     const auto gewaehlt =
@@ -98,7 +98,7 @@ void FormularLaden(const std::string& pfad) {
 }
 
 void GelistetesOeffnen(const std::string& pfad) {
-    if (!Stand.FormGeaendert || AuswertungGesichert()) {
+    if (!Stand.FormGeaendert || AuswertungSpeichernFragen()) {
         FormularLaden(pfad);
     }
 }

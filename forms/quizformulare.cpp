@@ -13,7 +13,7 @@
 namespace {
 
 void Fenster() {
-    static const FKAnlass anlass{[] { return SchliessenErlaubt(Formart::Quiz); },
+    static const FKAnlass anlass{[] { return SchliessenPruefen(Formart::Quiz); },
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
                                      Stand.FKDateiName.clear();

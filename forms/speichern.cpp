@@ -140,7 +140,7 @@ bool SpeichernUnter(Speicherart art) {
     return true;
 }
 
-bool AuswertungGesichert() {
+bool AuswertungSpeichernFragen() {
     Antwort antwort = Antwort::OK;
     while (antwort != Antwort::Ja && antwort != Antwort::Nein) {
         antwort = Nachricht(aenderungen);
@@ -159,7 +159,7 @@ bool AuswertungGesichert() {
     return true;
 }
 
-bool SchliessenErlaubt(Formart art) {
+bool SchliessenPruefen(Formart art) {
     if (Stand.FormGeaendert) {
         const Antwort antwort = Nachricht(schliessen);
         if (antwort == Antwort::Abbrechen || (antwort == Antwort::Ja && !MergenUndSpeichern())) {

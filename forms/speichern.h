@@ -16,7 +16,7 @@ bool SpeichernUnter(Speicherart art);
 
 // The question about unsaved changes before a file is opened or the program ends. False when the user
 // cancelled or the save did not come about.
-[[nodiscard]] bool AuswertungGesichert();
+[[nodiscard]] bool AuswertungSpeichernFragen();
 
 // The closing check of a form of that kind: false when it stays open.
-[[nodiscard]] bool SchliessenErlaubt(Formart art);
+[[nodiscard]] bool SchliessenPruefen(Formart art);

@@ -12,7 +12,7 @@
 namespace {
 
 void Fenster() {
-    static const HBAnlass anlass{[] { return SchliessenErlaubt(Formart::Test); },
+    static const HBAnlass anlass{[] { return SchliessenPruefen(Formart::Test); },
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
                                      Stand.HBDateiName.clear();
@@ -51,6 +51,6 @@ void HB_InWerte(Formularwerte& werte) {
     werte.test = HB_Ablesen();
 }
 
-void HB_Drucken(bool /*blanko*/) {
+void HB_Drucken() {
     TestFormularDrucken(HB_Bildschirm(), HBForm.HBGesamtpunkte, Stand.HBDateiName);
 }

@@ -12,4 +12,4 @@ bool HB_Neu();
 void HB_GelesenesZeigen(std::string_view titel);
 // What the open test form shows into the values; nothing without one.
 void HB_InWerte(Formularwerte& werte);
-void HB_Drucken(bool blanko);
+void HB_Drucken();

@@ -47,7 +47,7 @@ void ProgrammBeendenDurch(std::function<void()> ende) {
 }
 
 void ProgrammEnde() {
-    if (Stand.FormGeaendert && !AuswertungGesichert()) {
+    if (Stand.FormGeaendert && !AuswertungSpeichernFragen()) {
         return;
     }
     if (!EditorTextGesichert() || !EinstellungenErledigt() || !NachrichtJaNein(kerntexte::ende)) {

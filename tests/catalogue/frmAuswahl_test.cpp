@@ -20,6 +20,11 @@
 
 namespace {
 
+// What was dragged last, kept while the next press may replace it.
+Ziehwert LetzterZug() {
+    return Gezogen();
+}
+
 QByteArray Datei(const QStringList& zeilen) {
     return (zeilen.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n")).toLatin1();
 }
@@ -274,7 +279,7 @@ void AuswahlTest::aPressOnAnEmptyTxtFrageStartsADragAllTheSame() {
 }
 
 void AuswahlTest::aRightPressStartsNothing() {
-    const Ziehwert vorher = Gezogen();
+    const Ziehwert vorher = LetzterZug();
     auto* txtFrage = Finden<QPlainTextEdit>(fenster_, QStringLiteral("txtFrage"));
     QTest::mousePress(txtFrage->viewport(), Qt::RightButton);
     QTest::mouseRelease(txtFrage->viewport(), Qt::RightButton);

@@ -374,7 +374,7 @@ void SpeichernTest::theQuestionBeforeOpeningSavesOnJa() {
                   QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
     GespeichertErwarten(dialoge, QStringLiteral("A.FKR"));
     dialoge.meldung(QStringLiteral("Formular wurde gespeichert !"), QStringLiteral("Aha"));
-    QVERIFY(AuswertungGesichert());
+    QVERIFY(AuswertungSpeichernFragen());
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("A.FKR")).contains("Neu"));
     QVERIFY(!Stand.FormGeaendert);
@@ -386,7 +386,7 @@ void SpeichernTest::aSaveThatDidNotComeAboutCountsAsCancelled() {
     dialoge.frage(QStringLiteral("Auswertung speichern !"),
                   QStringLiteral("Soll das aktuelle Feldkranz-Formular\ngespeichert werden ?"), 6);
     DateidialogErwarten(dialoge, speichernUnter, QString(), QStringLiteral("cmdAbbrechen"));
-    QVERIFY(!AuswertungGesichert());
+    QVERIFY(!AuswertungSpeichernFragen());
     QVERIFY(dialoge.fertig());
     QVERIFY(Stand.FormGeaendert);
 }

@@ -8,6 +8,11 @@
 
 namespace {
 
+// What was dragged last, kept while the next press may replace it.
+Ziehwert LetzterZug() {
+    return Gezogen();
+}
+
 const QString auswahlTitel = QStringLiteral("Fragenauswahl");
 const QString besetzt = QStringLiteral("In diesem Feld gibt es schon eine Frage !\n"
                                        "Soll ich diese Frage durch die neue Frage ersetzen ?");
@@ -216,7 +221,7 @@ void HbZiehenTest::anEmptyRowRefusesThePress() {
     Programm programm;
     frmHBFragen* form = FormLinks(programm);
     form->txtAntwort.at(4)->setText("nur die Antwort");
-    const Ziehwert vorher = Gezogen();
+    const Ziehwert vorher = LetzterZug();
     for (const auto taste : {Qt::ShiftModifier, Qt::ControlModifier}) {
         Dialogfolge dialoge;
         dialoge.kasten(QString(), QStringLiteral("Keine Frage vorhanden !"), QStringLiteral("OK"));
@@ -230,7 +235,7 @@ void HbZiehenTest::ctrlAndShiftTogetherStartNothing() {
     Programm programm;
     frmHBFragen* form = FormLinks(programm);
     Fuellen(form, 1, "bleibt", "hier");
-    const Ziehwert vorher = Gezogen();
+    const Ziehwert vorher = LetzterZug();
     maus::Klicken(form->txtFrage.at(1), Qt::ControlModifier | Qt::ShiftModifier);
     maus::Klicken(form->txtFrage.at(1), Qt::NoModifier);
     QVERIFY(Gezogen() == vorher);
