@@ -5,7 +5,6 @@
 #pragma once
 
 #include <cmath>
-#include <compare>
 
 // Arithmetic stays in the unit's own type of number, so that a typed measure is the bare one bit by bit.
 template <typename Einheit>
@@ -37,7 +36,11 @@ public:
         return Laenge(a.zahl_ / teiler);
     }
     [[nodiscard]] friend constexpr Zahl operator/(Laenge a, Laenge b) { return a.zahl_ / b.zahl_; }
-    [[nodiscard]] friend constexpr auto operator<=>(Laenge, Laenge) = default;
+    [[nodiscard]] friend constexpr bool operator==(Laenge, Laenge) = default;
+    [[nodiscard]] friend constexpr bool operator<(Laenge a, Laenge b) { return a.zahl_ < b.zahl_; }
+    [[nodiscard]] friend constexpr bool operator>(Laenge a, Laenge b) { return b < a; }
+    [[nodiscard]] friend constexpr bool operator<=(Laenge a, Laenge b) { return a.zahl_ <= b.zahl_; }
+    [[nodiscard]] friend constexpr bool operator>=(Laenge a, Laenge b) { return b <= a; }
 
 private:
     Zahl zahl_{};
@@ -56,7 +59,7 @@ struct DruckpunktEinheit {
     using Zahl = int;
 };
 
-// The 1440th part of an inch at 96 pixels to the inch, so 15 to a logical pixel.
+// 15 to a logical pixel: 1440 to the inch of 96 pixels.
 using Twips = Laenge<TwipsEinheit>;
 // A millimetre of paper.
 using Millimeter = Laenge<MillimeterEinheit>;

@@ -26,8 +26,8 @@ class QWidget;
 // System face: the palette's button colour.
 [[nodiscard]] QColor Systemflaeche();
 
-// The program's face in a size. Sizes are fixed to logical pixels at 96 to the inch, as the
-// windows' measures are, so that captions fit whatever resolution the desktop claims.
+// The program's face in a size. Sizes are fixed to logical pixels, as the windows' measures are, so that
+// captions fit whatever resolution the desktop claims.
 [[nodiscard]] QFont Schrift(Schriftpunkte groesse, bool fett = false);
 
 // Mouse pointer to the hourglass, and back to normal. Either may be called twice.

@@ -117,7 +117,7 @@ void frmNachricht::TastenAnordnen() {
     const auto& links = tastenLinks[static_cast<std::size_t>(tasten_)];
     for (std::size_t i = 0; i < cmdAntwort_.size(); ++i) {
         QPushButton* taste = cmdAntwort_[i];
-        const bool inGebrauch = links[i] >= 0_tw;
+        const bool inGebrauch = links[i] != ungenutzt;
         const int x = inGebrauch ? Pixel(links[i]) : taste->x();
         const QPoint ort(x, Pixel(inGebrauch ? fensterHoehe - 930_tw : fensterHoehe + 60_tw));
         if (taste->pos() != ort) {

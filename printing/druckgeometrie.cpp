@@ -8,12 +8,12 @@ namespace {
 // What differs between the two papers; the members stand in the order of Druckgeometrie.
 struct Papierwerte {
     Millimeter randLinks, randOben;
-    float massstab;
-    float lueckenfaktor;
+    float massstab = 1.0F;
+    float lueckenfaktor = 1.0F;
     Millimeter breiteNutz, hoeheNutz;
     Millimeter kopfHoehe, kopfLuecke, gebietHoehe;
     Millimeter textEinzug, textOben, antwortOben, rahmenEinzug;
-    float frageAnteil, antwortAnteil;
+    float frageAnteil = 0.0F, antwortAnteil = 0.0F;
     Druckpunkte strichKopf, strichFeld, strichDuenn;
 };
 

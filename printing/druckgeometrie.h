@@ -16,16 +16,16 @@ enum class Papier : std::uint8_t { A4Quer, A5Quer };
 
 // Places count from the printer's printable origin.
 struct Druckgeometrie {
-    Millimeter RandLinks, RandOben;   // corner of the frame
-    float Massstab;                   // factor on fonts and small measures, shrunk by the gap
-    Millimeter LueckeX, LueckeY;      // gaps between columns and rows
-    Millimeter BreiteNutz, HoeheNutz; // six columns with five gaps; the whole grid
-    Millimeter KopfHoehe, KopfLuecke; // head strip and the gap below it
-    Millimeter GebietHoehe;           // head of an area
-    Millimeter TextEinzug;            // text column, from the cell's left edge
-    Millimeter TextOben, AntwortOben; // first lines, below the cell's top and the dividing line
-    Millimeter RahmenEinzug;          // inner frame of a special field
-    float FrageAnteil, AntwortAnteil; // shares of the row's height
+    Millimeter RandLinks, RandOben;                 // corner of the frame
+    float Massstab = 1.0F;                          // factor on fonts and small measures, shrunk by the gap
+    Millimeter LueckeX, LueckeY;                    // gaps between columns and rows
+    Millimeter BreiteNutz, HoeheNutz;               // six columns with five gaps; the whole grid
+    Millimeter KopfHoehe, KopfLuecke;               // head strip and the gap below it
+    Millimeter GebietHoehe;                         // head of an area
+    Millimeter TextEinzug;                          // text column, from the cell's left edge
+    Millimeter TextOben, AntwortOben;               // first lines, below the cell's top and the dividing line
+    Millimeter RahmenEinzug;                        // inner frame of a special field
+    float FrageAnteil = 0.0F, AntwortAnteil = 0.0F; // shares of the row's height
     Druckpunkte StrichKopf, StrichFeld, StrichDuenn;
 
     Millimeter SpaltenBreite, ZeileGanz; // a column; a row without its gap

@@ -60,7 +60,7 @@ Millimeter Druckschriften::Zeichensumme(std::string_view text, const Schrift& sc
     for (const char byte : text) {
         const bool ascii = static_cast<unsigned char>(byte) < eintrag.zeichen.size();
         Millimeter& breite = eintrag.zeichen[ascii ? static_cast<unsigned char>(byte) : 'm'];
-        if (breite <= 0_mm) {
+        if (breite <= Millimeter()) {
             const QLatin1Char zeichen(ascii ? byte : 'm');
             breite = aufloesung_.MillimeterAus(eintrag.mass.horizontalAdvance(QChar(zeichen)));
         }

@@ -21,8 +21,7 @@ public:
     Druckseite& operator=(const Druckseite&) = delete;
 
     [[nodiscard]] const Seitenmasse& masse() const { return masse_; }
-    // Upright is a page not wider than 210 mm.
-    [[nodiscard]] bool hochkant() const { return masse_.breite <= 210_mm; }
+    [[nodiscard]] bool hochkant() const { return masse_.breite <= hochkantBreite; }
     [[nodiscard]] const Schriftmass& schriftmass() const { return schriften_; }
 
     // Paints the page, relative to the printable origin, and sends it; fortschritt is called thirty times.
@@ -31,6 +30,8 @@ public:
     std::string Drucken(const Zeichnung& zeichnung, const std::function<void()>& fortschritt);
 
 private:
+    static constexpr Millimeter hochkantBreite = 210_mm; // of a page that counts as upright, at most
+
     void Malen(const Zeichnung& zeichnung);
     std::string AlsPdf(const Zeichnung& zeichnung);
 

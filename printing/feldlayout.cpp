@@ -25,8 +25,8 @@ struct Feldplatz {
     const Druckgeometrie& g;
     const Schriftmass& mass;
     const FKDruckfeld& feld;
-    const Artzeile* art;
-    int zeile; // 1 to 5, the worth of a plain cell
+    const Artzeile* art = nullptr;
+    int zeile = 0; // 1 to 5, the worth of a plain cell
     Millimeter x, y;
 };
 

@@ -18,18 +18,21 @@ struct FormMasse {
 
     static constexpr Twips links = 45_tw;
     static constexpr Twips kopfOben = 60_tw;
+    static constexpr Twips ueberRaster = 45_tw; // counts for the cells in place of kopfOben
+    static constexpr Twips saumRechts = 75_tw;
+    static constexpr Twips saumUnten = 30_tw;
 
     [[nodiscard]] constexpr Twips SpaltenRaster() const {
         return punkteBreite + textAbstand + frageBreite + spaltenAbstand;
     }
     [[nodiscard]] constexpr Twips ZeilenRaster() const { return frageHoehe + antwortHoehe + zeilenAbstand; }
     [[nodiscard]] constexpr Twips RasterOben() const {
-        return 45_tw + kopfHoehe + titelAbstand + titelHoehe + titelAbstand;
+        return ueberRaster + kopfHoehe + titelAbstand + titelHoehe + titelAbstand;
     }
-    [[nodiscard]] constexpr Twips TitelOben() const { return 60_tw + kopfHoehe + titelAbstand; }
+    [[nodiscard]] constexpr Twips TitelOben() const { return kopfOben + kopfHoehe + titelAbstand; }
     [[nodiscard]] constexpr Twips TitelBreite() const { return SpaltenRaster() - spaltenAbstand; }
-    [[nodiscard]] constexpr Twips InnenBreite() const { return 6 * SpaltenRaster() + 75_tw; }
-    [[nodiscard]] constexpr Twips InnenHoehe() const { return 5 * ZeilenRaster() + RasterOben() + 30_tw; }
+    [[nodiscard]] constexpr Twips InnenBreite() const { return 6 * SpaltenRaster() + saumRechts; }
+    [[nodiscard]] constexpr Twips InnenHoehe() const { return 5 * ZeilenRaster() + RasterOben() + saumUnten; }
 };
 
 inline constexpr FormMasse masseKlein{8_pt,    375_tw,  60_tw,  315_tw, 375_tw, 30_tw,

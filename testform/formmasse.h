@@ -6,14 +6,14 @@
 struct TestMasse {
     Schriftpunkte schrift;
     Schriftpunkte kopfSchrift;
-    int kopfHoehe;
-    int nummerBreite;
-    int frageBreite;
-    int antwortBreite;
-    int punkteBreite;
-    int drehBreite;
-    int zeilenHoehe;
-    int zeilenAbstand;
+    int kopfHoehe = 0;
+    int nummerBreite = 0;
+    int frageBreite = 0;
+    int antwortBreite = 0;
+    int punkteBreite = 0;
+    int drehBreite = 0;
+    int zeilenHoehe = 0;
+    int zeilenAbstand = 0;
 
     static constexpr int rand = 6;
     static constexpr int luecke = 3;

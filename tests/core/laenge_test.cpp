@@ -41,7 +41,7 @@ static_assert(sizeof(Twips) == sizeof(double) && sizeof(Millimeter) == sizeof(fl
 TEST(Laenge, TwipsToTheNearestPixelWithHalvesAwayFromZero) {
     struct Zeile {
         Twips twips;
-        int pixel;
+        int pixel = 0;
     };
     for (const Zeile& zeile :
          {Zeile{0_tw, 0}, Zeile{7_tw, 0}, Zeile{Twips(7.5), 1}, Zeile{8_tw, 1}, Zeile{15_tw, 1},
@@ -63,7 +63,7 @@ TEST(Laenge, APixelIsFifteenTwipsAndComesBackWhole) {
 TEST(Laenge, SizesOfFontsToTheNearestPixelAt96ToTheInch) {
     struct Zeile {
         Schriftpunkte groesse;
-        int pixel;
+        int pixel = 0;
     };
     for (const Zeile& zeile :
          {Zeile{7_pt, 9}, Zeile{7.5_pt, 10}, Zeile{8_pt, 11}, Zeile{8.25_pt, 11}, Zeile{8.5_pt, 11},
@@ -75,9 +75,9 @@ TEST(Laenge, SizesOfFontsToTheNearestPixelAt96ToTheInch) {
 
 TEST(Laenge, WholeMillimetresAreTheNearest) {
     struct Zeile {
-        double mm;
+        double mm = 0.0;
         Millimeter ganze;
-        long zahl;
+        long zahl = 0;
     };
     for (const Zeile& zeile : {Zeile{0.0, 0_mm, 0}, Zeile{4.2, 4_mm, 4}, Zeile{4.23333, 4_mm, 4},
                                Zeile{4.6, 5_mm, 5}, Zeile{209.9, 210_mm, 210}, Zeile{296.97, 297_mm, 297},

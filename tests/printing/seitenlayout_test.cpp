@@ -379,7 +379,7 @@ TEST(Seitenlayout, ALongTextRunsOverTheDividingLine) {
     const auto texte = Texte(daten);
     Millimeter unten;
     for (const Textstelle& t : texte) {
-        if (t.schrift.groesse == 8_pt) {
+        if (t.schrift.groesse.zahl() == 8.0F) {
             unten = std::max(unten, t.y);
         }
     }

@@ -73,10 +73,10 @@ TEST(Testseite, AnEmptyTestIsLaidOutForOneQuestion) {
 
 TEST(Testseite, TheHeadStandsInItsFourBoxes) {
     struct Soll {
-        const char* text;
+        const char* text = "";
         Millimeter x, y;
         Schriftpunkte groesse;
-        Schriftart art;
+        Schriftart art = Schriftart::Arial;
     };
     const Zeichnung zeichnung = Zeichnen(Blatt(2));
     for (const Soll& soll : {Soll{" TEST  HFZ", 15_mm, 10_mm, 20_pt, Schriftart::ArialBlack},
