@@ -192,7 +192,8 @@ void Ziehen(QWidget* quelle, Ziehwert wert) {
     zug.pixelverhaeltnis = quelle->devicePixelRatioF();
     ZugAusfuehren(zug);
     if (const Zielmarke* marke = zug.getroffen; marke != nullptr && zug.quelle != nullptr) {
-        marke->ausfuehren(zug.wert);
+        const Ziehwert gezogen = zug.wert; // the steps may begin another drag
+        marke->ausfuehren(gezogen);
     }
 }
 

@@ -95,8 +95,10 @@ bool OhneMausAblegen(QWidget* ziel) {
     if (!OhneMausGehalten() || marke == nullptr || !marke->nimmt()) {
         return false;
     }
-    AktuellerZug().gehalten = false;
-    marke->ausfuehren(AktuellerZug().wert);
+    Zug& zug = AktuellerZug();
+    zug.gehalten = false;
+    const Ziehwert wert = zug.wert; // the steps may begin another drag
+    marke->ausfuehren(wert);
     return true;
 }
 

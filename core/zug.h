@@ -21,8 +21,7 @@ public:
     // The steps may take the control away, and the mark with it.
     void ausfuehren(const Ziehwert& wert) const {
         const Ablegen schritte = ablegen_;
-        const Ziehwert abgelegt = wert;
-        schritte(abgelegt);
+        schritte(wert);
     }
 
 private:

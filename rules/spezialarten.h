@@ -157,7 +157,7 @@ inline constexpr std::array<Spezialart, anzahlArten> nennfolge{
     Spezialart::Joker, Spezialart::Glueck, Spezialart::Risiko, Spezialart::Aktion, Spezialart::Ereignis};
 
 // A row each, at its place, and each kind named once.
-static_assert([] {
+constexpr bool ArtenVollstaendig() {
     for (std::size_t i = 0; i < spezialarten.size(); ++i) {
         const Artzeile& zeile = spezialarten[i];
         if (Artstelle(zeile.art) != i || zeile.buchstabe == '\0' || zeile.eintrag.empty() ||
@@ -166,7 +166,8 @@ static_assert([] {
         }
     }
     return Artstelle(Spezialart::Risiko) + 1 == anzahlArten; // the last kind
-}());
+}
+static_assert(ArtenVollstaendig());
 
 [[nodiscard]] constexpr const Artzeile& ArtzeileVon(Spezialart art) {
     return spezialarten[Artstelle(art)];
