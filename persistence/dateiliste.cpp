@@ -7,6 +7,6 @@ void DateilisteErgaenzen(std::array<std::string, 4>& liste, std::string_view pfa
         return;
     }
     const std::string neu(pfad); // may be one of those that move
-    std::ranges::rotate(liste, liste.end() - 1);
+    std::rotate(liste.begin(), liste.end() - 1, liste.end());
     liste.front() = neu;
 }

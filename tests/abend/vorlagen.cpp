@@ -83,12 +83,12 @@ const QList<Quizvorlage> quizvorlagen{
      "1",
      0,
      0,
-     {{"Altes Testament", false, "Altes Testament", "Geschichte", {4, 8, 14, nichts, 25}},
-      {"Neues Testament", false, "Neues Testament", "Jesus", {3, 11, 16, 23, nichts}},
-      {"Bibelkunde AT", true, "Häuptlingsbuch", "Bibelkunde AT", {1, nichts, 12, 20, 26}},
-      {"Bibelkunde NT", true, "Häuptlingsbuch", "Bibelkunde NT", {4, nichts, 15, 21, nichts}},
-      {"Kirchengeschichte", true, "Häuptlingsbuch", "Kirchengeschichte", {0, 6, nichts, 20, 28}},
-      {"Andacht", true, "Häuptlingsbuch", "Andacht", {1, nichts, nichts, 19, 24}}},
+     {{"Altes Testament", false, "Altes Testament", "Geschichte", {5, 11, 15, nichts, 26}},
+      {"Neues Testament", false, "Neues Testament", "Jesus", {6, 11, 18, 24, nichts}},
+      {"Bibelkunde AT", true, "Häuptlingsbuch", "Bibelkunde AT", {4, nichts, 16, 22, 26}},
+      {"Bibelkunde NT", true, "Häuptlingsbuch", "Bibelkunde NT", {4, nichts, 17, 21, nichts}},
+      {"Kirchengeschichte", true, "Häuptlingsbuch", "Kirchengeschichte", {3, 9, nichts, 26, 30}},
+      {"Andacht", true, "Häuptlingsbuch", "Andacht", {4, nichts, nichts, 20, 28}}},
      {{4, 1},
       {12, 1},
       {20, 1},
@@ -106,19 +106,19 @@ const QList<Quizvorlage> quizvorlagen{
      "2",
      2,
      0,
-     {{"Natur", false, "Natur", "Erde", {1, 8, nichts, 21, 27}},
-      {"Tiere", false, "Tiere", "Vögel", {4, 5, 13, 21, 27}},
-      {"Pflanzen", false, "Pflanzen", "Bäume", {2, nichts, 14, nichts, 23}},
-      {"Land", false, "Land", "Flüsse", {4, 7, nichts, 23, 30}}},
+     {{"Natur", false, "Natur", "Erde", {3, 12, nichts, 24, 32}},
+      {"Tiere", false, "Tiere", "Vögel", {4, 9, 19, 27, 30}},
+      {"Pflanzen", false, "Pflanzen", "Bäume", {3, nichts, 18, nichts, 29}},
+      {"Land", false, "Land", "Flüsse", {4, 10, nichts, 30, 35}}},
      {{3, 1}, {14, 1}, {7, 2}, {10, 3}, {20, 3}, {12, 4, 4}, {18, 5}}},
     {"Kurzabend",
      "30 min",
      "3",
      3,
      1,
-     {{"Sport", false, "Sport", "Fussball", {0, 7, nichts, 24, 30}},
-      {"Tiere", false, "Tiere", "Haustiere", {2, 11, nichts, nichts, 29}},
-      {"Land", false, "Land", "Städte", {6, 8, nichts, 20, 27}}},
+     {{"Sport", false, "Sport", "Fussball", {4, 8, nichts, 28, 31}},
+      {"Tiere", false, "Tiere", "Haustiere", {1, 12, nichts, nichts, 29}},
+      {"Land", false, "Land", "Städte", {3, 10, nichts, 27, 30}}},
      {{9, 1}, {2, 2}, {15, 3}}}};
 
 const QList<Testvorlage> testvorlagen{{"Erste-Hilfe",
@@ -126,29 +126,29 @@ const QList<Testvorlage> testvorlagen{{"Erste-Hilfe",
                                        "Erste Hilfe",
                                        "I",
                                        {{{"Häuptlingsbuch", "Erste Hilfe", 0}, 2},
-                                        {{"Häuptlingsbuch", "Erste Hilfe", 6}, 2},
+                                        {{"Häuptlingsbuch", "Erste Hilfe", 7}, 2},
                                         {{"Häuptlingsbuch", "Erste Hilfe", 1}, 2},
-                                        {{"Häuptlingsbuch", "Erste Hilfe", 7}, 3},
+                                        {{"Häuptlingsbuch", "Erste Hilfe", 9}, 3},
                                         {{"Häuptlingsbuch", "Erste Hilfe", 17}, 3},
-                                        {{"Häuptlingsbuch", "Erste Hilfe", 9}, 4},
+                                        {{"Häuptlingsbuch", "Erste Hilfe", 18}, 4},
                                         {{"Häuptlingsbuch", "Erste Hilfe", 10}, 2},
-                                        {{"Häuptlingsbuch", "Erste Hilfe", 13}, 5},
+                                        {{"Häuptlingsbuch", "Erste Hilfe", 29}, 5},
                                         {{"Häuptlingsbuch", "Erste Hilfe", 21}, 3},
-                                        {{"Häuptlingsbuch", "Erste Hilfe", 23}, 4}}},
+                                        {{"Häuptlingsbuch", "Erste Hilfe", 22}, 4}}},
                                       {"Lagerleben",
                                        "Späherprüfung",
                                        "Lagerkunst",
                                        "II",
-                                       {{{"Häuptlingsbuch", "Knoten", 4}, 2},
-                                        {{"Häuptlingsbuch", "Knoten", 9}, 2},
+                                       {{{"Häuptlingsbuch", "Knoten", 8}, 2},
+                                        {{"Häuptlingsbuch", "Knoten", 10}, 2},
                                         {{"Häuptlingsbuch", "Knoten", 15}, 3},
-                                        {{"Häuptlingsbuch", "Karte+Kompaß", 1}, 4},
-                                        {{"Häuptlingsbuch", "Karte+Kompaß", 13}, 3},
-                                        {{"Häuptlingsbuch", "Karte+Kompaß", 22}, 4},
-                                        {{"Häuptlingsbuch", "Feuerstellen", 0}, 2},
-                                        {{"Häuptlingsbuch", "Feuerstellen", 5}, 3},
-                                        {{"Häuptlingsbuch", "Waldläuferzeichen", 1}, 2},
-                                        {{"Häuptlingsbuch", "Waldläuferzeichen", 19}, 3}}}};
+                                        {{"Häuptlingsbuch", "Karte+Kompaß", 24}, 4},
+                                        {{"Häuptlingsbuch", "Karte+Kompaß", 15}, 3},
+                                        {{"Häuptlingsbuch", "Karte+Kompaß", 25}, 4},
+                                        {{"Häuptlingsbuch", "Feuerstellen", 7}, 2},
+                                        {{"Häuptlingsbuch", "Feuerstellen", 14}, 3},
+                                        {{"Häuptlingsbuch", "Waldläuferzeichen", 9}, 2},
+                                        {{"Häuptlingsbuch", "Waldläuferzeichen", 17}, 3}}}};
 
 std::size_t Nr(int n) {
     return static_cast<std::size_t>(n);
@@ -218,6 +218,11 @@ void NameErwarten(Dialogfolge& dialoge, const QString& name, const QString& ordn
     dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ %1.FKR ]").arg(name), QStringLiteral("Schön"));
 }
 
+// The form as it was delivered the last time gives way, or the program would ask.
+void Abraeumen(const Programm& programm, const QString& darunter) {
+    QFile::remove(programm.ordner().nativ(darunter));
+}
+
 void Abliefern(const Programm& programm, const QString& darunter) {
     const QString ziel = zielordner + QLatin1Char('/') + darunter;
     QVERIFY(QDir().mkpath(QFileInfo(ziel).path()));
@@ -263,6 +268,7 @@ void Vorlagen::quiz() {
     KopfTippen(vorlage);
     FragenZiehen(vorlage);
     BesonderesSetzen(vorlage);
+    Abraeumen(programm, QStringLiteral("KRANZ/%1.FKR").arg(Text(vorlage.name)));
     Dialogfolge dialoge;
     NameErwarten(dialoge, Text(vorlage.name));
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdDateiFK(3)")));
@@ -371,6 +377,7 @@ void Vorlagen::test() {
     programm.NeuesTestformular();
     KopfWaehlen(vorlage);
     ZeilenFuellen(vorlage);
+    Abraeumen(programm, QStringLiteral("TEST/%1.FKR").arg(Text(vorlage.name)));
     Dialogfolge dialoge;
     NameErwarten(dialoge, Text(vorlage.name), QStringLiteral("TEST"));
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdDateiHB(3)")));
