@@ -111,6 +111,14 @@ public:
 
 } // namespace
 
+void Eintrittsklick::Betreten(QWidget* feld, Qt::FocusReason grund) {
+    betreten_ = grund == Qt::MouseFocusReason;
+    if (betreten_) {
+        QMetaObject::invokeMethod(
+            feld, [this] { betreten_ = false; }, Qt::QueuedConnection);
+    }
+}
+
 Textfeld::Textfeld(QWidget* eltern, const QString& name) : QPlainTextEdit(eltern) {
     setObjectName(name);
     setTabChangesFocus(true);
@@ -155,6 +163,7 @@ void Textfeld::setZentriert(bool zentriert) {
 
 void Textfeld::focusInEvent(QFocusEvent* ereignis) {
     QPlainTextEdit::focusInEvent(ereignis);
+    eintritt_.Betreten(this, ereignis->reason());
     if (!NurUnterbrochen(*ereignis)) {
         Q_EMIT fokusErhalten();
     }
@@ -166,17 +175,36 @@ void Textfeld::focusOutEvent(QFocusEvent* ereignis) {
         Q_EMIT fokusUnterbrochen();
     } else {
         Q_EMIT fokusVerloren();
+        if (!ganzeDatei_) { // the buttons of an editor work on what is selected
+            AuswahlAufheben();
+        }
     }
 }
 
-// Otherwise a press on selected text would begin the toolkit's own drag and carry the text off.
+void Textfeld::AuswahlAufheben() {
+    QTextCursor stelle = textCursor();
+    stelle.clearSelection();
+    setTextCursor(stelle);
+}
+
+// A press on selected text would begin the toolkit's own drag and carry the text off, whatever keys are held;
+// with Shift alone it extends the selection.
 void Textfeld::mousePressEvent(QMouseEvent* ereignis) {
-    if (ereignis->button() == Qt::LeftButton && ereignis->modifiers() == Qt::NoModifier) {
-        QTextCursor stelle = textCursor();
-        stelle.clearSelection();
-        setTextCursor(stelle);
+    if (ereignis->button() == Qt::LeftButton) {
+        eintritt_.Gedrueckt(textCursor().hasSelection());
+        if (ereignis->modifiers() != Qt::ShiftModifier) {
+            AuswahlAufheben();
+        }
     }
     QPlainTextEdit::mousePressEvent(ereignis);
+}
+
+void Textfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
+    QPlainTextEdit::mouseReleaseEvent(ereignis);
+    // Who has drawn a selection of his own meanwhile keeps it.
+    if (eintritt_.Losgelassen() && !textCursor().hasSelection()) {
+        TextMarkieren(this);
+    }
 }
 
 // The new text, which the cursor has selected, without what is beyond the limit.
@@ -238,7 +266,22 @@ void Textzeile::setWert(std::string_view text) {
 
 void Textzeile::focusInEvent(QFocusEvent* ereignis) {
     QLineEdit::focusInEvent(ereignis);
+    eintritt_.Betreten(this, ereignis->reason());
     if (!NurUnterbrochen(*ereignis)) {
+        TextMarkieren(this);
+    }
+}
+
+void Textzeile::mousePressEvent(QMouseEvent* ereignis) {
+    if (ereignis->button() == Qt::LeftButton) {
+        eintritt_.Gedrueckt(hasSelectedText());
+    }
+    QLineEdit::mousePressEvent(ereignis);
+}
+
+void Textzeile::mouseReleaseEvent(QMouseEvent* ereignis) {
+    QLineEdit::mouseReleaseEvent(ereignis);
+    if (eintritt_.Losgelassen() && !hasSelectedText()) {
         TextMarkieren(this);
     }
 }

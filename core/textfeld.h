@@ -6,6 +6,23 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include <utility>
+
+// The click that enters a box: the press puts the place to type there and would undo what entering selected.
+class Eintrittsklick {
+public:
+    // The box took the focus; as the press itself arrives in the same breath, what comes later is another
+    // one.
+    void Betreten(QWidget* feld, Qt::FocusReason grund);
+    void Gedrueckt(bool allesGewaehlt) { wiederWaehlen_ = betreten_ && allesGewaehlt; }
+    // Once after such a click: everything is to be selected again.
+    [[nodiscard]] bool Losgelassen() { return std::exchange(wiederWaehlen_, false); }
+
+private:
+    bool betreten_ = false;
+    bool wiederWaehlen_ = false;
+};
+
 // Several lines; Tab moves on to the next control.
 class Textfeld : public QPlainTextEdit {
     Q_OBJECT
@@ -36,14 +53,17 @@ protected:
     void focusInEvent(QFocusEvent* ereignis) override;
     void focusOutEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
 
     // Text that comes out of a file holds nothing that would have to stay outside: no look at it.
     void setUngeprueft(bool ungeprueft) { ungeprueft_ = ungeprueft; }
 
 private:
+    void AuswahlAufheben();
     void NurErlaubteZeichen(int stelle, int neu);
     [[nodiscard]] QString Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const;
 
+    Eintrittsklick eintritt_;
     bool ganzeDatei_ = false;
     bool ungeprueft_ = false;
 };
@@ -61,6 +81,11 @@ public:
 protected:
     // Entering the line selects its whole text.
     void focusInEvent(QFocusEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+
+private:
+    Eintrittsklick eintritt_;
 };
 
 // Selects the whole text of the box.

@@ -144,7 +144,8 @@ public:
 
     bool eventFilter(QObject* objekt, QEvent* ereignis) override {
         if (ereignis->type() == QEvent::MouseButtonPress) {
-            return druck_(static_cast<QMouseEvent*>(ereignis)->modifiers());
+            const auto& druck = *static_cast<QMouseEvent*>(ereignis);
+            return druck.button() == Qt::LeftButton && druck_(druck.modifiers());
         }
         return QObject::eventFilter(objekt, ereignis);
     }

@@ -36,8 +36,8 @@ void ZielEinrichten(QWidget* ziel, ZiehBild bild, Ablegen ablegen);
 // take nothing as well.
 void KeinZiel(QWidget* steuerelement);
 
-// Runs druck at each press on the text area of a box, with the keys held. True of it: the press was more than
-// an ordinary click, and the box doesn't get it.
+// Runs druck at each press of the left button on the text area of a box, with the keys held. True of it: the
+// press was more than an ordinary click, and the box doesn't get it.
 void DruckEinrichten(QAbstractScrollArea* feld, std::function<bool(Qt::KeyboardModifiers)> druck);
 
 // The way without a mouse. A source hands in what a press on it does; Shift+F8 and Ctrl+F8 then do what a

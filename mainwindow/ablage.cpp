@@ -38,7 +38,8 @@ public:
 
     bool eventFilter(QObject* objekt, QEvent* ereignis) override {
         if (ereignis->type() == QEvent::MouseButtonPress) {
-            return Druck(static_cast<QMouseEvent*>(ereignis)->modifiers());
+            const auto& druck = *static_cast<QMouseEvent*>(ereignis);
+            return druck.button() == Qt::LeftButton && Druck(druck.modifiers());
         }
         // The double click by key.
         if (ereignis->type() == QEvent::KeyPress &&
@@ -82,6 +83,7 @@ void AblageBauen(QWidget* hilfepanel) {
     TastenEinrichten(pnlCopyF, [](Qt::KeyboardModifiers tasten) { Druck(tasten); });
     ZielEinrichten(pnlCopyF, ZiehBild::Ablegen, [](const Ziehwert& wert) { AblageAblegen(wert, false); });
     ZielEinrichten(hilfepanel, ZiehBild::Ablegen, [](const Ziehwert& wert) { AblageAblegen(wert, true); });
+    KeinZiel(pnlCopyA); // what lies on the help panel would take part in it
 }
 
 void AblageAnordnen() {

@@ -6,6 +6,7 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/programmstand.h"
+#include "core/ziehen.h"
 #include "editor/editor.h"
 #include "editor/frmEditor.h"
 #include "filetools/formularliste.h"
@@ -94,6 +95,7 @@ void frmMDI::FlaechenBauen() {
     pnlHilfe_ = new Hilfepanel(mitte);
     pnlHilfe_->setFixedHeight(Pixel(hilfeHoehe));
     pnlFKFelder_ = FelderPanelBauen(pnlHilfe_);
+    KeinZiel(pnlFKFelder_);
     auto* picSystray = new QLabel(pnlHilfe_); // carries the picture of the tray icon, out of sight
     picSystray->setObjectName(QStringLiteral("picSystray"));
     picSystray->setPixmap(QApplication::windowIcon().pixmap(16));

@@ -67,6 +67,10 @@ class FkEingabeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aClickIntoABoxSelectsItsWholeTextAndTheNextOnePlacesTheCursor();
+    void aBoxThatIsLeftKeepsNoSelection();
+    void selectedTextIsntCarriedOffWhateverKeysAreHeld_data();
+    void selectedTextIsntCarriedOffWhateverKeysAreHeld();
     void aTypedQuestionLeavesTheAnswerAsItWas();
     void savingByKeyWhileTypingSavesTheTextAndLeavingTheCellChangesNothing();
     void aNewFormByKeyOverTypedTextAnsweredNeinIsUnchanged();
@@ -85,6 +89,61 @@ private Q_SLOTS:
     void aShapeThatFitsNoCounterGivesWayToTheFullBoard();
     void thePicturesOfTheDragAreThere();
 };
+
+void FkEingabeTest::aClickIntoABoxSelectsItsWholeTextAndTheNextOnePlacesTheCursor() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form);
+    for (Textfeld* feld : {form->txtFrage.at(2), form->txtAntwort.at(3)}) {
+        const QPoint vorn(6, 8);
+        maus::Klicken(feld->viewport(), Qt::NoModifier, vorn);
+        QTRY_COMPARE(feld->textCursor().selectedText(), feld->toPlainText());
+        // Elsewhere, or it would be a double click.
+        maus::Klicken(feld->viewport(), Qt::NoModifier, vorn + QPoint(40, 0));
+        QTRY_VERIFY(!feld->textCursor().hasSelection());
+        QVERIFY(feld->hasFocus());
+    }
+    form->txtNr->setText(QStringLiteral("12 b"));
+    maus::Klicken(form->txtNr);
+    QTRY_COMPARE(form->txtNr->selectedText(), QStringLiteral("12 b"));
+}
+
+void FkEingabeTest::aBoxThatIsLeftKeepsNoSelection() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form);
+    form->txtFrage.at(1)->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(form->txtFrage.at(1)->textCursor().hasSelection());
+    QTest::keyClick(form->txtFrage.at(1), Qt::Key_Tab);
+    QTRY_VERIFY(form->txtAntwort.at(1)->textCursor().hasSelection());
+    QVERIFY(!form->txtFrage.at(1)->textCursor().hasSelection());
+}
+
+void FkEingabeTest::selectedTextIsntCarriedOffWhateverKeysAreHeld_data() {
+    QTest::addColumn<Qt::KeyboardModifiers>("tasten");
+    QTest::newRow("Strg") << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("Umschalt") << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    QTest::newRow("Umschalt+Strg") << (Qt::ShiftModifier | Qt::ControlModifier);
+}
+
+void FkEingabeTest::selectedTextIsntCarriedOffWhateverKeysAreHeld() {
+    QFETCH(Qt::KeyboardModifiers, tasten);
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form);
+    Textfeld* antwort = form->txtAntwort.at(1);
+    antwort->setText("eine lange Antwort, auf der man gut ziehen kann");
+    antwort->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(antwort->textCursor().hasSelection());
+    Stand.FormGeaendert = false;
+    maus::Ziehen(antwort, form->txtAntwort.at(4), tasten);
+    maus::Ziehen(antwort, form->txtFrage.at(4), tasten);
+    QCOMPARE(FK_Frage(1), std::string("Frage 1"));
+    QCOMPARE(FK_Antwort(1), std::string("eine lange Antwort, auf der man gut ziehen kann"));
+    QCOMPARE(FK_Frage(4), std::string("Frage 4"));
+    QCOMPARE(FK_Antwort(4), std::string("Antwort 4"));
+    QVERIFY(!Stand.FormGeaendert);
+}
 
 void FkEingabeTest::aTypedQuestionLeavesTheAnswerAsItWas() {
     Programm programm;

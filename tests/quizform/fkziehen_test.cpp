@@ -112,6 +112,8 @@ private Q_SLOTS:
     void aQuestionDroppedOnAJokerLiesUnderItsMarker();
     void theAnswerBoxTakesNoDrop();
     void aPressWithoutAKeyCarriesNothingOff();
+    void theRightButtonWithShiftDragsNothing();
+    void theOtherPanelsAtTheBottomTakeNoDrop();
     void parkingAQuestionByMoveAndByCopy();
     void parkingOverAParkedQuestionAsks();
     void aDropOnTheHelpPanelParksAsWell();
@@ -320,6 +322,38 @@ void FkZiehenTest::aPressWithoutAKeyCarriesNothingOff() {
     QCOMPARE(FK_Frage(2), std::string("bleibt hier"));
     QCOMPARE(FK_Antwort(4), std::string());
     QVERIFY(!Stand.FormGeaendert);
+}
+
+void FkZiehenTest::theRightButtonWithShiftDragsNothing() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form, 1, "bleibt", "auch");
+    Ablage(programm, "pnlCopyF")->setCaption(QStringLiteral("liegt"));
+    for (QWidget* quelle :
+         {form->txtFrage.at(1)->viewport(), static_cast<QWidget*>(Ablage(programm, "pnlCopyF"))}) {
+        OhneMausLoslassen();
+        // A press that began a drag would hold the question here.
+        const bool gehalten =
+            OhneMausAufnehmen([quelle] { QTest::mousePress(quelle, Qt::RightButton, Qt::ShiftModifier); });
+        QVERIFY(!gehalten);
+        QTest::mouseRelease(quelle, Qt::RightButton, Qt::ShiftModifier);
+        if (QWidget* menue = QApplication::activePopupWidget()) {
+            menue->close();
+        }
+    }
+    QCOMPARE(FK_Frage(1), std::string("bleibt"));
+}
+
+void FkZiehenTest::theOtherPanelsAtTheBottomTakeNoDrop() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Fuellen(form, 1, "bleibt", "hier");
+    for (const char* name : {"pnlCopyA", "pnlFKFelder"}) {
+        maus::Ziehen(form->txtFrage.at(1), Ablage(programm, name), Qt::ShiftModifier, Zeigt(ZiehBild::Nein));
+        QTRY_COMPARE(AktuellesZiehBild(), ZiehBild::Keins);
+        QCOMPARE(AblageFrage(), std::string());
+        QCOMPARE(FK_Frage(1), std::string("bleibt"));
+    }
 }
 
 void FkZiehenTest::parkingAQuestionByMoveAndByCopy() {
