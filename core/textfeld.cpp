@@ -191,7 +191,9 @@ void Textfeld::AuswahlAufheben() {
 // with Shift alone it extends the selection.
 void Textfeld::mousePressEvent(QMouseEvent* ereignis) {
     if (ereignis->button() == Qt::LeftButton) {
-        eintritt_.Gedrueckt(textCursor().hasSelection());
+        // A whole file isn't selected on entering: what is selected there is a part, and all would be too
+        // much.
+        eintritt_.Gedrueckt(!ganzeDatei_ && textCursor().hasSelection());
         if (ereignis->modifiers() != Qt::ShiftModifier) {
             AuswahlAufheben();
         }
