@@ -31,6 +31,7 @@ private Q_SLOTS:
 
     // --- Clipboard ---
     void theButtonsFollowSelectionAndClipboard();
+    void aClickBackIntoTheTextSelectsNothing();
     void copyingReplacesTheClipboard();
     void appendingToAnEmptyClipboardGivesTheSelectionAlone();
     void appendingPutsTheSelectionBehindTheClipboardsText();
@@ -64,6 +65,17 @@ void EditorablageTest::theButtonsFollowSelectionAndClipboard() {
     QCOMPARE(Benutzbar(editor), QStringLiteral("01234567"));
     QGuiApplication::clipboard()->clear();
     QCOMPARE(Benutzbar(editor), QStringLiteral("012357"));
+}
+
+void EditorablageTest::aClickBackIntoTheTextSelectsNothing() {
+    Tippen(editor, QStringLiteral("Eule am Fluss"));
+    Markieren(editor, 0, 4);
+    editor->txtNotiz->clearFocus();
+    QTRY_VERIFY(!editor->txtNotiz->hasFocus());
+    QCOMPARE(editor->txtNotiz->textCursor().selectedText(), QStringLiteral("Eule")); // for the buttons
+    maus::Klicken(editor->txtNotiz->viewport(), Qt::NoModifier, QPoint(40, 8));
+    QTRY_VERIFY(editor->txtNotiz->hasFocus());
+    QTRY_COMPARE(editor->txtNotiz->textCursor().selectedText(), QString());
 }
 
 void EditorablageTest::copyingReplacesTheClipboard() {
