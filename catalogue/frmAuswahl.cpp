@@ -112,7 +112,11 @@ void frmAuswahl::FrageGewaehlt() {
 
 // Also an empty field begins a drag.
 void frmAuswahl::FrageZiehen() {
-    Ziehen(txtFrage_, {Zugart::Auswahl, Formart::Keine, 0, txtFrage_->text(), txtAntwort_->text()});
+    const auto wert = [this]() -> Ziehwert {
+        return {Zugart::Auswahl, Formart::Keine, 0, txtFrage_->text(), txtAntwort_->text()};
+    };
+    Ziehen(txtFrage_, wert(),
+           [this, wert] { return txtFrage_->text().empty() ? std::nullopt : std::optional(wert()); });
 }
 
 // The way by key: the question is held, and F8 puts it where the user goes in the main window.

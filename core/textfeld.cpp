@@ -126,6 +126,21 @@ Textfeld::Textfeld(QWidget* eltern, const QString& name) : QPlainTextEdit(eltern
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int stelle, int, int neu) { NurErlaubteZeichen(stelle, neu); });
+    connect(this, &QPlainTextEdit::textChanged, this, &Textfeld::TextVergleichen);
+}
+
+// The toolkit also speaks of a change when only the look has changed, or when an undo has led back to the
+// same text.
+void Textfeld::TextVergleichen() {
+    if (ganzeDatei_) {
+        Q_EMIT textAnders(); // its text is long
+        return;
+    }
+    QString jetzt = document()->toRawText();
+    if (jetzt != bisher_) {
+        bisher_ = std::move(jetzt);
+        Q_EMIT textAnders();
+    }
 }
 
 std::string Textfeld::text() const {
@@ -164,8 +179,27 @@ void Textfeld::setZentriert(bool zentriert) {
 void Textfeld::focusInEvent(QFocusEvent* ereignis) {
     QPlainTextEdit::focusInEvent(ereignis);
     eintritt_.Betreten(this, ereignis->reason());
-    if (!NurUnterbrochen(*ereignis)) {
-        Q_EMIT fokusErhalten();
+    if (!drin_ || !NurUnterbrochen(*ereignis)) {
+        Betreten();
+    }
+}
+
+void Textfeld::Betreten() {
+    // Where the focus moved while another window was in front, nobody told the box that it left.
+    for (Textfeld* anderes : window()->findChildren<Textfeld*>()) {
+        if (anderes != this && anderes->drin_) {
+            anderes->Verlassen();
+        }
+    }
+    drin_ = true;
+    Q_EMIT fokusErhalten();
+}
+
+void Textfeld::Verlassen() {
+    drin_ = false;
+    Q_EMIT fokusVerloren();
+    if (!ganzeDatei_) { // the buttons of an editor work on what is selected
+        AuswahlAufheben();
     }
 }
 
@@ -174,10 +208,7 @@ void Textfeld::focusOutEvent(QFocusEvent* ereignis) {
     if (NurUnterbrochen(*ereignis)) {
         Q_EMIT fokusUnterbrochen();
     } else {
-        Q_EMIT fokusVerloren();
-        if (!ganzeDatei_) { // the buttons of an editor work on what is selected
-            AuswahlAufheben();
-        }
+        Verlassen();
     }
 }
 

@@ -43,11 +43,14 @@ public:
     void setGanzeDatei() { ganzeDatei_ = true; }
 
 Q_SIGNALS:
-    // The focus has moved here from another control, or from here to another one.
+    // The focus has moved here from another control, or from here to another one; also when that happened
+    // while another window was in front, as soon as this one is again.
     void fokusErhalten();
     void fokusVerloren();
     // A menu or another window is in between; the box keeps the focus, and its selection.
     void fokusUnterbrochen();
+    // Another text stands here than before, typed, pasted, undone or set.
+    void textAnders();
 
 protected:
     void focusInEvent(QFocusEvent* ereignis) override;
@@ -59,11 +62,16 @@ protected:
     void setUngeprueft(bool ungeprueft) { ungeprueft_ = ungeprueft; }
 
 private:
+    void Betreten();
+    void Verlassen();
     void AuswahlAufheben();
+    void TextVergleichen();
     void NurErlaubteZeichen(int stelle, int neu);
     [[nodiscard]] QString Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const;
 
     Eintrittsklick eintritt_;
+    QString bisher_; // the text as of the last comparison, of a box that isn't a whole file
+    bool drin_ = false; // the focus came here, and its leaving hasn't been told yet
     bool ganzeDatei_ = false;
     bool ungeprueft_ = false;
 };

@@ -178,12 +178,13 @@ const Ziehwert& Gezogen() {
     return AktuellerZug().wert;
 }
 
-void Ziehen(QWidget* quelle, Ziehwert wert) {
+void Ziehen(QWidget* quelle, Ziehwert wert, Erneuerung erneuern) {
     Zug& zug = AktuellerZug();
     if (zug.drag != nullptr) {
         return;
     }
     zug.wert = std::move(wert);
+    zug.erneuern = std::move(erneuern);
     zug.quelle = quelle;
     zug.getroffen = nullptr;
     zug.gehalten = zug.ohneMaus;

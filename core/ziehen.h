@@ -19,10 +19,14 @@ class QWidget;
 enum class ZiehBild : std::uint8_t { Keins, Aufnehmen, Ablegen, Nein, Atom };
 [[nodiscard]] ZiehBild AktuellesZiehBild();
 
+// What the source would give now; no value when it gives none any more.
+using Erneuerung = std::function<std::optional<Ziehwert>()>;
+
 // Drags a question out of its source; call it while the mouse button is down. Comes back after the drop and
 // what it caused. Esc cancels. A source or a target that is gone by then leaves the drop without effect.
-// While another drag runs it does nothing.
-void Ziehen(QWidget* quelle, Ziehwert wert);
+// While another drag runs it does nothing. A question that is held by key may wait long: its source is asked
+// again at the drop, where erneuern is given.
+void Ziehen(QWidget* quelle, Ziehwert wert, Erneuerung erneuern = {});
 
 // What is being dragged, or was dragged last.
 [[nodiscard]] const Ziehwert& Gezogen();
@@ -50,6 +54,9 @@ bool OhneMausAufnehmen(const std::function<void()>& druecken);
 bool OhneMausAblegen(QWidget* ziel);
 [[nodiscard]] bool OhneMausGehalten();
 void OhneMausLoslassen();
+// Lets go of a question out of a form of that kind, which goes or shows other texts from now on. What is
+// parked, or comes from the catalogue, stays held.
+void OhneMausLoslassen(Formart herkunft);
 
 // The kind of drag that the keys held at a press ask for.
 [[nodiscard]] std::optional<Zugart> ZugartFuer(Qt::KeyboardModifiers tasten);

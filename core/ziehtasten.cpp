@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::string_view hinweisGehalten = " Frage aufgenommen: mit [F8] ablegen, mit [Esc] loslassen.";
+constexpr std::string_view hinweisVergangen = " Die Frage, die ich halten sollte, steht dort nicht mehr.";
 
 bool EscGedrueckt(const QKeyEvent& taste) {
     if (taste.key() != Qt::Key_Escape || !OhneMausGehalten()) {
@@ -97,6 +98,14 @@ bool OhneMausAblegen(QWidget* ziel) {
     }
     Zug& zug = AktuellerZug();
     zug.gehalten = false;
+    if (zug.erneuern) {
+        const std::optional<Ziehwert> neu = zug.erneuern();
+        if (!neu) {
+            HilfeText(hinweisVergangen);
+            return true;
+        }
+        zug.wert = *neu;
+    }
     const Ziehwert wert = zug.wert; // the steps may begin another drag
     marke->ausfuehren(wert);
     return true;
@@ -108,4 +117,10 @@ bool OhneMausGehalten() {
 
 void OhneMausLoslassen() {
     AktuellerZug().gehalten = false;
+}
+
+void OhneMausLoslassen(Formart herkunft) {
+    if (AktuellerZug().wert.herkunft == herkunft && AktuellerZug().wert.feld > 0) {
+        OhneMausLoslassen();
+    }
 }

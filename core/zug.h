@@ -31,6 +31,7 @@ private:
 
 struct Zug {
     Ziehwert wert;
+    Erneuerung erneuern;
     QPointer<QWidget> quelle;
     QPointer<Zielmarke> getroffen;
     QPointer<QDrag> drag; // none while a question is merely held

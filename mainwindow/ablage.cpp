@@ -18,6 +18,10 @@ namespace {
 QPointer<Panel> pnlCopyF;
 QPointer<Panel> pnlCopyA;
 
+Ziehwert Ablagewert(Zugart art) {
+    return {art, Formart::Quiz, 0, AblageFrage(), AblageAntwort()};
+}
+
 // A press on the parked question. True when it was more than an ordinary click.
 bool Druck(Qt::KeyboardModifiers tasten) {
     const std::optional<Zugart> art = ZugartFuer(tasten);
@@ -28,7 +32,9 @@ bool Druck(Qt::KeyboardModifiers tasten) {
         Systemkasten(Kastenart::Schlicht, "", fktexte::keineFrage);
         return true;
     }
-    Ziehen(pnlCopyF, {*art, Formart::Quiz, 0, AblageFrage(), AblageAntwort()});
+    Ziehen(pnlCopyF, Ablagewert(*art), [art = *art] {
+        return AblageFrage().empty() ? std::nullopt : std::optional(Ablagewert(art));
+    });
     return true;
 }
 

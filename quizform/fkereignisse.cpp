@@ -20,7 +20,7 @@ std::size_t Stelle(int n) {
 }
 
 void TexteGelten(frmFKFragen& form, int n) {
-    form.Fokus = form.Alt = form.Texte(n);
+    form.Alt = form.Texte(n);
 }
 
 void Merken() {
@@ -30,7 +30,7 @@ void Merken() {
 }
 
 // Typed text reaches the stored copy when its box loses the focus with another text than the one it took it
-// with. A form that is closing loses it too, and must not count as changed any more.
+// with; a box that was only looked at merges nothing, so that what was blanked can come back. A form that is closing loses it too, and must not count as changed any more.
 void NachAenderungMerken(frmFKFragen& form, int n) {
     if (FKFragenOffen() == &form && form.Texte(n) != form.Alt) {
         Merken();
@@ -92,7 +92,7 @@ bool GrenzeErlaubt(const frmFKFragen& form, Panel* panel, const std::string& buc
 void FK_EingabeAbschliessen() {
     frmFKFragen* form = FKFragenOffen();
     const int n = form == nullptr ? 0 : FokusZelle(*form);
-    if (n > 0 && form->Texte(n) != form->Fokus) {
+    if (n > 0 && form->Texte(n) != form->Alt) {
         Merken();
         TexteGelten(*form, n);
     }
@@ -119,20 +119,15 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
         Textfeld* antwort = form.txtAntwort.at(Stelle(n));
         for (Textfeld* feld : {frage, antwort}) {
-            QObject::connect(feld, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(true); });
+            QObject::connect(feld, &Textfeld::textAnders, &form, [] { FormStatusSetzen(true); });
+            QObject::connect(feld, &Textfeld::fokusErhalten, &form, [&form, n, feld] {
+                TextMarkieren(feld);
+                TexteGelten(form, n);
+            });
             QObject::connect(feld, &Textfeld::fokusVerloren, &form,
                              [&form, n] { NachAenderungMerken(form, n); });
             QObject::connect(feld, &Textfeld::fokusUnterbrochen, &form, [] { FK_EingabeAbschliessen(); });
         }
-        QObject::connect(frage, &Textfeld::fokusErhalten, &form, [&form, n, frage] {
-            TextMarkieren(frage);
-            TexteGelten(form, n);
-        });
-        // Meant: the answer's own focus renews Fokus only.
-        QObject::connect(antwort, &Textfeld::fokusErhalten, &form, [&form, n, antwort] {
-            TextMarkieren(antwort);
-            form.Fokus = form.Texte(n);
-        });
         QObject::connect(form.pnlSpezial.at(Stelle(n)), &Panel::geklickt, &form,
                          [&form, n] { SpezialListeOeffnen(form, n); });
     }

@@ -3,6 +3,7 @@
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/ziehen.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/frmFKFragen.h"
 #include "rules/spielwerte.h"
@@ -40,6 +41,7 @@ std::size_t Stelle(int n) {
 }
 
 void Freigeben(const FKAnlass& anlass) {
+    OhneMausLoslassen(Formart::Quiz);
     fenster = nullptr;
     FormularAbmelden(Sicht());
     anlass.geschlossen();
@@ -123,6 +125,7 @@ void FK_FormularZeigen() {
     if (form == nullptr) {
         return;
     }
+    OhneMausLoslassen(Formart::Quiz); // it held a question of the form before
     ListenSchliessen(*form);
     FK_AlleFelderZeigen();
     for (int n = 1; n <= anzahlFelder; ++n) {
@@ -166,7 +169,7 @@ void FK_Leeren() {
     FK_KopfMerken();
     FK_SpezialLoeschen();
     FK_SpezialMerken();
-    form->Alt = form->Fokus = {};
+    form->Alt = {};
 }
 
 void FK_KopfLeeren() {

@@ -15,11 +15,19 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
+Ziehbeginn Beginn(const frmFKFragen& form, int n, std::optional<Zugart> art) {
+    const std::string buchstabe = Modelltext(form.pnlSpezial.at(Stelle(n))->caption());
+    return FeldZiehbeginn(art, buchstabe, FK_Frage(n).empty());
+}
+
+Ziehwert Feldwert(Zugart art, int n) {
+    return {art, Formart::Quiz, n, FK_Frage(n), FK_Antwort(n)};
+}
+
 // A press on the question of cell n. True when it was more than an ordinary click.
 bool Druck(frmFKFragen& form, int n, Qt::KeyboardModifiers tasten) {
     Textfeld* frage = form.txtFrage.at(Stelle(n));
-    const std::string buchstabe = Modelltext(form.pnlSpezial.at(Stelle(n))->caption());
-    const Ziehbeginn beginn = FeldZiehbeginn(ZugartFuer(tasten), buchstabe, frage->text().empty());
+    const Ziehbeginn beginn = Beginn(form, n, ZugartFuer(tasten));
     if (beginn.ablehnung) {
         Meldung(*beginn.ablehnung);
         return true;
@@ -28,7 +36,10 @@ bool Druck(frmFKFragen& form, int n, Qt::KeyboardModifiers tasten) {
         return false;
     }
     frage->setFocus(Qt::MouseFocusReason);
-    Ziehen(frage, {*beginn.art, Formart::Quiz, n, frage->text(), FK_Antwort(n)});
+    Ziehen(frage, Feldwert(*beginn.art, n), [&form, n, art = *beginn.art] {
+        const Ziehbeginn jetzt = Beginn(form, n, art);
+        return jetzt.art ? std::optional(Feldwert(art, n)) : std::nullopt;
+    });
     return true;
 }
 

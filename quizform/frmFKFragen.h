@@ -56,13 +56,13 @@ public:
     QComboBox* cmbWissen = nullptr;
     QPushButton* cmdFKSchliessen = nullptr;
 
-    // Texts of the cell at the moment its question took the focus; the same for either box of a cell, renewed
-    // when its text has been merged or a command has set it.
+    // Texts of the cell at the moment one of its boxes took the focus, renewed when they have been merged or
+    // a command has set them.
     struct Zelltexte {
         std::string frage, antwort;
         friend bool operator==(const Zelltexte&, const Zelltexte&) = default;
     };
-    Zelltexte Alt, Fokus;
+    Zelltexte Alt;
     [[nodiscard]] Zelltexte Texte(int n) const;
 
     // The cell, or the area, over which a list was opened last.

@@ -98,11 +98,11 @@ void ZeilenEreignisseVerbinden(frmHBFragen& form) {
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
         Textfeld* antwort = form.txtAntwort.at(Stelle(n));
-        QObject::connect(frage, &QPlainTextEdit::textChanged, &form, [&form, n] {
+        QObject::connect(frage, &Textfeld::textAnders, &form, [&form, n] {
             ZeileFaerben(form, n);
             FormStatusSetzen(true);
         });
-        QObject::connect(antwort, &QPlainTextEdit::textChanged, &form, [] { FormStatusSetzen(true); });
+        QObject::connect(antwort, &Textfeld::textAnders, &form, [] { FormStatusSetzen(true); });
         for (Textfeld* feld : {frage, antwort}) {
             QObject::connect(feld, &Textfeld::fokusErhalten, &form, [feld] { TextMarkieren(feld); });
         }

@@ -3,6 +3,7 @@
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/ziehen.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
 #include "testform/texte.h"
@@ -36,6 +37,7 @@ HBSicht& Sicht() {
 }
 
 void Freigeben(const HBAnlass& anlass) {
+    OhneMausLoslassen(Formart::Test);
     fenster = nullptr;
     FormularAbmelden(Sicht());
     anlass.geschlossen();
@@ -107,6 +109,7 @@ void HB_FormularZeigen() {
     if (form == nullptr) {
         return;
     }
+    OhneMausLoslassen(Formart::Test); // it held a question of the form before
     form->HintergrundMalen();
     KopfFuellen(*form);
     HB_FragenEinfuegen();

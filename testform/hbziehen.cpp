@@ -14,6 +14,14 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
+// Meant: a copy takes the answer from the selection dialog.
+Ziehwert Zeilenwert(Zugart art, int n) {
+    if (art == Zugart::Kopieren) {
+        return {Zugart::Testkopie, Formart::Test, n, HB_Frage(n), AuswahlAntwort()};
+    }
+    return {art, Formart::Test, n, HB_Frage(n), HB_Antwort(n)};
+}
+
 // A press on the question of row n. True when it was more than an ordinary click.
 bool Druck(frmHBFragen& form, int n, Qt::KeyboardModifiers tasten) {
     const std::optional<Zugart> art = ZugartFuer(tasten);
@@ -26,12 +34,9 @@ bool Druck(frmHBFragen& form, int n, Qt::KeyboardModifiers tasten) {
         return true;
     }
     frage->setFocus(Qt::MouseFocusReason);
-    if (art == Zugart::Kopieren) {
-        // Meant: a copy takes the answer from the selection dialog.
-        Ziehen(frage, {Zugart::Testkopie, Formart::Test, n, frage->text(), AuswahlAntwort()});
-    } else {
-        Ziehen(frage, {*art, Formart::Test, n, frage->text(), HB_Antwort(n)});
-    }
+    Ziehen(frage, Zeilenwert(*art, n), [n, art = *art] {
+        return HB_Frage(n).empty() ? std::nullopt : std::optional(Zeilenwert(art, n));
+    });
     return true;
 }
 

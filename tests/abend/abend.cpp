@@ -9,6 +9,7 @@
 #include "mainwindow/frmStart.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
+#include "tests/hilfe/auswahlhilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
@@ -39,17 +40,6 @@ void Bild(QWidget* fenster, const QString& name) {
 
 void BildImDialog(ErwarteterDialog& dialog, const QString& name) {
     dialog.vorher = [name](QDialog& offen) { Bild(&offen, name); };
-}
-
-// Picks an entry of an open list by its text, with the keys Enter and the arrow's aim.
-void Waehlen(QComboBox* liste, const QString& text) {
-    const int stelle = liste->findText(text);
-    QVERIFY2(stelle >= 0, qPrintable(text));
-    liste->showPopup();
-    QTRY_VERIFY(liste->view()->isVisible());
-    liste->view()->setCurrentIndex(liste->model()->index(stelle, 0));
-    QTest::keyClick(liste->view(), Qt::Key_Return);
-    QTRY_VERIFY(!liste->view()->isVisible());
 }
 
 struct Griff {
@@ -156,9 +146,9 @@ void Abend::FragenZiehen() {
     auto* frage = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
     int gebiet = 0;
     for (const Griff& griff : griffe) {
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), griff.thema);
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), griff.unterthema);
-        Waehlen(frage, frage->itemText(griff.frage));
+        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), griff.thema);
+        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), griff.unterthema);
+        ListeWaehlen(frage, frage->itemText(griff.frage));
         maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")),
                      FKFragenOffen()->txtFrage.at(Nr(griff.feld)));
         QTRY_VERIFY(!FK_Frage(griff.feld).empty());
@@ -175,7 +165,7 @@ void Abend::TitelWaehlen(int gebiet, const QString& titel) {
     frmFKFragen* form = FKFragenOffen();
     maus::Klicken(form->pnlWissen.at(Nr(gebiet)));
     QTRY_VERIFY(form->cmbWissen->view()->isVisible());
-    Waehlen(form->cmbWissen, titel);
+    ListeWaehlen(form->cmbWissen, titel);
     QTRY_COMPARE(form->pnlWissen.at(Nr(gebiet))->caption(), titel);
 }
 
@@ -183,7 +173,7 @@ void Abend::SpezialWaehlen(int feld, int eintrag) {
     frmFKFragen* form = FKFragenOffen();
     maus::Klicken(form->pnlSpezial.at(Nr(feld)));
     QTRY_VERIFY(form->cmbSpezial->view()->isVisible());
-    Waehlen(form->cmbSpezial, form->cmbSpezial->itemText(eintrag));
+    ListeWaehlen(form->cmbSpezial, form->cmbSpezial->itemText(eintrag));
 }
 
 void Abend::SpezialfelderSetzen() {

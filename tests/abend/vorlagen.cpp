@@ -10,6 +10,7 @@
 #include "quizform/quizformular.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
+#include "tests/hilfe/auswahlhilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
@@ -158,17 +159,6 @@ QString Text(const char* utf8) {
     return QString::fromUtf8(utf8);
 }
 
-// Picks an entry of an open list by its text.
-void Waehlen(QComboBox* liste, const QString& text) {
-    const int stelle = liste->findText(text);
-    QVERIFY2(stelle >= 0, qPrintable(text));
-    liste->showPopup();
-    QTRY_VERIFY(liste->view()->isVisible());
-    liste->view()->setCurrentIndex(liste->model()->index(stelle, 0));
-    QTest::keyClick(liste->view(), Qt::Key_Return);
-    QTRY_VERIFY(!liste->view()->isVisible());
-}
-
 // The selection dialog, beside the form.
 QWidget* Auswahl(const char* taste) {
     if (FensterOderNichts(QStringLiteral("frmAuswahl")) == nullptr) {
@@ -184,12 +174,12 @@ void Ziehen(const QWidget* auswahl, const Herkunft& herkunft, const QWidget* zie
     auto* unterthema = Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter"));
     auto* frage = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
     if (thema->currentText() != Text(herkunft.thema)) {
-        Waehlen(thema, Text(herkunft.thema));
+        ListeWaehlen(thema, Text(herkunft.thema));
     }
     if (unterthema->currentText() != Text(herkunft.unterthema)) {
-        Waehlen(unterthema, Text(herkunft.unterthema));
+        ListeWaehlen(unterthema, Text(herkunft.unterthema));
     }
-    Waehlen(frage, frage->itemText(herkunft.frage));
+    ListeWaehlen(frage, frage->itemText(herkunft.frage));
     maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")), ziel);
 }
 
@@ -348,7 +338,7 @@ void Vorlagen::TitelWaehlen(int gebiet, const Gebiet& was) {
     }
     maus::Klicken(form->pnlWissen.at(Nr(gebiet)));
     QTRY_VERIFY(form->cmbWissen->view()->isVisible());
-    Waehlen(form->cmbWissen, Text(was.titel));
+    ListeWaehlen(form->cmbWissen, Text(was.titel));
     QTRY_COMPARE(form->pnlWissen.at(Nr(gebiet))->caption(), Text(was.titel));
 }
 
@@ -357,7 +347,7 @@ void Vorlagen::BesonderesSetzen(const Quizvorlage& vorlage) {
     for (const Besonderes& feld : vorlage.besonderes) {
         maus::Klicken(form->pnlSpezial.at(Nr(feld.feld)));
         QTRY_VERIFY(form->cmbSpezial->view()->isVisible());
-        Waehlen(form->cmbSpezial, form->cmbSpezial->itemText(feld.eintrag));
+        ListeWaehlen(form->cmbSpezial, form->cmbSpezial->itemText(feld.eintrag));
         QTRY_VERIFY(!form->pnlSpezial.at(Nr(feld.feld))->caption().isEmpty());
     }
 }
@@ -392,7 +382,7 @@ void Vorlagen::KopfWaehlen(const Testvorlage& vorlage) {
           std::pair{&form->gruppe, vorlage.gruppe}}) {
         maus::Klicken(wahl->taste);
         QTRY_VERIFY(wahl->liste->view()->isVisible());
-        Waehlen(wahl->liste, Text(text));
+        ListeWaehlen(wahl->liste, Text(text));
         QTRY_VERIFY(wahl->liste->isHidden());
     }
 }

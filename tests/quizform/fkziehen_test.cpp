@@ -9,6 +9,7 @@
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
+#include "tests/hilfe/auswahlhilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
@@ -51,36 +52,9 @@ void BuchstabeSetzen(frmFKFragen* form, int n, const QString& buchstabe) {
     FK_FelderFaerben();
 }
 
-void Waehlen(QComboBox* liste, const QString& text) {
-    const int stelle = liste->findText(text);
-    QVERIFY2(stelle >= 0, qPrintable(text));
-    liste->showPopup();
-    QTRY_VERIFY(liste->view()->isVisible());
-    liste->view()->setCurrentIndex(liste->model()->index(stelle, 0));
-    QTest::keyClick(liste->view(), Qt::Key_Return);
-    QTRY_VERIFY(!liste->view()->isVisible());
-}
-
 // The selection dialog beside the form, with a question picked where gewaehlt.
 QWidget* AuswahlOeffnen(const Programm& programm, bool gewaehlt) {
-    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdAuswahl(0)")), Qt::LeftButton);
-    QWidget* auswahl = FensterAbwarten(QStringLiteral("frmAuswahl"));
-    auswahl->move(1600 - auswahl->frameGeometry().width(), 60);
-    // The window manager moves it in its own time; the mouse must not come before.
-    const bool angekommen = WartenBis([auswahl] {
-        const QWidget* dort = QApplication::widgetAt(auswahl->mapToGlobal(auswahl->rect().center()));
-        return dort != nullptr && dort->window() == auswahl;
-    });
-    if (!angekommen) {
-        VersagenUndEnde(QStringLiteral("The selection dialog never got to its place"), Stelle::hier());
-    }
-    if (gewaehlt) {
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), QStringLiteral("Tiere"));
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), QStringLiteral("Haustiere"));
-        auto* fragen = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
-        Waehlen(fragen, fragen->itemText(0));
-    }
-    return auswahl;
+    return AuswahlOeffnen(programm, QStringLiteral("cmdAuswahl(0)"), Ecke::Oben, gewaehlt);
 }
 
 Panel* Ablage(const Programm& programm, const char* name) {

@@ -3,6 +3,7 @@
 #include "catalogue/auswahl.h"
 #include "core/ziehen.h"
 #include "mainwindow/ablage.h"
+#include "tests/hilfe/auswahlhilfe.h"
 #include "tests/hilfe/versagen.h"
 #include "tests/testform/testhilfe.h"
 
@@ -19,35 +20,9 @@ const QString besetzt = QStringLiteral("In diesem Feld gibt es schon eine Frage 
 const QString muellTitel = QStringLiteral("Frage und Antwort löschen");
 const QString muellFrage = QStringLiteral("Soll ich die Frage und Antwort wirklich löschen ?");
 
-void Waehlen(QComboBox* liste, const QString& text) {
-    const int stelle = liste->findText(text);
-    QVERIFY2(stelle >= 0, qPrintable(text));
-    liste->showPopup();
-    QTRY_VERIFY(liste->view()->isVisible());
-    liste->view()->setCurrentIndex(liste->model()->index(stelle, 0));
-    QTest::keyClick(liste->view(), Qt::Key_Return);
-    QTRY_VERIFY(!liste->view()->isVisible());
-}
-
 // The selection dialog where it hides nothing of the form, with a question picked where gewaehlt.
 QWidget* AuswahlOeffnen(const Programm& programm, bool gewaehlt) {
-    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdAuswahl(1)")), Qt::LeftButton);
-    QWidget* auswahl = FensterAbwarten(QStringLiteral("frmAuswahl"));
-    auswahl->move(1600 - auswahl->frameGeometry().width(), 1150 - auswahl->frameGeometry().height());
-    const bool angekommen = WartenBis([auswahl] {
-        const QWidget* dort = QApplication::widgetAt(auswahl->mapToGlobal(auswahl->rect().center()));
-        return dort != nullptr && dort->window() == auswahl;
-    });
-    if (!angekommen) {
-        VersagenUndEnde(QStringLiteral("The selection dialog never got to its place"), Stelle::hier());
-    }
-    if (gewaehlt) {
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), QStringLiteral("Tiere"));
-        Waehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), QStringLiteral("Haustiere"));
-        auto* fragen = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
-        Waehlen(fragen, fragen->itemText(0));
-    }
-    return auswahl;
+    return AuswahlOeffnen(programm, QStringLiteral("cmdAuswahl(1)"), Ecke::Unten, gewaehlt);
 }
 
 // Moves the form to the left edge, so that the selection dialog has room beside or below it.
@@ -90,6 +65,7 @@ private Q_SLOTS:
     void aParkedQuestionBringsItsAnswerAndEmptiesNoRow();
     void theTrashEmptiesARowAfterItsQuestion();
     void theSameWayWithKeysAlone();
+    void anotherFormLetsGoOfWhatWasHeldOfTheFirst();
 };
 
 void HbZiehenTest::fromTheSelectionDialogIntoAnEmptyRow() {
@@ -349,6 +325,19 @@ void HbZiehenTest::theSameWayWithKeysAlone() {
     QTRY_COMPARE(HB_Frage(9), std::string("mit Tasten"));
     QCOMPARE(HB_Antwort(9), std::string("auch"));
     QCOMPARE(HB_Frage(1), std::string());
+}
+
+void HbZiehenTest::anotherFormLetsGoOfWhatWasHeldOfTheFirst() {
+    Programm programm;
+    frmHBFragen* form = programm.NeuesTestformular();
+    Fuellen(form, 1, "Was ?", "Das");
+    QTest::keyClick(form->txtFrage.at(1), Qt::Key_F8, Qt::ShiftModifier);
+    QVERIFY(OhneMausGehalten());
+    HB_FormularZeigen(); // as a form that was read is shown
+    QVERIFY(!OhneMausGehalten());
+    QTest::keyClick(form->txtFrage.at(5), Qt::Key_F8);
+    QCOMPARE(HB_Frage(1), std::string("Was ?"));
+    QCOMPARE(HB_Frage(5), std::string());
 }
 
 QTEST_MAIN(HbZiehenTest)
