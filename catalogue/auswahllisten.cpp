@@ -1,5 +1,6 @@
 #include "catalogue/auswahllisten.h"
 
+#include "core/klappliste.h"
 #include "dialogs/meldung.h"
 
 #include <QApplication>
@@ -54,8 +55,7 @@ void Melden(std::string_view ort, const std::function<void()>& schritte) {
 } // namespace
 
 QComboBox* AuswahlListe(QWidget* eltern, const QString& name, int klappbreite, QAbstractItemModel* modell) {
-    auto* liste = new QComboBox(eltern);
-    liste->setObjectName(name);
+    auto* liste = new Klappliste(eltern, name);
     liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     liste->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     liste->setMaxVisibleItems(20);

@@ -44,6 +44,10 @@ void MiniaturFaerben(int n, std::optional<Farbe> farbe);
 // Takes the commands of that kind of form into or out of use.
 void BefehleFreigeben(Formart art, bool frei);
 
+// True while the switch grpFKHB of the quiz toolbar is pressed: the titles come from the other list of
+// themes.
+[[nodiscard]] bool ThemenschalterGedrueckt();
+
 // Gives a button the command of its name, or takes it out of use where there is none.
 void BefehlVerbinden(QAbstractButton* schaltflaeche);
 

@@ -18,6 +18,7 @@ endif()
 feldkranz_quellen(fenster
   core/bilder.cpp
   core/drehfeld.cpp core/drehfeld.h
+  core/klappliste.cpp
   core/oberflaeche.cpp
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h

@@ -1,4 +1,5 @@
 #include "core/bilder.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "dialogs/dialoggrund.h"
 #include "filetools/dateitexte.h"
@@ -183,8 +184,7 @@ QWidget* frmDatei::ZeilenBauen(const Dateiauswahl& auswahl) {
     // A plain line: names of files may hold any character.
     txtDateiname_ = new QLineEdit(feld);
     txtDateiname_->setObjectName(QStringLiteral("txtDateiname"));
-    cmbAppend_ = new QComboBox(feld);
-    cmbAppend_->setObjectName(QStringLiteral("cmbAppend"));
+    cmbAppend_ = new Klappliste(feld, QStringLiteral("cmbAppend"));
     for (const std::string& zeile : auswahl.filter) {
         cmbAppend_->addItem(Anzeige(zeile));
     }

@@ -1,6 +1,7 @@
 #include "filetools/laufwerksfeld.h"
 
 #include "core/bilder.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
@@ -23,9 +24,8 @@ QString Aufschrift(const Laufwerk& laufwerk) {
 } // namespace
 
 Laufwerksfeld::Laufwerksfeld(QWidget* eltern)
-    : QGroupBox(QStringLiteral("Laufwerk"), eltern), drvList_(new QComboBox(this)) {
+    : QGroupBox(QStringLiteral("Laufwerk"), eltern), drvList_(new Klappliste(this, QStringLiteral("drvList"))) {
     setObjectName(QStringLiteral("fraLaufwerk"));
-    drvList_->setObjectName(QStringLiteral("drvList"));
     drvList_->setAccessibleName(QStringLiteral("Laufwerk"));
     auto* raster = new QGridLayout(this);
     raster->setContentsMargins(6, 2, 6, 6);

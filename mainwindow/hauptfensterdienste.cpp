@@ -117,6 +117,11 @@ void FelderAnzeigen() {
     }
 }
 
+bool ThemenschalterGedrueckt() {
+    const auto* schalter = Teil<QAbstractButton>("grpFKHB");
+    return schalter != nullptr && schalter->isChecked();
+}
+
 void BefehleFreigeben(Formart art, bool frei) {
     if (art == Formart::Test) {
         Freigeben({"cmdHBFLaden", "cmdHBFLoeschen", "cmdHBALaden", "cmdHBALoeschen", "cmdHBPLaden",

@@ -1,6 +1,7 @@
 #include "quizform/fkereignisse.h"
 
 #include "core/hauptfenster.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "dialogs/meldung.h"
 #include "quizform/fkformular.h"
@@ -72,6 +73,14 @@ void WissenListeSchliessen(frmFKFragen& form) {
     form.cmbWissen->hide();
     for (int a = 1; a <= anzahlGebiete; ++a) {
         form.pnlWissen.at(Stelle(a))->show();
+    }
+}
+
+// To the panel that a list stood over.
+template <std::size_t anzahl>
+void FokusZurueck(const std::array<Panel*, anzahl>& panels, int n) {
+    if (n > 0 && Stelle(n) < anzahl) {
+        panels.at(Stelle(n))->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -194,6 +203,14 @@ void frmFKFragen::EreignisseVerbinden() {
     for (int a = 1; a <= anzahlGebiete; ++a) {
         connect(pnlWissen.at(Stelle(a)), &Panel::geklickt, this, [this, a] { WissenListeOeffnen(*this, a); });
     }
+    EscBeendet(cmbSpezial, [this] {
+        SpezialListeSchliessen(*this);
+        FokusZurueck(pnlSpezial, AktuellesFeld);
+    });
+    EscBeendet(cmbWissen, [this] {
+        WissenListeSchliessen(*this);
+        FokusZurueck(pnlWissen, AktuellesFeld);
+    });
     connect(cmbSpezial, &QComboBox::activated, this, [this](int i) { SpezialGewaehlt(*this, i); });
     connect(cmbWissen, &QComboBox::activated, this, [this](int i) { WissenGewaehlt(*this, i); });
     connect(cmdFKSchliessen, &QPushButton::clicked, this, [] { FK_Schliessen(); });

@@ -1,5 +1,6 @@
 #include "quizform/fkformular.h"
 
+#include "catalogue/katalogladen.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
@@ -98,6 +99,10 @@ frmFKFragen& FK_Fenster(const FKAnlass& anlass) {
         FormularAnmelden(Sicht());
         Platzieren();
         BefehleFreigeben(Formart::Quiz, true);
+        if (ThemenschalterGedrueckt()) {
+            HBUnterthemenLaden();
+            FK_TitellisteFuellen(Katalog.UnterthemenListe);
+        }
         FK_FragenRegel();
         FK_WissenRegel();
     }

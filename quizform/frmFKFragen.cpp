@@ -3,6 +3,7 @@
 #include "catalogue/katalogladen.h"
 #include "core/bilder.h"
 #include "core/fensterzeichen.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
 #include "quizform/fkereignisse.h"
@@ -130,15 +131,13 @@ void frmFKFragen::FeldBauen(int n) {
 }
 
 void frmFKFragen::ListenBauen() {
-    cmbSpezial = new QComboBox(this);
-    cmbSpezial->setObjectName(QStringLiteral("cmbSpezial"));
+    cmbSpezial = new Klappliste(this, QStringLiteral("cmbSpezial"));
     cmbSpezial->setAccessibleName(QStringLiteral("Spezialfeld"));
     for (const std::string_view eintrag : Spezialliste()) {
         cmbSpezial->addItem(Anzeige(eintrag));
     }
     cmbSpezial->hide();
-    cmbWissen = new QComboBox(this);
-    cmbWissen->setObjectName(QStringLiteral("cmbWissen"));
+    cmbWissen = new Klappliste(this, QStringLiteral("cmbWissen"));
     cmbWissen->setAccessibleName(QStringLiteral("Wissensgebiet"));
     cmbWissen->setMaxVisibleItems(anzahlListenplaetze + 1);
     ThemenLaden();

@@ -2,6 +2,7 @@
 
 #include "catalogue/katalogladen.h"
 #include "core/fensterzeichen.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "rules/spielwerte.h"
 #include "testform/hbereignisse.h"
@@ -39,8 +40,7 @@ Kopfwahl WahlBauen(QWidget* eltern, const QString& wort, std::string_view aufsch
     wahl.taste->setArrowType(Qt::DownArrow);
     wahl.taste->setFocusPolicy(Qt::StrongFocus);
     wahl.taste->setAccessibleName(wort + QStringLiteral(" auswählen"));
-    wahl.liste = new QComboBox(eltern);
-    wahl.liste->setObjectName(QStringLiteral("cmb") + wort);
+    wahl.liste = new Klappliste(eltern, QStringLiteral("cmb") + wort);
     wahl.liste->setAccessibleName(wort);
     wahl.liste->setMaxVisibleItems(anzahlListenplaetze);
     wahl.liste->hide();

@@ -1,11 +1,11 @@
 #include "testform/hbereignisse.h"
 
 #include "core/hauptfenster.h"
+#include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "testform/frmHBFragen.h"
 
 #include <QAbstractItemView>
-#include <QKeyEvent>
 
 namespace {
 
@@ -29,12 +29,6 @@ public:
         if (ereignis->type() == QEvent::FocusOut) {
             // The open list takes the focus as well; where it went shows only afterwards.
             QMetaObject::invokeMethod(this, &Listenwaechter::WennVerlassen, Qt::QueuedConnection);
-        }
-        if (ereignis->type() == QEvent::KeyPress &&
-            static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Escape) {
-            WahlSchliessen(wahl_);
-            wahl_.taste->setFocus(Qt::OtherFocusReason);
-            return true;
         }
         return QObject::eventFilter(objekt, ereignis);
     }
@@ -69,6 +63,10 @@ void WahlVerbinden(frmHBFragen& form, const Kopfwahl& wahl, Lesen lesen, Setzen 
         wahl.taste->setFocus(Qt::OtherFocusReason);
         setzen(QLatin1Char(' ') + wahl.liste->itemText(eintrag));
         FormStatusSetzen(true);
+    });
+    EscBeendet(wahl.liste, [wahl] {
+        WahlSchliessen(wahl);
+        wahl.taste->setFocus(Qt::OtherFocusReason);
     });
     new Listenwaechter(wahl); // belongs to the list
 }

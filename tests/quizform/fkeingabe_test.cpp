@@ -292,7 +292,7 @@ void FkEingabeTest::openingAFileClosesAnOpenList() {
     frmFKFragen* form = programm.NeuesQuizformular();
     QTest::mouseClick(form->pnlWissen.at(2), Qt::LeftButton);
     QTRY_VERIFY(form->cmbWissen->view()->isVisible());
-    QTest::keyClick(form->cmbWissen->view(), Qt::Key_Escape);
+    form->cmbWissen->hidePopup(); // as a click elsewhere does
     QTRY_VERIFY(!form->cmbWissen->view()->isVisible());
     QVERIFY(form->cmbWissen->isVisible()); // an unfinished choice stays
     FK_FormularZeigen();

@@ -33,6 +33,10 @@ private Q_SLOTS:
     void framesShowOnlyWithTheirOption();
     void blankingKeepsTheMarkersAndRestoringBringsTheTextsBack();
     void theThemeSourceFillsTheTitleList();
+    void aNewFormsThemesFollowTheSwitch();
+    void escapeClosesAListOverACellAndGoesBackToIt_data();
+    void escapeClosesAListOverACellAndGoesBackToIt();
+    void theWheelOverAClosedListChangesNothing();
     void theFormsMenuTakesThePlaceOfTheFileMenu();
 };
 
@@ -286,6 +290,71 @@ void FkFelderTest::theThemeSourceFillsTheTitleList() {
     QVERIFY(!schalter->isChecked());
     QCOMPARE(form->cmbWissen->count(), 20);
     QCOMPARE(form->cmbWissen->itemText(0), QStringLiteral("A-Z")); // without a leading ""
+}
+
+void FkFelderTest::aNewFormsThemesFollowTheSwitch() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    auto* schalter = Finden<QAbstractButton>(programm.haupt(), QStringLiteral("grpFKHB"));
+    QTest::mouseClick(schalter, Qt::LeftButton);
+    FK_Entladen();
+    const frmFKFragen* form = programm.NeuesQuizformular();
+    QVERIFY(schalter->isChecked());
+    QVERIFY(Finden<QAction>(programm.haupt(), QStringLiteral("mThemenHB"))->isChecked());
+    QCOMPARE(form->cmbWissen->count(), 20);
+    QCOMPARE(form->cmbWissen->itemText(0), QStringLiteral("Andacht"));
+}
+
+void FkFelderTest::escapeClosesAListOverACellAndGoesBackToIt_data() {
+    QTest::addColumn<bool>("offen");
+    QTest::newRow("in the open list") << true;
+    QTest::newRow("in the closed list") << false;
+}
+
+void FkFelderTest::escapeClosesAListOverACellAndGoesBackToIt() {
+    QFETCH(const bool, offen);
+    Programm programm;
+    const frmFKFragen* form = programm.NeuesQuizformular();
+    for (const auto& [panel, liste] : {std::pair<Panel*, QComboBox*>{form->pnlSpezial.at(7), form->cmbSpezial},
+                                       {form->pnlWissen.at(2), form->cmbWissen}}) {
+        QTest::mouseClick(panel, Qt::LeftButton);
+        QTRY_VERIFY(liste->view()->isVisible());
+        if (!offen) {
+            liste->hidePopup();
+            QTRY_VERIFY(!liste->view()->isVisible());
+        }
+        QTest::keyClick(offen ? static_cast<QWidget*>(liste->view()) : liste, Qt::Key_Escape);
+        QTRY_VERIFY(!liste->view()->isVisible());
+        QVERIFY(!liste->isVisible());
+        QVERIFY(panel->isVisible());
+        QTRY_VERIFY(panel->hasFocus());
+        QVERIFY(!Stand.FormGeaendert);
+    }
+}
+
+void FkFelderTest::theWheelOverAClosedListChangesNothing() {
+    Programm programm;
+    const frmFKFragen* form = programm.NeuesQuizformular();
+    QTest::mouseClick(form->pnlSpezial.at(7), Qt::LeftButton);
+    QTRY_VERIFY(form->cmbSpezial->view()->isVisible());
+    form->cmbSpezial->hidePopup();
+    QTRY_VERIFY(!form->cmbSpezial->view()->isVisible());
+    form->txtNr->setFocus();
+    QTest::mouseClick(Finden(programm.haupt(), QStringLiteral("cmdAuswahl(0)")), Qt::LeftButton);
+    const QWidget* auswahl = FensterAbwarten(QStringLiteral("frmAuswahl"));
+    for (QComboBox* liste : {form->cmbSpezial, Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen"))}) {
+        const int vorher = liste->currentIndex();
+        const QPointF mitte = liste->rect().center();
+        for (const int drehung : {-120, -120, 120}) {
+            QWheelEvent rad(mitte, liste->mapToGlobal(mitte), {}, {0, drehung}, Qt::NoButton, Qt::NoModifier,
+                            Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(liste, &rad);
+        }
+        QCOMPARE(liste->currentIndex(), vorher);
+        QVERIFY(!liste->hasFocus());
+    }
+    QCOMPARE(form->pnlSpezial.at(7)->caption(), QString());
+    QVERIFY(!Stand.FormGeaendert);
 }
 
 void FkFelderTest::theFormsMenuTakesThePlaceOfTheFileMenu() {
