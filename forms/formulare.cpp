@@ -31,6 +31,13 @@ const Weg& WegFuer(Formart art) {
     return art == Formart::Test ? wege.back() : wege.front();
 }
 
+void EingabeAbschliessen() {
+    if (Formularfenster* form = OffenesFormular(); form != nullptr) {
+        KindNachVorn(form->fenster());
+        form->EingabeAbschliessen();
+    }
+}
+
 } // namespace
 
 std::string_view Formularordner(Formart art) {
@@ -64,10 +71,18 @@ void GelesenesZeigen(Formart art, std::string_view titel) {
     WegFuer(art).zeigen(titel);
 }
 
-void OffenesMerken() {
+bool MitGemerktem(bool (*speichern)()) {
+    const Quizformular quiz = FKForm;
+    const Testformular test = HBForm;
     if (Formularfenster* form = OffenesFormular(); form != nullptr) {
         form->Merken();
     }
+    const bool gespeichert = speichern();
+    if (!gespeichert) {
+        FKForm = quiz;
+        HBForm = test;
+    }
+    return gespeichert;
 }
 
 void FormulareEntladen() {
@@ -85,28 +100,19 @@ bool NeuErlaubt(const NachrichtText& neu, const NachrichtText& speichern) {
     }
     const Antwort antwort = Nachricht(speichern);
     if (antwort == Antwort::Ja) {
-        OffenesMerken();
-        return Speichern(); // a save that did not come about counts as Abbrechen
+        return MitGemerktem(Speichern); // a save that did not come about counts as Abbrechen
     }
     return antwort != Antwort::Abbrechen;
 }
 
 void OffenesSpeichern() {
-    if (Formularfenster* form = OffenesFormular(); form != nullptr) {
-        KindNachVorn(form->fenster());
-        form->EingabeAbschliessen();
-        form->Merken();
-    }
-    Speichern();
+    EingabeAbschliessen();
+    MitGemerktem(Speichern);
 }
 
 void OffenesSpeichernUnter() {
-    if (Formularfenster* form = OffenesFormular(); form != nullptr) {
-        KindNachVorn(form->fenster());
-        form->EingabeAbschliessen();
-        form->Merken();
-    }
-    SpeichernUnter(Speicherart::Formular);
+    EingabeAbschliessen();
+    MitGemerktem([] { return SpeichernUnter(Speicherart::Formular); });
 }
 
 void OffenesDrucken(Formart art, bool blanko) {

@@ -22,8 +22,9 @@
 // Shows the stored copy of that kind, just read, in its window; a form of the other kind goes without a
 // question.
 void GelesenesZeigen(Formart art, std::string_view titel);
-// Window into stored copy, for a save; does nothing without a form.
-void OffenesMerken();
+// Window into stored copy, then the save. When no save comes about, the stored copy is as before, so that
+// what was blanked can still come back. Gives what the save gives; without a form it runs all the same.
+bool MitGemerktem(bool (*speichern)());
 // Closes any open form without asking.
 void FormulareEntladen();
 

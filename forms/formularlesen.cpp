@@ -11,6 +11,7 @@
 #include "forms/oeffnen.h"
 #include "persistence/formulardatei.h"
 #include "persistence/texte.h"
+#include "rules/wertebereiche.h"
 
 #include <optional>
 #include <utility>
@@ -25,6 +26,11 @@ constexpr int hoechstensKaesten = 10;
 void Fehlerkasten(const Laufzeitfehler& fehler) {
     Systemkasten(Kastenart::Schlicht, fehlerTitel,
                  Einsetzen(fehlerStelle, {std::to_string(fehler.nummer()), std::to_string(fehler.zeile())}));
+}
+
+void Abbruch(const Laufzeitfehler& fehler) {
+    Fehlerkasten(fehler);
+    Systemkasten(Kastenart::Schlicht, fehlerTitel, dateiZuKurz);
 }
 
 // What the user wants after the file could not be opened.
@@ -101,9 +107,21 @@ FormularErgebnis Auswerten(const std::string& bytes, Formularwerte& werte) {
     });
 }
 
-// What was read is in force, also where the reading was cut short.
-void Uebernehmen(Formularwerte&& werte) {
+// An empty form of either kind, so that what the file doesn't give is empty, and the values in force.
+Formularwerte Anfangswerte() {
+    Formularwerte werte{Stand.FormTyp, {}, {}, Spiel, Editor.Bemerkung};
+    werte.quiz.FeldPunkte = FKForm.FeldPunkte; // those of the board, in no file
+    return werte;
+}
+
+// What was read is in force, also where the reading was cut short. A file with a tag of no kind shows nothing,
+// and so it changes nothing.
+void Uebernehmen(Formularwerte&& werte, bool leer) {
     Stand.FormTyp = werte.art;
+    if (werte.art != Formart::Quiz && werte.art != Formart::Test && !leer) {
+        return;
+    }
+    BrettEinhalten(werte.spiel);
     FKForm = std::move(werte.quiz);
     HBForm = std::move(werte.test);
     Spiel = std::move(werte.spiel);
@@ -120,8 +138,7 @@ Lesung FormularEinlesen(const std::string& pfad, const std::function<bool()>& vo
     if (vorDemErsatz && FormularAnnehmbar(*bytes, Stand.FormTyp) && !vorDemErsatz()) {
         return Lesung::Nichts;
     }
-    Formularwerte werte = GemerkteWerte();
-    werte.Bemerkung = Editor.Bemerkung;
+    Formularwerte werte = Anfangswerte();
     const FormularErgebnis ergebnis = Auswerten(*bytes, werte);
     if (ergebnis.ende == Leseende::KeinFormular) {
         return Lesung::KeinFormular;
@@ -130,15 +147,18 @@ Lesung FormularEinlesen(const std::string& pfad, const std::function<bool()>& vo
         AblehnungMelden(ergebnis.kennung);
         return Lesung::Abgelehnt;
     }
-    Uebernehmen(std::move(werte));
+    if (ergebnis.fehler && !ergebnis.begonnen()) {
+        Abbruch(*ergebnis.fehler);
+        return Lesung::Nichts; // cut short inside its head: no form begins there
+    }
+    Uebernehmen(std::move(werte), bytes->empty());
     if (ergebnis.begonnen() && ergebnis.kennung != Formart::Fremd) {
         FlaggeZeigen(ergebnis.kennung == Formart::Test);
         FormularlisteTastenSetzen(ergebnis.kennung);
     }
     if (ergebnis.fehler) {
-        Fehlerkasten(*ergebnis.fehler);
-        Systemkasten(Kastenart::Schlicht, fehlerTitel, dateiZuKurz);
-        return ergebnis.begonnen() ? Lesung::Teilweise : Lesung::Nichts;
+        Abbruch(*ergebnis.fehler);
+        return Lesung::Teilweise;
     }
-    return Lesung::Ganz;
+    return bytes->empty() ? Lesung::Leer : Lesung::Ganz;
 }

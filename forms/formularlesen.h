@@ -11,6 +11,7 @@ enum class Lesung : std::uint8_t {
     KeinFormular, // no form file; nothing changed, nothing said
     Abgelehnt,    // a form of the other kind is open; nothing changed, the user was told
     Teilweise,    // cut short inside a section; the user was told
+    Leer,         // a file without a byte; an empty form of the open kind
     Nichts,       // not opened, or cut short inside its head; told, and another file may have been loaded
 };
 

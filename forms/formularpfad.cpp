@@ -11,16 +11,28 @@ struct Gemerkt {
     QString nativ;
 };
 Gemerkt gemerkt;
+std::string vorschlag;
 
 } // namespace
 
 void FormularpfadMerken(Formart art, const std::string& pfad) {
     Formulardatei(art) = pfad;
     gemerkt = {pfad, NativerPfad(pfad)};
+    vorschlag.clear();
 }
 
 void FormularpfadVergessen(Formart art) {
     Formulardatei(art).clear();
+    vorschlag.clear();
+}
+
+void NamenVorschlagen(const std::string& pfad) {
+    vorschlag = pfad;
+}
+
+std::string Namensvorschlag(Formart art) {
+    const std::string eigener = Formularpfad(art);
+    return eigener.empty() ? vorschlag : eigener;
 }
 
 std::string Formularpfad(Formart art) {

@@ -10,6 +10,10 @@ void FormularpfadMerken(Formart art, const std::string& pfad);
 
 // The open form has no file of its own: the next save asks for a name.
 void FormularpfadVergessen(Formart art);
+// And proposes that of a file, until the form has one of its own or goes.
+void NamenVorschlagen(const std::string& pfad);
+// What the save dialog proposes for the open form: its own file, the one proposed, or "".
+[[nodiscard]] std::string Namensvorschlag(Formart art);
 
 // The open form's path, meaning the same file as when it was noted, also if another file that differs only in
 // case was chosen since. "" for a form that has no file yet.

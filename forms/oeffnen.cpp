@@ -22,16 +22,21 @@ namespace {
 
 using namespace persistenztexte;
 
-// What was rescued comes back as a form without a file: a save must not go over the rescued one.
-void PfadUebernehmen(Formart art, const std::string& pfad) {
+// What was rescued comes back as a form without a file: a save must not go over the rescued one. Neither must
+// it go unasked over a file that wasn't read to its end: what couldn't be read is still in there.
+void PfadUebernehmen(Formart art, const std::string& pfad, bool ganz) {
     if (IstRettungsname(NurDateiname(pfad))) {
         FormularpfadVergessen(art);
+    } else if (!ganz) {
+        FormularpfadVergessen(art);
+        NamenVorschlagen(pfad);
     } else {
         FormularpfadMerken(art, pfad);
     }
 }
 
-void Zeigen(Formart art, const std::string& pfad) {
+// ganz: the file was read to its end.
+void Zeigen(Formart art, const std::string& pfad, bool ganz) {
     if (art == Formart::Quiz) {
         DateilisteErgaenzen(Spiel.Datei, pfad);
         DateilisteAnzeigen();
@@ -39,7 +44,7 @@ void Zeigen(Formart art, const std::string& pfad) {
     } else {
         GelesenesZeigen(art, " Test : " + NurDateiname(pfad));
     }
-    PfadUebernehmen(art, pfad);
+    PfadUebernehmen(art, pfad, ganz);
     FormStatusSetzen(false);
 }
 
@@ -62,11 +67,11 @@ bool Laden(const std::string& pfad, const std::function<bool()>& vorDemErsatz) {
     if (lesung == Lesung::KeinFormular) {
         Meldung(keinFormular);
     }
-    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise) {
+    if (lesung != Lesung::Ganz && lesung != Lesung::Teilweise && lesung != Lesung::Leer) {
         return false;
     }
     if (Stand.FormTyp == Formart::Quiz || Stand.FormTyp == Formart::Test) {
-        Zeigen(Stand.FormTyp, pfad);
+        Zeigen(Stand.FormTyp, pfad, lesung == Lesung::Ganz);
     } else {
         NichtsZeigen();
     }

@@ -5,10 +5,12 @@
 #include "dialogs/meldung.h"
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
+#include "forms/formularpfad.h"
 #include "forms/speichern.h"
 #include "printing/drucken.h"
 #include "quizform/fkformular.h"
 #include "quizform/texte.h"
+#include "rules/wertebereiche.h"
 
 namespace {
 
@@ -16,7 +18,7 @@ void Fenster() {
     static const FKAnlass anlass{[] { return SchliessenPruefen(Formart::Quiz); },
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
-                                     Stand.FKDateiName.clear();
+                                     FormularpfadVergessen(Formart::Quiz);
                                  }};
     FK_Fenster(anlass);
 }
@@ -28,10 +30,11 @@ void FK_Neu() {
         return;
     }
     FormulareEntladen(); // only one form can be open
+    BereicheEinhalten(Spiel);
     FK_ModusSetzen();
     Fenster();
     FK_Leeren();
-    Stand.FKDateiName.clear();
+    FormularpfadVergessen(Formart::Quiz);
     FK_NachVorn();
     FK_FenstertitelSetzen(fktexte::neuerTitel);
     FormularlisteTastenSetzen(Formart::Quiz);

@@ -104,12 +104,6 @@ void BefehleZuruecknehmen(Formart art) {
     FlaggeZeigen(true);
 }
 
-// Brings the stored copy up to date and saves it.
-bool MergenUndSpeichern() {
-    OffenesMerken();
-    return Speichern();
-}
-
 } // namespace
 
 bool Speichern() {
@@ -127,7 +121,7 @@ bool SpeichernUnter(Speicherart art) {
         return FormularSpeichern(form, {});
     }
     SoundSpielen("freiz_2");
-    const std::optional<std::string> gewaehlt = NameErfragen(Formularpfad(form->art()));
+    const std::optional<std::string> gewaehlt = NameErfragen(Namensvorschlag(form->art()));
     const std::string pfad = MitEndung(gewaehlt.value_or(""), art == Speicherart::Ini ? ".INI" : ".FKR");
     if (gewaehlt) {
         Editor.DateiAlt = pfad;
@@ -152,7 +146,7 @@ bool AuswertungSpeichernFragen() {
         Meldung(nichtGespeichert);
         return true;
     }
-    if (!MergenUndSpeichern()) {
+    if (!MitGemerktem(Speichern)) {
         return false; // a save that did not come about counts as Abbrechen
     }
     Meldung(wurdeGespeichert);
@@ -162,7 +156,7 @@ bool AuswertungSpeichernFragen() {
 bool SchliessenPruefen(Formart art) {
     if (Stand.FormGeaendert) {
         const Antwort antwort = Nachricht(schliessen);
-        if (antwort == Antwort::Abbrechen || (antwort == Antwort::Ja && !MergenUndSpeichern())) {
+        if (antwort == Antwort::Abbrechen || (antwort == Antwort::Ja && !MitGemerktem(Speichern))) {
             return false;
         }
     }

@@ -4,6 +4,7 @@
 #include "core/programmstand.h"
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
+#include "forms/formularpfad.h"
 #include "forms/speichern.h"
 #include "printing/testdrucken.h"
 #include "testform/hbformular.h"
@@ -15,7 +16,7 @@ void Fenster() {
     static const HBAnlass anlass{[] { return SchliessenPruefen(Formart::Test); },
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
-                                     Stand.HBDateiName.clear();
+                                     FormularpfadVergessen(Formart::Test);
                                  }};
     HB_Fenster(anlass);
 }
@@ -29,7 +30,7 @@ bool HB_Neu() {
     FormulareEntladen(); // only one form can be open
     ModusTest();
     HBForm = {};
-    Stand.HBDateiName.clear();
+    FormularpfadVergessen(Formart::Test);
     Fenster();
     HB_FragenLoeschen();
     HB_NachVorn();

@@ -75,6 +75,18 @@ void Zaehlen(frmFKFragen& form) {
     form.SpezialAnzahl = SpezialAnzahl(buchstaben);
 }
 
+// The letters are blanked on the screen as a whole and wait in the stored copy.
+bool BuchstabenGeblankt(const frmFKFragen& form) {
+    bool gemerkt = false;
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        if (!Buchstabe(form, n).empty()) {
+            return false;
+        }
+        gemerkt = gemerkt || !FKForm.FeldSpezial.at(Stelle(n)).empty();
+    }
+    return gemerkt;
+}
+
 bool FeldDa(const frmFKFragen* form) {
     return form != nullptr && form->AktuellesFeld >= 1 && form->AktuellesFeld <= anzahlFelder;
 }
@@ -145,7 +157,9 @@ void FK_RegelHinweis() {
 }
 
 void FK_Auffrischen() {
-    FK_SpezialMerken();
+    if (const frmFKFragen* form = FKFragenOffen(); form != nullptr && !BuchstabenGeblankt(*form)) {
+        FK_SpezialMerken();
+    }
     FK_SpezialZaehlen();
     FK_FelderFaerben();
     if (frmFKFragen* form = FKFragenOffen(); form != nullptr) {

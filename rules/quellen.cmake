@@ -1,1 +1,1 @@
-feldkranz_quellen(modell rules/skalierung.cpp rules/spezialfelder.cpp)
+feldkranz_quellen(modell rules/skalierung.cpp rules/spezialfelder.cpp rules/wertebereiche.cpp)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/meldungstext.h"
+#include "rules/wertebereiche.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,9 +22,6 @@ struct Regelschritt {
     std::optional<Regelfrage> frage;      // asked before the step; on Abbrechen the value stays
     std::int16_t neu = 0;                 // the value after the step
 };
-
-inline constexpr std::int16_t hoechstensFragen = 5;
-inline constexpr std::int16_t hoechstensWissen = 6;
 
 // A step of the questions an area. Without the rule the count can't be lowered at all, but raising it asks in
 // the name of the rules whatever the switch says; both are meant.

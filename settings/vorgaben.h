@@ -32,6 +32,4 @@ void RegelnZuruecksetzen(const Spielwerte& vorher, Spielwerte& spiel);
 void GesamtRechnen(Spielwerte& spiel);
 
 // One step of a spin control between 0 and the highest value. False at the bound, with the value as it was.
-inline constexpr std::int16_t hoechstensPunkte = 20;
-inline constexpr std::int16_t hoechstensFelder = 5;
 [[nodiscard]] bool Drehen(std::int16_t& wert, Richtung richtung, std::int16_t hoechstens);

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void withTheRuleOffAndTwoQuestionsAllThirtyCellsStand();
     void applyingShapesTheBoardForEveryNumberOfQuestionsAndAreas();
     void applyingWithTheAreasRuleOffOpensTheTitlesAgain();
+    void blankedLettersComeBackAfterApplyingTheLastOneToo();
     void nothingReachesTheSettingsBeforeItIsApplied();
     void applyingMarksTheFormAndRefreshesPointsCountsAndTips();
     void applyingBringsABlankedFormsQuestionsBack();
@@ -149,6 +150,21 @@ void IniAnwendenTest::applyingWithTheAreasRuleOffOpensTheTitlesAgain() {
     });
     QVERIFY(form->pnlWissen.at(5)->isEnabled());
     QCOMPARE(SichtbareZellen(form).size(), std::size_t(30));
+}
+
+void IniAnwendenTest::blankedLettersComeBackAfterApplyingTheLastOneToo() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, false, false);
+    SpezialWaehlen(form, 4, 3);
+    SpezialWaehlen(form, 9, 4);
+    QCOMPARE(FKForm.FeldSpezial.at(9), std::string("A"));
+    FK_SpezialLoeschen();
+    QCOMPARE(form->pnlSpezial.at(9)->caption(), QString());
+    MitOK(programm, [](QDialog&, Dialogfolge&) {});
+    FK_SpezialEinfuegen();
+    QCOMPARE(form->pnlSpezial.at(4)->caption(), QStringLiteral("R"));
+    QCOMPARE(form->pnlSpezial.at(9)->caption(), QStringLiteral("A"));
 }
 
 void IniAnwendenTest::nothingReachesTheSettingsBeforeItIsApplied() {
