@@ -1,11 +1,13 @@
 feldkranz_quellen(modell
+  core/anfuehrung.cpp
   core/cp1252.cpp core/cp1252_ersatz.cpp
   core/formularfenster.cpp
   core/fortschritt.cpp
   core/laufzeitfehler.cpp
   core/meldungstext.cpp
   core/pfadname.cpp
-  core/wertlesen.cpp core/wertschreiben.cpp)
+  core/wertlesen.cpp core/wertschreiben.cpp
+  core/zeichenbefund.cpp)
 feldkranz_quellen(rand core/datei.cpp core/ordner.cpp core/pfad.cpp)
 if(WIN32)
   feldkranz_quellen(rand core/plattform_windows.cpp)
@@ -22,4 +24,5 @@ feldkranz_quellen(fenster
   core/oberflaeche.cpp
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h
+  core/textpruefung.cpp core/textzeile.cpp
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp)

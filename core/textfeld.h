@@ -1,5 +1,5 @@
 // Text boxes that take what code page 1252 holds: anything else that is typed, pasted or dropped is replaced
-// by its nearest equivalent or left outside, and the status help names the character. Setting a text that
+// by its nearest equivalent or left outside, and the status help names what it was. Setting a text that
 // stands there already changes nothing.
 #pragma once
 
@@ -70,7 +70,7 @@ private:
     [[nodiscard]] QString Gekuerzt(const QString& erlaubt, const QTextCursor& neues) const;
 
     Eintrittsklick eintritt_;
-    QString bisher_; // the text as of the last comparison, of a box that isn't a whole file
+    QString bisher_;    // the text as of the last comparison, of a box that isn't a whole file
     bool drin_ = false; // the focus came here, and its leaving hasn't been told yet
     bool ganzeDatei_ = false;
     bool ungeprueft_ = false;
@@ -95,6 +95,10 @@ protected:
 private:
     Eintrittsklick eintritt_;
 };
+
+// Says in the status help, once the focus is where it goes, that a text with a straight quotation mark won't
+// come back whole; wo names its place. Nothing for any other text.
+void AnfuehrungMelden(QWidget* feld, std::string_view text, const std::string& wo);
 
 // Selects the whole text of the box.
 void TextMarkieren(QLineEdit* zeile);

@@ -24,7 +24,8 @@ QString Aufschrift(const Laufwerk& laufwerk) {
 } // namespace
 
 Laufwerksfeld::Laufwerksfeld(QWidget* eltern)
-    : QGroupBox(QStringLiteral("Laufwerk"), eltern), drvList_(new Klappliste(this, QStringLiteral("drvList"))) {
+    : QGroupBox(QStringLiteral("Laufwerk"), eltern),
+      drvList_(new Klappliste(this, QStringLiteral("drvList"))) {
     setObjectName(QStringLiteral("fraLaufwerk"));
     drvList_->setAccessibleName(QStringLiteral("Laufwerk"));
     auto* raster = new QGridLayout(this);

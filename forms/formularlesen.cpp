@@ -114,8 +114,8 @@ Formularwerte Anfangswerte() {
     return werte;
 }
 
-// What was read is in force, also where the reading was cut short. A file with a tag of no kind shows nothing,
-// and so it changes nothing.
+// What was read is in force, also where the reading was cut short. A file with a tag of no kind shows
+// nothing, and so it changes nothing.
 void Uebernehmen(Formularwerte&& werte, bool leer) {
     Stand.FormTyp = werte.art;
     if (werte.art != Formart::Quiz && werte.art != Formart::Test && !leer) {

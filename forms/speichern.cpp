@@ -1,5 +1,6 @@
 #include "forms/speichern.h"
 
+#include "core/anfuehrung.h"
 #include "core/datei.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
@@ -11,6 +12,7 @@
 #include "filetools/dateidialog.h"
 #include "forms/formulare.h"
 #include "forms/formularpfad.h"
+#include "persistence/anfuehrungsorte.h"
 #include "persistence/formulardatei.h"
 #include "persistence/sicherung.h"
 #include "persistence/texte.h"
@@ -38,6 +40,15 @@ void FormularSchreiben(Formularfenster& form, const std::string& pfad) {
     DateiSchreiben(pfad, form.art() == Formart::Quiz ? FormularBytes(FKForm, Spiel) : FormularBytes(HBForm));
 }
 
+// What the file won't give back whole.
+void AnfuehrungenMelden(Formart art) {
+    const std::string hinweis =
+        AnfuehrungHinweis(art == Formart::Quiz ? Anfuehrungsorte(FKForm) : Anfuehrungsorte(HBForm));
+    if (!hinweis.empty()) {
+        HilfeText(hinweis);
+    }
+}
+
 // True when the form stands in its file; everything else was told.
 bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
     if (form == nullptr || NurDateiname(pfad).empty()) {
@@ -55,6 +66,7 @@ bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
     FormularpfadMerken(form->art(), pfad);
     Meldung(gespeichert, {NurDateiname(pfad)});
     FormStatusSetzen(false);
+    AnfuehrungenMelden(form->art());
     return true;
 }
 

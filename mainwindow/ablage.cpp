@@ -32,9 +32,8 @@ bool Druck(Qt::KeyboardModifiers tasten) {
         Systemkasten(Kastenart::Schlicht, "", fktexte::keineFrage);
         return true;
     }
-    Ziehen(pnlCopyF, Ablagewert(*art), [art = *art] {
-        return AblageFrage().empty() ? std::nullopt : std::optional(Ablagewert(art));
-    });
+    Ziehen(pnlCopyF, Ablagewert(*art),
+           [art = *art] { return AblageFrage().empty() ? std::nullopt : std::optional(Ablagewert(art)); });
     return true;
 }
 

@@ -1,5 +1,6 @@
 feldkranz_quellen(modell
   persistence/abschnitt.cpp
+  persistence/anfuehrungsorte.cpp
   persistence/dateiliste.cpp
   persistence/einstellungsdatei.cpp
   persistence/formularabschnitte.cpp

@@ -31,7 +31,8 @@ void Merken() {
 }
 
 // Typed text reaches the stored copy when its box loses the focus with another text than the one it took it
-// with; a box that was only looked at merges nothing, so that what was blanked can come back. A form that is closing loses it too, and must not count as changed any more.
+// with; a box that was only looked at merges nothing, so that what was blanked can come back. A form that is
+// closing loses it too, and must not count as changed any more.
 void NachAenderungMerken(frmFKFragen& form, int n) {
     if (FKFragenOffen() == &form && form.Texte(n) != form.Alt) {
         Merken();
@@ -121,8 +122,11 @@ void ListenSchliessen(frmFKFragen& form) {
 }
 
 void FeldEreignisseVerbinden(frmFKFragen& form) {
-    for (Textzeile* zeile : {form.txtNr, form.txtDatum, form.txtZeit}) {
+    for (const auto& [zeile, name] :
+         {std::pair{form.txtNr, "Nr."}, std::pair{form.txtDatum, "Datum"}, std::pair{form.txtZeit, "Zeit"}}) {
         QObject::connect(zeile, &QLineEdit::textChanged, &form, [] { FormStatusSetzen(true); });
+        QObject::connect(zeile, &QLineEdit::editingFinished, &form,
+                         [zeile, name] { AnfuehrungMelden(zeile, zeile->wert(), name); });
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));
@@ -134,7 +138,10 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
                 TexteGelten(form, n);
             });
             QObject::connect(feld, &Textfeld::fokusVerloren, &form,
-                             [&form, n] { NachAenderungMerken(form, n); });
+                             [&form, n, feld, name = Zellenname(n, feld == frage ? "Frage" : "Antwort")] {
+                                 NachAenderungMerken(form, n);
+                                 AnfuehrungMelden(feld, feld->text(), name);
+                             });
             QObject::connect(feld, &Textfeld::fokusUnterbrochen, &form, [] { FK_EingabeAbschliessen(); });
         }
         QObject::connect(form.pnlSpezial.at(Stelle(n)), &Panel::geklickt, &form,

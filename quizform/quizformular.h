@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 inline constexpr int anzahlFelder = 30;
 inline constexpr int anzahlGebiete = 6;
@@ -24,6 +25,12 @@ using JeZelle = std::array<Wert, anzahlFelder + 1>;
 }
 [[nodiscard]] constexpr int ZeileVon(int n) {
     return (n - 1) % fragenJeGebiet + 1;
+}
+
+// Where a text stands, as the user is told: "Wissensgebiet 2, Frage 3".
+[[nodiscard]] inline std::string Zellenname(int n, std::string_view was) {
+    return "Wissensgebiet " + std::to_string(GebietVon(n)) + ", " + std::string(was) + ' ' +
+           std::to_string(ZeileVon(n));
 }
 
 struct Quizformular {

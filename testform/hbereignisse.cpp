@@ -103,6 +103,10 @@ void ZeilenEreignisseVerbinden(frmHBFragen& form) {
         QObject::connect(antwort, &Textfeld::textAnders, &form, [] { FormStatusSetzen(true); });
         for (Textfeld* feld : {frage, antwort}) {
             QObject::connect(feld, &Textfeld::fokusErhalten, &form, [feld] { TextMarkieren(feld); });
+            QObject::connect(feld, &Textfeld::fokusVerloren, &form,
+                             [feld, name = Zeilenname(n, feld == frage ? "Frage" : "Antwort")] {
+                                 AnfuehrungMelden(feld, feld->text(), name);
+                             });
         }
         QObject::connect(frage, &Textfeld::fokusVerloren, &form, [&form, n, frage] {
             ZeileFaerben(form, n);

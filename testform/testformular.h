@@ -6,8 +6,14 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 inline constexpr int anzahlTestfragen = 10;
+
+// Where a text stands, as the user is told: "Frage 3".
+[[nodiscard]] inline std::string Zeilenname(int i, std::string_view was) {
+    return std::string(was) + ' ' + std::to_string(i);
+}
 
 struct Testformular {
     std::array<std::string, anzahlTestfragen + 1> HBFrageText;

@@ -2,8 +2,8 @@
 // written over unasked, and what was blanked can still come back.
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
-#include "forms/oeffnen.h"
 #include "formlauf.h"
+#include "forms/oeffnen.h"
 #include "mainwindow/frmMDI.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
@@ -73,6 +73,7 @@ private Q_SLOTS:
     void aCancelledSaveLeavesTheBlankedTextsInTheStoredCopy();
     void aFailedSaveLeavesTheBlankedTextsInTheStoredCopy();
     void aCancelledSaveOfATestFormLeavesItsStoredCopy();
+    void aSaveSaysWhichTextsWontComeBackWhole();
 
 private:
     Formlauf lauf;
@@ -273,6 +274,21 @@ void SchadenTest::aCancelledSaveOfATestFormLeavesItsStoredCopy() {
     }
     lauf.Druecken(QStringLiteral("cmdHBFLaden"));
     QCOMPARE(HB_Frage(1), std::string("Was ?"));
+}
+
+void SchadenTest::aSaveSaysWhichTextsWontComeBackWhole() {
+    lauf.NeuesFormular(QStringLiteral("Wer sagte \"Ja\"?"));
+    FKFragenOffen()->txtAntwort.at(9)->setText("der \"Chef\"");
+    Stand.FKDateiName = lauf.Pfad("ZITAT.FKR");
+    Dialogfolge dialoge;
+    GespeichertErwarten(dialoge, QStringLiteral("ZITAT.FKR"));
+    lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
+    QVERIFY(dialoge.fertig());
+    QVERIFY(lauf.Lesen(QStringLiteral("ZITAT.FKR")).contains("\"Wer sagte \"Ja\"?\"")); // not altered
+    QCOMPARE(
+        Finden<Panel>(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->caption(),
+        QStringLiteral(" Vorsicht bei Wissensgebiet 1, Frage 1 und Wissensgebiet 2, Antwort 4: Was hinter "
+                       "dem Zeichen \" steht, fehlt nach dem nächsten Öffnen. Nimm lieber „ und “. "));
 }
 
 QTEST_MAIN(SchadenTest)

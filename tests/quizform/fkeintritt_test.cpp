@@ -41,6 +41,8 @@ private Q_SLOTS:
     void undoInAnUntouchedBoxMarksNothing();
     void undoingToTheTextThatStoodThereMarksNothingMore();
     void settingTheTextThatStandsThereMarksNothing();
+    void leavingABoxWithAStraightMarkSaysWhatItCosts_data();
+    void leavingABoxWithAStraightMarkSaysWhatItCosts();
 };
 
 void FkEintrittTest::aBoxLeftWithoutAChangeLeavesABlankedFormRestorable_data() {
@@ -141,6 +143,33 @@ void FkEintrittTest::settingTheTextThatStandsThereMarksNothing() {
     }
     form->txtNr->setText(form->txtNr->text());
     QVERIFY(!Stand.FormGeaendert);
+}
+
+void FkEintrittTest::leavingABoxWithAStraightMarkSaysWhatItCosts_data() {
+    QTest::addColumn<QString>("feld");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a question") << QStringLiteral("txtFrage(8)")
+                                << QStringLiteral("Wissensgebiet 2, Frage 3");
+    QTest::newRow("an answer") << QStringLiteral("txtAntwort(30)")
+                               << QStringLiteral("Wissensgebiet 6, Antwort 5");
+    QTest::newRow("the date") << QStringLiteral("txtDatum") << QStringLiteral("Datum");
+}
+
+void FkEintrittTest::leavingABoxWithAStraightMarkSaysWhatItCosts() {
+    QFETCH(const QString, feld);
+    QFETCH(const QString, name);
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    auto* box = Finden(form, feld);
+    box->setFocus();
+    QTRY_VERIFY(box->hasFocus());
+    maus::Tippen(QStringLiteral("Wer sagte \"Ja\"?"));
+    maus::Taste(QStringLiteral("Tab"));
+    QTRY_COMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlHilfe"))->caption(),
+                 QStringLiteral(" Vorsicht bei %1: Was hinter dem Zeichen \" steht, fehlt nach dem nächsten "
+                                "Öffnen. Nimm lieber „ und “. ")
+                     .arg(name));
+    QVERIFY(!box->hasFocus());
 }
 
 QTEST_MAIN(FkEintrittTest)

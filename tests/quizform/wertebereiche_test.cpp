@@ -88,9 +88,11 @@ TEST(Wertebereiche, AColourOutsideThePaletteIsTheOneThatTheFormShows) {
 }
 
 TEST(Wertebereiche, AGapThatIsNoneIsNothing) {
-    for (const auto& [abstand, soll] :
-         {std::pair{-1.0F, 0.0F}, {1e30F, 2.5F}, {std::numeric_limits<float>::quiet_NaN(), 0.0F},
-          {std::numeric_limits<float>::infinity(), 2.5F}, {1.2F, 1.2F}}) {
+    for (const auto& [abstand, soll] : {std::pair{-1.0F, 0.0F},
+                                        {1e30F, 2.5F},
+                                        {std::numeric_limits<float>::quiet_NaN(), 0.0F},
+                                        {std::numeric_limits<float>::infinity(), 2.5F},
+                                        {1.2F, 1.2F}}) {
         Spielwerte spiel;
         spiel.Zwischenabstand = abstand;
         BereicheEinhalten(spiel);

@@ -33,6 +33,7 @@ private Q_SLOTS:
 
     void aTestFileFillsTheFormAndIsUnchanged();
     void aTestFileReplacesTheOpenTestForm();
+    void leavingABoxWithAStraightMarkSaysWhatItCosts();
     void aQuizFileWhileATestFormIsOpenChangesNothing();
     void aSavedTestFormIsByteForByteTheOneThatWasOpened();
     void whatStandsOnTheFormStandsInTheFile();
@@ -83,6 +84,17 @@ void HbDateienTest::aTestFileReplacesTheOpenTestForm() {
     QCOMPARE(HB_Frage(1), std::string("Zwei"));
     QCOMPARE(Stand.HBDateiName, lauf.Pfad("B.FKR"));
     QCOMPARE(Spiel.Datei[0], std::string());
+}
+
+void HbDateienTest::leavingABoxWithAStraightMarkSaysWhatItCosts() {
+    const frmHBFragen* form = lauf.programm().NeuesTestformular();
+    form->txtAntwort.at(3)->setFocus();
+    QTRY_VERIFY(form->txtAntwort.at(3)->hasFocus());
+    QTest::keyClicks(form->txtAntwort.at(3), QStringLiteral("\"Ja\""));
+    QTest::keyClick(form->txtAntwort.at(3), Qt::Key_Tab);
+    QTRY_COMPARE(Finden<Panel>(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->caption(),
+                 QStringLiteral(" Vorsicht bei Antwort 3: Was hinter dem Zeichen \" steht, fehlt nach dem "
+                                "nächsten Öffnen. Nimm lieber „ und “. "));
 }
 
 void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
