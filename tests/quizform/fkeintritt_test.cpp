@@ -41,6 +41,8 @@ private Q_SLOTS:
     void undoInAnUntouchedBoxMarksNothing();
     void undoingToTheTextThatStoodThereMarksNothingMore();
     void settingTheTextThatStandsThereMarksNothing();
+    void aPressOnSelectedTextNeverBeginsToCarryItOff_data();
+    void aPressOnSelectedTextNeverBeginsToCarryItOff();
     void leavingABoxWithAStraightMarkSaysWhatItCosts_data();
     void leavingABoxWithAStraightMarkSaysWhatItCosts();
 };
@@ -143,6 +145,35 @@ void FkEintrittTest::settingTheTextThatStandsThereMarksNothing() {
     }
     form->txtNr->setText(form->txtNr->text());
     QVERIFY(!Stand.FormGeaendert);
+}
+
+void FkEintrittTest::aPressOnSelectedTextNeverBeginsToCarryItOff_data() {
+    QTest::addColumn<Qt::KeyboardModifiers>("tasten");
+    QTest::newRow("none") << Qt::KeyboardModifiers(Qt::NoModifier);
+    QTest::newRow("Strg") << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("Alt") << Qt::KeyboardModifiers(Qt::AltModifier);
+    QTest::newRow("Super") << Qt::KeyboardModifiers(Qt::MetaModifier);
+    QTest::newRow("Super+Umschalt") << (Qt::MetaModifier | Qt::ShiftModifier);
+    QTest::newRow("Umschalt+Strg") << (Qt::ShiftModifier | Qt::ControlModifier);
+}
+
+// A window manager keeps some of these to itself; sent to the box they arrive all the same.
+void FkEintrittTest::aPressOnSelectedTextNeverBeginsToCarryItOff() {
+    QFETCH(const Qt::KeyboardModifiers, tasten);
+    Programm programm;
+    const frmFKFragen* form = programm.NeuesQuizformular();
+    Textfeld* antwort = form->txtAntwort.at(3);
+    antwort->setText("eine lange Antwort, auf der man gut ziehen kann");
+    antwort->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(antwort->textCursor().hasSelection());
+    QTest::mousePress(antwort->viewport(), Qt::LeftButton, tasten, QPoint(20, 8));
+    // What isn't selected can't be carried off.
+    const QTextCursor dort = antwort->cursorForPosition(QPoint(20, 8));
+    QVERIFY(!antwort->textCursor().hasSelection() ||
+            antwort->textCursor().selectionEnd() <= dort.position() ||
+            antwort->textCursor().selectionStart() >= dort.position());
+    QTest::mouseRelease(antwort->viewport(), Qt::LeftButton, tasten, QPoint(20, 8));
+    QCOMPARE(antwort->text(), std::string("eine lange Antwort, auf der man gut ziehen kann"));
 }
 
 void FkEintrittTest::leavingABoxWithAStraightMarkSaysWhatItCosts_data() {
