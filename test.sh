@@ -1,23 +1,27 @@
 #!/usr/bin/env bash
-# Installs what is missing, checks the sources, builds and runs every test. Without an argument everything, in
-# an order that fails fast, where every test runs once: under the sanitizers, or with the release what can't run
-# there. Else the parts named:
+# Installs what is missing and checks everything that a change can break: file style, one build, all tests.
+# Else the parts named:
+#   ./test.sh alles     that, then the linters over everything and the tests again under the sanitizers
 #   ./test.sh stil      format, layers, file style
 #   ./test.sh debug     tests with the standard library's checks (arguments behind it go to ctest)
-#   ./test.sh release   the program as it is shipped, and with it the tests that the sanitizers can't run
 #   ./test.sh tidy      clang-tidy and cppcheck
 #   ./test.sh lint      stil and tidy
 #   ./test.sh asan      tests under the address and undefined-behaviour sanitizers
+#   ./test.sh release   the program as it is shipped, and the tests that the sanitizers can't run with it
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/pakete.sh
 
-case "${1:-alles}" in
-  alles | stil | tidy | lint | release | debug | asan | coverage) ;;
+case "${1:-schnell}" in
+  schnell | alles | stil | tidy | lint | release | debug | asan | coverage) ;;
   *) sed -n '2,10p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
 
-pakete_sichern "${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_lint[@]}"
+pakete=("${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_stil[@]}")
+case "${1:-schnell}" in
+  alles | tidy | lint) pakete+=("${pakete_lint[@]}") ;;
+esac
+pakete_sichern "${pakete[@]}"
 
 kerne=$(kerne)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$kerne}"
@@ -71,11 +75,13 @@ tidy() {
 }
 
 mkdir -p build
-case "${1:-alles}" in
-  alles) stil; release; tidy; tests asan ;;
+case "${1:-schnell}" in
+  schnell) stil; tests debug ;;
+  alles) stil; tests debug; tidy; tests asan ;;
   stil) stil ;;
   tidy) tidy ;;
   lint) stil; tidy ;;
   release) release ;;
   debug | asan | coverage) tests "$@" ;;
 esac
+ueberschrift "All right"

@@ -7,7 +7,8 @@ pakete_lauf=(libqt6gui6 qt6-qpa-plugins fonts-liberation fonts-dejavu-core)
 # A virtual screen, and what turns a printed page into a picture.
 pakete_schirm=(xvfb openbox x11-xkb-utils xkb-data poppler-utils)
 pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-client printer-driver-cups-pdf)
-pakete_lint=(clang clang-tidy clang-format cppcheck python3)
+pakete_stil=(clang-format python3)
+pakete_lint=(clang clang-tidy cppcheck python3)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
 pakete_bild=(graphviz python3 librsvg2-bin imagemagick fonts-liberation fonts-urw-base35)
 
