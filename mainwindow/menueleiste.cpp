@@ -34,6 +34,9 @@ constexpr std::array menues{
     Menue{Fuer::Alle, "mEditor", "&Editor"},     Menue{Fuer::Alle, "mHilfe", "&Hilfe"},
 };
 
+// The menus of one kind stand ahead of it.
+constexpr QLatin1String ersteFuerAlle("mFragen");
+
 // An entry without a text is a separator.
 struct Eintrag {
     std::string_view menue;
@@ -164,6 +167,21 @@ void EintragBauen(QMenu& menue, const Eintrag& zeile) {
     BefehlVerbinden(eintrag);
 }
 
+// A menu that only hides in the bar keeps its letter, and the letter's key then goes round all of them: out
+// of sight is out of the bar.
+void InDieLeiste(QMenuBar& leiste, QMenu& menue, bool hinein) {
+    QAction* eintrag = menue.menuAction();
+    eintrag->setVisible(hinein);
+    if (leiste.actions().contains(eintrag) == hinein) {
+        return;
+    }
+    if (hinein) {
+        leiste.insertAction(leiste.findChild<QMenu*>(ersteFuerAlle)->menuAction(), eintrag);
+    } else {
+        leiste.removeAction(eintrag);
+    }
+}
+
 } // namespace
 
 void MenueleisteBauen(QMainWindow& fenster) {
@@ -192,7 +210,7 @@ void FormularmenueZeigen(QMainWindow& fenster, Formart formart) {
         }
         auto* menue = fenster.findChild<QMenu*>(Anzeige(zeile.name));
         const bool sichtbar = zeile.fuer == vorn;
-        menue->menuAction()->setVisible(sichtbar);
+        InDieLeiste(*fenster.menuBar(), *menue, sichtbar);
         // Out of sight, the entries' keys must not answer either.
         menue->setEnabled(sichtbar);
         for (QAction* eintrag : menue->actions()) {
