@@ -16,6 +16,9 @@ class QWidget;
 
 // Status text in the help panel, with one blank behind it.
 void HilfeText(std::string_view text);
+// What stands in the help panel, as it stands there; and what stood there put back.
+[[nodiscard]] std::string HilfeStand();
+void HilfeStandSetzen(std::string_view stand);
 
 // Switches to the quiz toolbar: FormTyp, defaults of 6 and 5 for a board without a shape, counts shown.
 void ModusFK();

@@ -1,5 +1,7 @@
 #include "dialogs/modal.h"
 
+#include "core/hauptfenster.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QWindow>
@@ -25,7 +27,14 @@ QWidget* Bezugsfenster(const QDialog& dialog) {
 
 } // namespace
 
+Hilfewahrer::Hilfewahrer() : vorher_(HilfeStand()) {}
+
+Hilfewahrer::~Hilfewahrer() {
+    HilfeStandSetzen(vorher_);
+}
+
 int ModalZeigen(QDialog& dialog) {
+    const Hilfewahrer wahrer;
     if (vertreter && vertreter(dialog)) {
         return dialog.result();
     }

@@ -4,10 +4,23 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 class QDialog;
 
-// Runs the dialog and returns its result code.
+// Puts the status line back to what it showed before, when the dialog that is open meanwhile has gone.
+class Hilfewahrer {
+public:
+    Hilfewahrer();
+    ~Hilfewahrer();
+    Hilfewahrer(const Hilfewahrer&) = delete;
+    Hilfewahrer& operator=(const Hilfewahrer&) = delete;
+
+private:
+    std::string vorher_;
+};
+
+// Runs the dialog, keeps the status line over it, and returns its result code.
 int ModalZeigen(QDialog& dialog);
 
 // A handler that answers dialogs in place of a user; true when it has. Empty in the program itself.

@@ -66,9 +66,18 @@ void EndeEintragZeigen(bool zeigen) {
 } // namespace
 
 void HilfeText(std::string_view text) {
+    HilfeStandSetzen(std::string(text) + ' ');
+}
+
+std::string HilfeStand() {
+    const auto* panel = Teil<Panel>("pnlHilfe");
+    return panel == nullptr ? std::string() : Modelltext(panel->caption());
+}
+
+void HilfeStandSetzen(std::string_view stand) {
     auto* panel = Teil<Panel>("pnlHilfe");
     if (panel != nullptr) {
-        panel->setCaption(Anzeige(text) + QLatin1Char(' '));
+        panel->setCaption(Anzeige(stand));
     }
 }
 

@@ -37,6 +37,7 @@ void HinweisAnwenden(const frmIni& fenster, const initexte::Hinweis& hinweis) {
 } // namespace
 
 void VorgabenZeigen() {
+    const Hilfewahrer wahrer; // the dialog speaks while it loads already
     frmIni fenster;
     ModalZeigen(fenster);
 }

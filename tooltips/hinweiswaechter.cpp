@@ -2,6 +2,7 @@
 
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "tooltips/absicht.h"
 #include "tooltips/hinweise.h"
 #include "tooltips/tooltipps.h"
 
@@ -51,11 +52,6 @@ void StilStellen(clsToolTipDeluxe& objekt, const QWidget& element) {
     }
 }
 
-bool MitTaste(const QFocusEvent& ereignis) {
-    return ereignis.reason() == Qt::TabFocusReason || ereignis.reason() == Qt::BacktabFocusReason ||
-           ereignis.reason() == Qt::ShortcutFocusReason;
-}
-
 class Hinweiswaechter : public QObject {
 public:
     explicit Hinweiswaechter(QObject* eltern) : QObject(eltern), uhr_(this) {
@@ -71,12 +67,13 @@ public:
 private:
     // True for an event that goes no further.
     bool Sehen(QWidget& element, QEvent& ereignis) {
+        absicht_.Sehen(element, ereignis);
         switch (ereignis.type()) {
         case QEvent::MouseMove:
             ZeigerSehen(element, static_cast<QMouseEvent&>(ereignis));
             return false;
         case QEvent::FocusIn:
-            if (MitTaste(static_cast<QFocusEvent&>(ereignis))) {
+            if (absicht_.MitTaste(element, static_cast<QFocusEvent&>(ereignis))) {
                 Ansprechen(HinweisstelleVon(&element), false);
             }
             return false;
@@ -109,7 +106,8 @@ private:
     // Only the innermost element counts: an event that nobody takes comes again for each element around it.
     // A window that comes up under the resting pointer has nothing to tell: entering it is no move.
     void ZeigerSehen(QWidget& element, const QMouseEvent& ereignis) {
-        if (ereignis.buttons() == Qt::NoButton && element.childAt(ereignis.position().toPoint()) == nullptr) {
+        if (absicht_.Bewegt(ereignis) && ereignis.buttons() == Qt::NoButton &&
+            element.childAt(ereignis.position().toPoint()) == nullptr) {
             Ansprechen(HinweisstelleVon(&element), true);
         }
     }
@@ -171,6 +169,7 @@ private:
         text_.clear();
     }
 
+    Absicht absicht_;
     QTimer uhr_; // first until the tip comes, then until it goes
     QPointer<QWidget> bereich_;
     QPointer<QWidget> element_;

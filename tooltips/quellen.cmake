@@ -1,6 +1,6 @@
 feldkranz_quellen(modell tooltips/tooltipregeln.cpp)
 feldkranz_quellen(fenster
-  tooltips/hinweise.cpp
+  tooltips/absicht.cpp tooltips/hinweise.cpp
   tooltips/hinweiswaechter.cpp
   tooltips/tooltip.cpp tooltips/tooltip.h
   tooltips/tooltipfenster.cpp tooltips/tooltipfenster.h
