@@ -7,6 +7,7 @@ namespace {
 
 // While one form takes another's place both may exist for a moment; the one that came last is the open one.
 std::vector<Formularfenster*> formulare;
+int nummer = 0; // of the form that came last
 
 } // namespace
 
@@ -24,7 +25,16 @@ Formart OffeneArt() {
     return form == nullptr ? Formart::Keine : form->art();
 }
 
+int Formularnummer() {
+    return formulare.empty() ? 0 : nummer;
+}
+
+void FormularWechselt() {
+    ++nummer;
+}
+
 void FormularAnmelden(Formularfenster& form) {
+    FormularWechselt();
     formulare.push_back(&form);
 }
 

@@ -47,6 +47,12 @@ public:
 // Kind of the open form.
 [[nodiscard]] Formart OffeneArt();
 
+// Tells one open form from another, also two without a file: another number for each form that is begun or
+// read, the same one before and after a save. 0 while none is open.
+[[nodiscard]] int Formularnummer();
+// Called when another form is read into the window of the open one.
+void FormularWechselt();
+
 // Called by the form's window when it comes up and when it goes.
 void FormularAnmelden(Formularfenster& form);
 void FormularAbmelden(const Formularfenster& form);

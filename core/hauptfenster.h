@@ -16,6 +16,9 @@ class QWidget;
 
 // Status text in the help panel, with one blank behind it.
 void HilfeText(std::string_view text);
+// The same about a file: the text has a {} for its name and one for its folder. The name stands whole if it
+// can, the folder gives way in its middle; the panel's tip tells the whole path until the next such text.
+void HilfeDatei(std::string_view text, const std::string& pfad);
 // What stands in the help panel, as it stands there; and what stood there put back.
 [[nodiscard]] std::string HilfeStand();
 void HilfeStandSetzen(std::string_view stand);

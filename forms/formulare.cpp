@@ -8,7 +8,6 @@
 #include "forms/speichern.h"
 #include "forms/testformulare.h"
 #include "printing/druckerwahl.h"
-#include "printing/pdfpfad.h"
 
 #include <array>
 
@@ -68,6 +67,7 @@ void GelesenesZeigen(Formart art, std::string_view titel) {
             form->Entladen();
         }
     }
+    FormularWechselt();
     WegFuer(art).zeigen(titel);
 }
 
@@ -121,5 +121,5 @@ void OffenesDrucken(Formart art, bool blanko) {
 
 void DruckerEinrichten() {
     const Formart art = Stand.FormTyp == Formart::Test ? Formart::Test : Formart::Quiz;
-    DruckerWahl(PdfPfad(art, Formulardatei(art), Stand.AppPfad));
+    DruckerWahl(art, Formulardatei(art));
 }

@@ -8,6 +8,7 @@
 #include "core/programmstand.h"
 #include "mainwindow/flaggen.h"
 #include "mainwindow/frmMDI.h"
+#include "mainwindow/hilfepanel.h"
 #include "rules/spielwerte.h"
 
 #include <QAbstractButton>
@@ -67,6 +68,13 @@ void EndeEintragZeigen(bool zeigen) {
 
 void HilfeText(std::string_view text) {
     HilfeStandSetzen(std::string(text) + ' ');
+}
+
+void HilfeDatei(std::string_view text, const std::string& pfad) {
+    auto* panel = Teil<Hilfepanel>("pnlHilfe");
+    if (panel != nullptr) {
+        panel->DateiZeigen(text, pfad);
+    }
 }
 
 std::string HilfeStand() {

@@ -1,4 +1,4 @@
-feldkranz_quellen(modell mainwindow/schaltflaechen.cpp)
+feldkranz_quellen(modell mainwindow/dateihinweis.cpp mainwindow/schaltflaechen.cpp)
 feldkranz_quellen(fenster
   mainwindow/ablage.cpp
   mainwindow/befehle.cpp

@@ -8,6 +8,8 @@
 namespace kerntexte {
 
 inline constexpr std::string_view hauptfenster = " Feldkranz! 2008";
+inline constexpr std::string_view zuletztAbgelegt =
+    "\r\n\r\nZuletzt abgelegt :\r\n"; // in the help panel's tip
 inline constexpr std::string_view startfenster = "Am Start ...";
 inline constexpr std::string_view startZeile = "Mit Grüßen von Tarvo und Brennek - weiter !";
 

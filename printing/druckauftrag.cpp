@@ -2,8 +2,8 @@
 
 #include "core/hauptfenster.h"
 #include "core/laufzeitfehler.h"
-#include "core/pfadname.h"
 #include "dialogs/meldung.h"
+#include "printing/blattplatz.h"
 #include "printing/texte.h"
 
 #include <new>
@@ -26,15 +26,12 @@ std::string MitFortschritt(const std::function<std::string()>& arbeit) {
 
 } // namespace
 
-std::string Auftragstitel(const std::string& datei, std::string_view ohneNamen) {
-    return datei.empty() ? std::string(ohneNamen) : NurDateiname(datei);
-}
-
 void AuftragAusfuehren(const std::function<std::string()>& arbeit) {
     try {
         const std::string pdf = MitFortschritt(arbeit);
         if (!pdf.empty()) {
-            HilfeText(Einsetzen(drucktexte::alsPdf, {pdf}));
+            BlattMerken(pdf);
+            HilfeDatei(drucktexte::alsPdf, pdf);
         }
     } catch (const Laufzeitfehler& fehler) {
         Systemkasten(Kastenart::Schlicht, drucktexte::kastentitel, fehler.text());

@@ -1,13 +1,9 @@
-// What the print commands of both forms have in common: the progress bar around the work, the name of the
-// job, and what the user is told afterwards.
+// What the print commands of both forms have in common: the progress bar around the work, and what the user
+// is told afterwards.
 #pragma once
 
 #include <functional>
 #include <string>
-#include <string_view>
-
-// Name of the print job: that of the form's file, or ohneNamen.
-[[nodiscard]] std::string Auftragstitel(const std::string& datei, std::string_view ohneNamen);
 
 // Runs the work with the progress bar around it, and tells what became of it: where the PDF lies whose path
 // the work returns ("" for a printer and after a cancelled question), or why it failed.

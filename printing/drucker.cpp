@@ -1,7 +1,9 @@
 #include "printing/drucker.h"
 
+#include "core/formularfenster.h"
 #include "core/meldungstext.h"
 #include "core/pfad.h"
+#include "core/programmstand.h"
 #include "printing/texte.h"
 
 #include <QCoreApplication>
@@ -12,15 +14,32 @@
 namespace {
 
 std::unique_ptr<QPrinter> derDrucker;
-bool gewaehlt = false;     // by the user, in the dialog
-std::string gewaehltesPdf; // file that the user named there, in the program's notation
-std::string vorschlag;     // file beside the form, when the dialog opened
+bool gewaehlt = false; // by the user, in the dialog
+std::string vorschlag; // file beside the form, when the dialog opened
+
+// The file that the user named there, and the form that was open then.
+struct Pdfwahl {
+    std::string pdf; // "" for none
+    int formular = 0;
+    std::string datei;
+};
+Pdfwahl pdfwahl;
+
+const std::string& Formulardatei() {
+    return OffeneArt() == Formart::Test ? Stand.HBDateiName : Stand.FKDateiName;
+}
+
+// Opened again, a form is known by its file; saved under a name, it is the one it was.
+bool GiltFuerOffenes(const Pdfwahl& wahl) {
+    return !wahl.pdf.empty() &&
+           (wahl.formular == Formularnummer() || (!wahl.datei.empty() && wahl.datei == Formulardatei()));
+}
 
 // The printer must go before the application object does.
 void DruckerFreigeben() {
     derDrucker.reset();
     gewaehlt = false;
-    gewaehltesPdf.clear();
+    pdfwahl = {};
 }
 
 bool SystemKenntDrucker() {
@@ -94,11 +113,11 @@ std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag) {
 }
 
 void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlterDrucker) {
-    gewaehltesPdf.clear();
+    pdfwahl = {};
     if (gewaehlterDrucker->outputFormat() == QPrinter::PdfFormat) {
         const QString datei = gewaehlterDrucker->outputFileName();
         if (!datei.isEmpty() && datei != NativerPfad(vorschlag)) {
-            gewaehltesPdf = EigenerPfad(datei);
+            pdfwahl = {EigenerPfad(datei), Formularnummer(), Formulardatei()};
         }
     }
     derDrucker = std::move(gewaehlterDrucker);
@@ -107,5 +126,5 @@ void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlterDrucker) {
 }
 
 std::string PdfZiel(const std::string& pdfVorschlag) {
-    return gewaehltesPdf.empty() ? pdfVorschlag : gewaehltesPdf;
+    return GiltFuerOffenes(pdfwahl) ? pdfwahl.pdf : pdfVorschlag;
 }

@@ -24,8 +24,9 @@ struct Seitenmasse {
 // that the dialog proposes where there is no printer, in the program's notation.
 [[nodiscard]] std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag);
 // Takes the printer chosen in the dialog; it serves until the program ends. A PDF file named by the user
-// there counts as a choice too.
+// there counts as a choice too, for the form that is open now.
 void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlt);
 
-// Where a sheet goes as a PDF: the file that the user named in the dialog, else the proposal.
+// Where the open form's sheet goes as a PDF: the file that the user named for it in the dialog, else the
+// proposal.
 [[nodiscard]] std::string PdfZiel(const std::string& pdfVorschlag);

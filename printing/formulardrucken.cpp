@@ -2,13 +2,12 @@
 // paper.
 #include "core/hauptfenster.h"
 #include "core/laenge.h"
-#include "core/programmstand.h"
 #include "dialogs/meldung.h"
+#include "printing/blattplatz.h"
 #include "printing/druckauftrag.h"
 #include "printing/druckdaten.h"
 #include "printing/drucken.h"
 #include "printing/druckseite.h"
-#include "printing/pdfpfad.h"
 #include "printing/texte.h"
 
 namespace {
@@ -36,8 +35,7 @@ void FormularDrucken(const Quizformular& form, const Spielwerte& spiel, const st
     }
     AuftragAusfuehren([&]() -> std::string {
         Druckseite seite(*papier == Papier::A5Quer ? QPageLayout::Portrait : QPageLayout::Landscape,
-                         PdfPfad(Formart::Quiz, datei, Stand.AppPfad),
-                         Auftragstitel(datei, drucktexte::kastentitel));
+                         Blattplatz(Formart::Quiz, datei), Blatttitel(Formart::Quiz, datei));
         if (!Gefragt(seite.hochkant())) {
             return {};
         }

@@ -2,11 +2,10 @@
 
 #include "core/hauptfenster.h"
 #include "core/pfadname.h"
-#include "core/programmstand.h"
 #include "dialogs/meldung.h"
+#include "printing/blattplatz.h"
 #include "printing/druckauftrag.h"
 #include "printing/druckseite.h"
-#include "printing/pdfpfad.h"
 #include "printing/testseite.h"
 #include "printing/testtexte.h"
 #include "printing/texte.h"
@@ -76,8 +75,8 @@ void TestFormularDrucken(const Testblatt& blatt, int gesamtpunkte, const std::st
         if (!Gefragt(anzahl)) {
             return {};
         }
-        Druckseite seite(QPageLayout::Portrait, PdfPfad(Formart::Test, datei, Stand.AppPfad),
-                         Auftragstitel(datei, "Test"));
+        Druckseite seite(QPageLayout::Portrait, Blattplatz(Formart::Test, datei),
+                         Blatttitel(Formart::Test, datei));
         // Meant: the measures of the page come up at every print of a test.
         Systemkasten(Kastenart::Schlicht, drucktexte::kastentitel, SeitenmasseText(seite.masse()));
         daten.mitAntworten = AntwortenGewuenscht(daten);
