@@ -72,6 +72,7 @@ void frmMeldung::BilderBauen() {
 void frmMeldung::NummerBauen(std::string_view nummer) {
     TwipsGeometrie(pnlNr_, fensterBreite - 450_tw, 150_tw, 360_tw, 255_tw);
     lblNr_->setObjectName(QStringLiteral("lblNr"));
+    lblNr_->setTextFormat(Qt::PlainText);
     lblNr_->setGeometry(pnlNr_->rect());
     lblNr_->setAlignment(Qt::AlignCenter);
     lblNr_->setFont(Schrift(7.5_pt));

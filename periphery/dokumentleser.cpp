@@ -44,7 +44,8 @@ Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
     spalte->setSpacing(2);
     LeisteBauen();
     spalte->addWidget(leiste_);
-    spalte->addWidget(SuchzeileBauen());
+    suchzeile_ = SuchzeileBauen();
+    spalte->addWidget(suchzeile_);
     TastenbilderSetzen(this, tastenbilder);
     auto* zusatz = Zusatz<Dokumentzusatz>(QStringLiteral("feldkranz_pdf"));
     if (zusatz != nullptr) {
@@ -59,6 +60,7 @@ Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
     }
     lblStand_ = new QLabel(this);
     lblStand_->setObjectName(QStringLiteral("lblStand"));
+    lblStand_->setTextFormat(Qt::PlainText); // what was looked for stands in it
     lblStand_->setWordWrap(true);
     spalte->addWidget(lblStand_);
     TastenVerbinden();
@@ -196,13 +198,24 @@ void Dokumentleser::GanzeSeite() {
     ansicht_->Einpassen(Passung::Seite);
 }
 
+// Where the reader is stands below the pages; why there is nothing to read stands where they would begin: the
+// list of forms may cover the foot of the window.
+void Dokumentleser::StandEinordnen() {
+    auto* spalte = qobject_cast<QVBoxLayout*>(layout());
+    const int platz = geladen_ ? spalte->count() - 1 : spalte->indexOf(suchzeile_) + 1;
+    if (spalte->indexOf(lblStand_) != platz) {
+        spalte->removeWidget(lblStand_);
+        spalte->insertWidget(platz, lblStand_);
+    }
+}
+
 void Dokumentleser::Auffrischen() {
     if (lblStand_ == nullptr) {
         return; // the plug-in reports while the control is still being built
     }
-    for (const char* name : {"leisteSeiten", "suchzeile"}) {
-        findChild<QWidget*>(QLatin1String(name))->setEnabled(geladen_);
-    }
+    StandEinordnen();
+    leiste_->setEnabled(geladen_);
+    suchzeile_->setEnabled(geladen_);
     if (!geladen_) {
         txtSeite_->clear();
         lblSeiten_->clear();

@@ -20,7 +20,7 @@ class Dokumentleser : public QWidget {
 public:
     explicit Dokumentleser(QWidget* eltern);
 
-    // Shows a file of the file system. False where it can't be shown; the last line then says why.
+    // Shows a file of the file system. False where it can't be shown; the pages' place then says why.
     bool Laden(const QString& datei);
 
 private:
@@ -45,11 +45,13 @@ private:
     void FundZeigen(int fund);
     // Brings page number, buttons and the last line up to date.
     void Auffrischen();
+    void StandEinordnen();
 
     Dokumentansicht* ansicht_ = nullptr; // none without the plug-in
     QToolBar* leiste_ = nullptr;
     QLineEdit* txtSeite_ = nullptr;
     QLabel* lblSeiten_ = nullptr;
+    QWidget* suchzeile_ = nullptr;
     QLineEdit* txtSuche_ = nullptr;
     QLabel* lblStand_ = nullptr;
     QTimer verzoegerung_; // a search waits until the typing pauses

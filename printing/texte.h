@@ -16,7 +16,7 @@ inline constexpr std::string_view keinTitel = "Wissen"; // caption of an area wi
 
 // On the screen.
 inline constexpr std::string_view status = " Ich drucke das Fragenformular ...";
-inline constexpr std::string_view alsPdf = " {} habe ich als PDF-Datei abgelegt in {}";
+inline constexpr std::string_view alsPdf = " {} liegt als PDF-Datei in {}";
 inline constexpr std::string_view kastentitel = "Feldkranz";
 inline constexpr std::string_view einrichten = "Drucker einrichten"; // title and button of the printer dialog
 inline constexpr std::string_view uebernehmen = "Ü&bernehmen";

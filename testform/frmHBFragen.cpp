@@ -85,6 +85,7 @@ void frmHBFragen::KopfBauen() {
     gruppe = WahlBauen(this, QStringLiteral("Gruppe"), hbtexte::gruppe);
     lblGruppe = new QLabel(gruppe.panel);
     lblGruppe->setObjectName(QStringLiteral("lblGruppe"));
+    lblGruppe->setTextFormat(Qt::PlainText);                   // it comes from a file
     lblGruppe->setAttribute(Qt::WA_TransparentForMouseEvents); // a click means the panel
     pnlTest = PanelBauen(this, "pnlTest", hbtexte::nummer);
     pnlName = PanelBauen(this, "pnlName", hbtexte::name);

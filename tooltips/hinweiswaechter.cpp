@@ -10,9 +10,12 @@
 #include <QApplication>
 #include <QCursor>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStatusTipEvent>
+#include <QTextDocument>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -25,6 +28,20 @@ QString Tipptext(const QWidget& element) {
         }
     }
     return element.toolTip();
+}
+
+// The toolkit shows the tip of an entry of an open list itself, and would take a text from a file for markup.
+bool EintragstippZeigen(const QWidget& flaeche, const QHelpEvent& ereignis) {
+    auto* liste = qobject_cast<QAbstractItemView*>(flaeche.parentWidget());
+    if (liste == nullptr || liste->viewport() != &flaeche) {
+        return false;
+    }
+    const QString text = liste->indexAt(ereignis.pos()).data(Qt::ToolTipRole).toString();
+    if (!Qt::mightBeRichText(text)) {
+        return false;
+    }
+    QToolTip::showText(ereignis.globalPos(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal), liste);
+    return true;
 }
 
 // The standard routines act on the window opened last. A window that the pointer comes back to counts as
@@ -97,7 +114,8 @@ private:
             }
             return false;
         case QEvent::ToolTip: // the toolkit's own tip
-            return HinweisstelleVon(&element).element != nullptr;
+            return HinweisstelleVon(&element).element != nullptr ||
+                   EintragstippZeigen(element, static_cast<QHelpEvent&>(ereignis));
         default:
             return false;
         }

@@ -139,6 +139,10 @@ void DokumentleserTest::whatIsNowhereIsSaidBelow() {
     programm.ordner().schreiben(regel, Dokument(1));
     Zeigen(programm);
     auto* txtSuche = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
+    txtSuche->setText(QStringLiteral("<i>Krümel</i>"));
+    QTest::keyClick(txtSuche, Qt::Key_Return);
+    const auto* stand = Finden<QLabel>(BrowserOffen(), QStringLiteral("lblStand"));
+    QCOMPARE(stand->textFormat(), Qt::PlainText); // and not in italics
     txtSuche->setText(QStringLiteral("Krümel"));
     QTest::keyClick(txtSuche, Qt::Key_Return);
     QVERIFY2(Regelstand().endsWith(QStringLiteral("  -  [ Krümel ] kommt nicht vor.")),

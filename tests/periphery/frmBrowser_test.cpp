@@ -15,6 +15,8 @@ private Q_SLOTS:
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord_data();
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord();
     void withoutThePlugInTheWindowSaysSo();
+    void whyThereIsNothingToReadIsInSightBesideTheListOfForms_data();
+    void whyThereIsNothingToReadIsInSightBesideTheListOfForms();
     void fromASettingsDialogTheRulesCanBeReadBesideIt();
     void theWindowLooksFinished();
 };
@@ -165,6 +167,30 @@ void FrmBrowserTest::withoutThePlugInTheWindowSaysSo() {
     QTest::keyClick(BrowserOffen(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClick(BrowserOffen(), Qt::Key_PageDown, Qt::ControlModifier);
     QVERIFY(!Finden(BrowserOffen(), QStringLiteral("txtSuche"))->isEnabled());
+}
+
+void FrmBrowserTest::whyThereIsNothingToReadIsInSightBesideTheListOfForms_data() {
+    QTest::addColumn<QString>("ordner");
+    QTest::newRow("damaged") << QStringLiteral(FELDKRANZ_PROGRAMM);
+    QTest::newRow("without the plug-in") << QStringLiteral("/nirgendwo");
+}
+
+// The list stays above the window's foot, where the page's number stands otherwise.
+void FrmBrowserTest::whyThereIsNothingToReadIsInSightBesideTheListOfForms() {
+    QFETCH(const QString, ordner);
+    const Zusatzordner zusatz(ordner);
+    Programm programm;
+    QVERIFY(FensterAbwarten(QStringLiteral("frmFKformulare"))->isVisible());
+    programm.ordner().schreiben(regel, "kein PDF");
+    Zeigen(programm);
+    QWidget* schild = Finden(BrowserOffen(), QStringLiteral("lblStand"));
+    QTRY_VERIFY(schild->isVisible());
+    QVERIFY(Regelstand().startsWith(QStringLiteral(" ")) && Regelstand().endsWith(QStringLiteral(".")));
+    const auto obenauf = [schild](QPoint stelle) {
+        return QApplication::widgetAt(schild->mapToGlobal(stelle)) == schild;
+    };
+    QTRY_VERIFY(obenauf({5, schild->height() / 2}));
+    QVERIFY(obenauf(schild->rect().center()));
 }
 
 void FrmBrowserTest::fromASettingsDialogTheRulesCanBeReadBesideIt() {

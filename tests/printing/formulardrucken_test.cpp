@@ -153,9 +153,8 @@ void FormulardruckenTest::theSheetShowsWhatStandsOnTheScreen() {
     }
     QCOMPARE(Anzahl(seite, "Wissen"), 0);
     const QString pfad = QString::fromStdString(Stand.AppPfad) + QStringLiteral("\\KRANZ\\Feldkranz.pdf");
-    QVERIFY2(
-        Status(programm).startsWith(QStringLiteral(" Feldkranz.pdf habe ich als PDF-Datei abgelegt in ")),
-        qPrintable(Status(programm)));
+    QVERIFY2(Status(programm).startsWith(QStringLiteral(" Feldkranz.pdf liegt als PDF-Datei in ")),
+             qPrintable(Status(programm)));
     QVERIFY(Finden(programm.haupt(), QStringLiteral("pnlHilfe"))->toolTip().endsWith(pfad));
     QVERIFY(!Finden(programm.haupt(), QStringLiteral("pnlKaro"))->isVisible());
     QVERIFY(FKForm.FrageText.at(1).empty()); // the stored copy is as it was
