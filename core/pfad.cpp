@@ -43,6 +43,13 @@ std::map<QString, QString> gemerkteOrdner;
     return pfad.left(pfad.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
+[[nodiscard]] QString OhneEndstriche(QString pfad) {
+    while (pfad.endsWith(QLatin1Char('/'))) {
+        pfad.chop(1);
+    }
+    return pfad;
+}
+
 [[nodiscard]] QString Wurzel(const QString& pfad) {
     return pfad.startsWith(QLatin1Char('/')) ? QStringLiteral("/") : QString();
 }
@@ -114,6 +121,10 @@ QString NativerPfad(std::string_view pfad) {
     if constexpr (!plattform::unterscheidetSchreibung) {
         return gegeben;
     }
+    if (const auto selbst = gemerkteOrdner.find(OhneEndstriche(gegeben) + QLatin1Char('/'));
+        selbst != gemerkteOrdner.end() && !gegeben.isEmpty()) {
+        return selbst->second.size() > 1 ? selbst->second.chopped(1) : selbst->second;
+    }
     const auto ordner = gemerkteOrdner.find(Ordnerteil(gegeben));
     const bool gemerkt = ordner != gemerkteOrdner.end();
     const QString wurzel = gemerkt ? ordner->second : Wurzel(gegeben);
@@ -135,13 +146,24 @@ std::string PfadVerbinden(std::string_view ordner, std::string_view name) {
 }
 
 void AuswahlMerken(std::string_view grossgeschrieben, const QString& nativ) {
-    const QString gross = MitSchraegstrichen(grossgeschrieben);
-    if (Vorhanden(nativ)) {
-        gemerkteDateien[gross] = nativ;
+    const QString gross = OhneEndstriche(MitSchraegstrichen(grossgeschrieben));
+    const QString genau = OhneEndstriche(nativ);
+    const plattform::Art art = plattform::ArtVon(genau);
+    if (art == plattform::Art::Datei || art == plattform::Art::Anderes) {
+        gemerkteDateien[gross] = genau;
     } else {
         gemerkteDateien.erase(gross); // the name of a new file is looked up like any other
     }
-    gemerkteOrdner[Ordnerteil(gross)] = Ordnerteil(nativ);
+    // A name that holds a backslash itself has its folder elsewhere than the path seems to say.
+    const QString name = Gezeigt(genau.mid(Ordnerteil(genau).size()));
+    if (name.compare(gross.mid(Ordnerteil(gross).size()), Qt::CaseInsensitive) == 0) {
+        gemerkteOrdner[Ordnerteil(gross)] = Ordnerteil(genau);
+    }
+}
+
+void OrdnerMerken(std::string_view pfad, const QString& nativ) {
+    gemerkteOrdner[OhneEndstriche(MitSchraegstrichen(pfad)) + QLatin1Char('/')] =
+        OhneEndstriche(nativ) + QLatin1Char('/');
 }
 
 std::vector<Laufwerk> Laufwerke() {

@@ -24,11 +24,15 @@
 [[nodiscard]] std::string PfadVerbinden(std::string_view ordner, std::string_view name);
 
 // Remembers the native path that the user chose under an upper-cased path, until the program ends: that
-// path then means exactly this file, if it existed at the choice, and a name in the same upper-cased folder
-// is looked up in exactly this folder, also where names differ in case only. A later choice under the same
-// upper-cased path takes its place; who keeps a path longer keeps NativerPfad's answer beside it and gives it
-// here again before he uses the path.
+// path then means exactly this file, if it was one at the choice, and a name in the same upper-cased folder
+// is looked up in exactly this folder, also where names differ in case only. Separators at the end of either
+// path don't count. A later choice under the same upper-cased path takes its place; who keeps a path longer
+// keeps NativerPfad's answer beside it and gives it here again before he uses the path.
 void AuswahlMerken(std::string_view grossgeschrieben, const QString& nativ);
+
+// The same for a folder that the user sees: that path means exactly this folder from now on, and so does
+// every name in it.
+void OrdnerMerken(std::string_view pfad, const QString& nativ);
 
 // The volumes that stand in for drives: native root folder and the name that labels it.
 struct Laufwerk {

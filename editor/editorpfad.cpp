@@ -37,5 +37,10 @@ std::string Editorpfad() {
 }
 
 std::string Editorordner() {
-    return Editor.Pfad.empty() ? std::string() : EigenerPfad(QFileInfo(Nativ()).path());
+    if (Editor.Pfad.empty()) {
+        return {};
+    }
+    const QString nativ = QFileInfo(Nativ()).path();
+    OrdnerMerken(EigenerPfad(nativ), nativ);
+    return EigenerPfad(nativ);
 }

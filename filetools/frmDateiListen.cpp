@@ -11,6 +11,7 @@
 #include "tooltips/hinweise.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -57,16 +58,19 @@ void frmDatei::Anfangen(const Dateiauswahl& auswahl) {
 
 // Shows a folder. One that can't be read is reported, and the dialog stays where it was.
 bool frmDatei::OrdnerSetzen(const std::string& ordner) {
+    const QString nativ = NativerPfad(ordner);
+    const std::string gezeigt = EigenerPfad(nativ);
+    OrdnerMerken(gezeigt, nativ); // what is done here is done in exactly this folder
     std::vector<std::string> unterordner;
     try {
-        unterordner = OrdnerIn(ordner);
-        alleDateien_ = DateienIn(ordner, "*.*");
+        unterordner = OrdnerIn(gezeigt);
+        alleDateien_ = DateienIn(gezeigt, "*.*");
     } catch (const Laufzeitfehler& fehler) {
         FehlerMelden(dateitexte::ortDateiliste, fehler);
         return false;
     }
-    ordner_ = ordner;
-    if (Oberordner(ordner) != ordner) {
+    ordner_ = gezeigt;
+    if (Oberordner(ordner_) != ordner_) {
         unterordner.insert(unterordner.begin(), hoeher.toStdString());
     }
     Fuellen(dirVerzeichnisliste_, unterordner);
@@ -74,8 +78,8 @@ bool frmDatei::OrdnerSetzen(const std::string& ordner) {
     for (int i = 0; i < dirVerzeichnisliste_->count(); ++i) {
         dirVerzeichnisliste_->item(i)->setIcon(ordnerbild);
     }
-    lblDir_->setText(Anzeige(ordner));
-    HinweisSetzen(lblDir_, ordner, dateitexte::ordnerTipptitel, dateitexte::ordnerStatus);
+    lblDir_->setText(Anzeige(ordner_));
+    HinweisSetzen(lblDir_, ordner_, dateitexte::ordnerTipptitel, dateitexte::ordnerStatus);
     Filtern();
     return true;
 }
@@ -83,7 +87,10 @@ bool frmDatei::OrdnerSetzen(const std::string& ordner) {
 void frmDatei::OrdnerBetreten(const QListWidgetItem* eintrag) {
     const std::string vorher = ordner_;
     const bool hinauf = eintrag->text() == hoeher;
-    if (!OrdnerSetzen(hinauf ? Oberordner(ordner_) : PfadVerbinden(ordner_, eintrag->text().toStdString()))) {
+    const Dateiort kind{ordner_, eintrag->text().toStdString()};
+    const std::string ziel = hinauf ? Oberordner(ordner_) : kind.pfad();
+    OrdnerMerken(ziel, hinauf ? QFileInfo(NativerPfad(ordner_)).path() : kind.nativ());
+    if (!OrdnerSetzen(ziel)) {
         return;
     }
     const auto kinder = dirVerzeichnisliste_->findItems(Anzeige(Ordnername(vorher)), Qt::MatchExactly);
@@ -153,9 +160,9 @@ void frmDatei::NameZeigen(const std::string& name) {
     filDateiliste_->setCurrentItem(treffer.isEmpty() ? nullptr : treffer.first());
 }
 
-// The file that the name box names.
+// The file that the name box names, a name with a way through folders in the program's own notation.
 Dateiort frmDatei::Ort() const {
-    Dateiort ort{ordner_, txtDateiname_->text().toStdString()};
+    Dateiort ort{ordner_, txtDateiname_->text().replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString()};
     if (!NichtsGewaehlt(ort.name)) {
         AuswahlMerken(ort.pfad(), ort.nativ());
     }

@@ -135,6 +135,38 @@ TEST(Auswahl, ANewFileGoesIntoExactlyTheFolderShown) {
     EXPECT_EQ(ordner.namen("Kranz"), std::set<std::string>{"x"});
 }
 
+TEST(Auswahl, AFolderThatWasNamedLeadsToItselfAndNotToItsParent) {
+    for (const char* getippt : {"KRANZ/LAGER/", "KRANZ/LAGER//", "KRANZ/LAGER"}) {
+        const Probeordner ordner;
+        ordner.schreiben("KRANZ/LAGER/x", "");
+        AuswahlMerken(ordner.eigen(getippt), NativerPfad(ordner.eigen(getippt)));
+        DateiSchreiben(ordner.eigen("KRANZ/LAGER/NEU.FKR"), "neu");
+        EXPECT_EQ(ordner.namen("KRANZ"), std::set<std::string>{"LAGER"}) << getippt;
+        EXPECT_EQ(ordner.lesen("KRANZ/LAGER/NEU.FKR"), "neu") << getippt;
+    }
+}
+
+TEST(Auswahl, AFolderThatWasNamedDoesntTakeThePlaceOfOneThatDiffersInCaseOnly) {
+    const Probeordner ordner;
+    ordner.schreiben("LAGER/gross", "");
+    ordner.schreiben("Lager/klein", "");
+    AuswahlMerken(ordner.eigen("LAGER"), QString::fromStdString(ordner.nativ("Lager")));
+    EXPECT_EQ(NativerPfad(ordner.eigen("LAGER")).toStdString(), ordner.nativ("LAGER"));
+}
+
+TEST(Auswahl, AFolderThatIsShownIsMeantExactlyWhateverWasChosenBefore) {
+    const Probeordner ordner;
+    ordner.schreiben("LAGER/x", "");
+    ordner.schreiben("Lager/A.FKR", "alt");
+    AuswahlMerken(ordner.eigen("LAGER/A.FKR"), QString::fromStdString(ordner.nativ("Lager/A.FKR")));
+    OrdnerMerken(ordner.eigen("LAGER"), QString::fromStdString(ordner.nativ("LAGER")));
+    DateiSchreiben(ordner.eigen("LAGER/NEU.FKR"), "neu");
+    EXPECT_EQ(ordner.namen("LAGER"), (std::set<std::string>{"NEU.FKR", "x"}));
+    EXPECT_EQ(DateiLesen(ordner.eigen("LAGER/A.FKR")), "alt"); // the file chosen stays the one chosen
+    OrdnerMerken(ordner.eigen("LAGER/"), QString::fromStdString(ordner.nativ("Lager/")));
+    EXPECT_EQ(DateienIn(ordner.eigen("LAGER"), "*.*"), std::vector<std::string>{"A.FKR"});
+}
+
 TEST(Auswahl, TheNameOfANewFileMeansAnExistingOneOfOtherCase) {
     const Probeordner ordner;
     ordner.schreiben("Abend.fkr", "alt");

@@ -257,7 +257,7 @@ void EditorladenTest::aCorrectedQuestionShowsWhenItsSubThemeIsPickedAgain() {
         QTest::keyClick(editor->txtNotiz, Qt::Key_Backspace);
     }
     Tippen(editor, QStringLiteral("irne?"));
-    Sichern(editor, QStringLiteral("LEUTE/LE_ERFIN.TXT"));
+    Sichern(editor, QStringLiteral("LE_ERFIN.TXT"));
 
     auto* unter = Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter"));
     unter->setFocus();

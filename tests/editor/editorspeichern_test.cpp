@@ -2,6 +2,7 @@
 #include "tests/editor/editorlauf.h"
 
 #include <QDir>
+#include <QListWidget>
 
 class EditorspeichernTest : public Editortest {
     Q_OBJECT
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void aFailedSaveIsToldAndTheTextStaysUnsaved();
     void aFailedSaveOfUnchangedTextCountsAsUnsaved();
     void aTwinInOtherLettersIsNotWrittenForAFileThatHasGone();
+    void aSaveGoesIntoTheFolderShownWhateverWasTypedBefore();
     void theBackupIsTheVersionOfTheSaveBefore();
     void withoutAnOldFileNoBackupIsMadeAndTheSaveGoesOn();
 };
@@ -223,6 +225,29 @@ void EditorspeichernTest::aTwinInOtherLettersIsNotWrittenForAFileThatHasGone() {
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(QStringLiteral("KN.TXT")), knoten);
     QVERIFY(IstRot(editor));
+}
+
+void EditorspeichernTest::aSaveGoesIntoTheFolderShownWhateverWasTypedBefore() {
+    lauf.Schreiben(QStringLiteral("LAGER/X.TXT"), knoten);
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, titelOeffnen, QStringLiteral("LAGER\\"), laden);
+    dialoge.erwarte({QStringLiteral("frmMeldung"), {}, {}, {QStringLiteral("cmdKenntnis")}}); // a folder
+    Druecken(editor, cmdDatei1);
+    Tippen(editor, QStringLiteral("x"));
+    dialoge.erwarte(
+        {QStringLiteral("frmDatei"), titelSpeichernUnter, {}, {speichern}, [](QDialog& dialog) {
+             auto* ordner = Finden<QListWidget>(&dialog, QStringLiteral("dirVerzeichnisliste"));
+             ordner->setFocus();
+             ordner->setCurrentItem(ordner->findItems(QStringLiteral("LAGER"), Qt::MatchExactly).value(0));
+             QTest::keyClick(ordner, Qt::Key_Return);
+             Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))->setText(QStringLiteral("NEU.TXT"));
+         }});
+    GespeichertErwarten(dialoge, QStringLiteral("NEU.TXT"));
+    Druecken(editor, cmdDatei2);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(!lauf.Lesen(QStringLiteral("LAGER/NEU.TXT")).isNull());
+    QVERIFY(lauf.Lesen(QStringLiteral("NEU.TXT")).isNull());
+    QVERIFY(QDir(lauf.programm().ordner().nativ(QStringLiteral("WISSEN/LAGER"))).removeRecursively());
 }
 
 void EditorspeichernTest::theBackupIsTheVersionOfTheSaveBefore() {

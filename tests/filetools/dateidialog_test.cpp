@@ -274,6 +274,52 @@ private Q_SLOTS:
         QCOMPARE(NativerPfad(*pfad), programm_->nativ(QStringLiteral("KRANZ/Sommer/ZELT.FKR")));
     }
 
+    // --- The folder of a save ---
+
+    void aSaveGoesIntoExactlyTheFolderShownWhateverWasTypedBefore_data() {
+        QTest::addColumn<QString>("getippt");
+        for (const char* getippt : {"LAGER\\", "LAGER/", "LAGER", "LAGER\\\\", "lager\\", "LAGER\\.",
+                                    "LAGER\\..\\", "..\\KRANZ\\", "NICHTDA\\"}) {
+            QTest::newRow(getippt) << QString::fromLatin1(getippt);
+        }
+    }
+    void aSaveGoesIntoExactlyTheFolderShownWhateverWasTypedBefore() {
+        QFETCH(const QString, getippt);
+        programm_->schreiben(QStringLiteral("KRANZ/LAGER/ZELT.FKR"), formular);
+        Zeigen();
+        Name()->setText(getippt);
+        Druecken("cmdLaden");
+        Zeigen("Speichern unter ...");
+        Anklicken(Ordner(), QStringLiteral("LAGER"), true);
+        QCOMPARE(Eintraege(Dateien()), QStringList{QStringLiteral("ZELT.FKR")});
+        Name()->setText(QStringLiteral("NEU"));
+        Druecken("cmdSpeichern");
+        DateiSchreiben(Gewaehlt() + ".FKR", "neu");
+        QCOMPARE(QString::fromUtf8(programm_->lesen(QStringLiteral("KRANZ/LAGER/NEU.FKR"))),
+                 QStringLiteral("neu"));
+        QVERIFY(!programm_->vorhanden(QStringLiteral("KRANZ/NEU.FKR")));
+    }
+
+    void foldersThatDifferInCaseOnlyAreKeptApart() {
+        programm_->schreiben(QStringLiteral("KRANZ/Lager/KLEIN.FKR"), formular);
+        programm_->schreiben(QStringLiteral("KRANZ/LAGER/GROSS.FKR"), formular);
+        programm_->schreiben(QStringLiteral("KRANZ/LAGER/TIEF/X.FKR"), formular);
+        Zeigen();
+        Anklicken(Ordner(), QStringLiteral("Lager"), true);
+        Anklicken(Dateien(), QStringLiteral("KLEIN.FKR"), true);
+        Zeigen("Speichern unter ...");
+        Anklicken(Ordner(), QStringLiteral("LAGER"), true);
+        QCOMPARE(Eintraege(Dateien()), QStringList{QStringLiteral("GROSS.FKR")});
+        Anklicken(Ordner(), QStringLiteral("TIEF"), true);
+        QCOMPARE(Eintraege(Dateien()), QStringList{QStringLiteral("X.FKR")});
+        Anklicken(Ordner(), QStringLiteral(".."), true);
+        Name()->setText(QStringLiteral("NEU.FKR"));
+        Druecken("cmdSpeichern");
+        DateiSchreiben(Gewaehlt(), "neu");
+        QVERIFY(programm_->vorhanden(QStringLiteral("KRANZ/LAGER/NEU.FKR")));
+        QVERIFY(!programm_->vorhanden(QStringLiteral("KRANZ/Lager/NEU.FKR")));
+    }
+
     void theBackupSwitchIsTheOption() {
         Spiel.OptionDatei = true;
         Zeigen();
