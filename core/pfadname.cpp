@@ -53,6 +53,10 @@ std::string Dateiendung(std::string_view name) {
     return punkt == std::string_view::npos ? std::string() : std::string(name.substr(punkt));
 }
 
+bool NameBrauchbar(std::string_view name) {
+    return !name.starts_with('.') && !Getrimmt(name.substr(0, name.rfind('.'))).empty();
+}
+
 PfadTeile PfadZerlegen(std::string_view pfad) {
     PfadTeile teile{"?", "?", "?", "?"};
     // The second character, not byte: the first one may take several.

@@ -9,6 +9,10 @@
 // The part of a name from the last point to the end, the point included; "" with no point.
 [[nodiscard]] std::string Dateiendung(std::string_view name);
 
+// False for a name that nothing names or no list shows: none, blanks alone, an extension alone, a point in
+// front.
+[[nodiscard]] bool NameBrauchbar(std::string_view name);
+
 struct PfadTeile {
     std::string laufwerk, ordner, name, endung;
 };

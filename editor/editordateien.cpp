@@ -134,6 +134,10 @@ std::optional<std::string> Speicherpfad(Namensfrage wann) {
         Systemkasten(Kastenart::Schlicht, kastentitel, nameFehlt);
         return std::nullopt;
     }
+    if (!NameBrauchbar(NurDateiname(*pfad))) {
+        FehlerMelden(ortDatei, Laufzeitfehler(Fehler::DateinameFalsch));
+        return std::nullopt;
+    }
     if (!Grossschreiben(*pfad).ends_with(".TXT")) {
         *pfad += ".TXT";
     }

@@ -21,13 +21,21 @@ bool JaAuf(const NachrichtText& frage, const std::string& name) {
     return Nachricht(frage, {name}) == Antwort::Ja;
 }
 
+void NamensfehlerMelden(Namensfehler art) {
+    if (art == Namensfehler::Zeichen) {
+        Fehlerkasten(Laufzeitfehler(Fehler::DateinameFalsch));
+    } else {
+        Meldung(namensfehler.at(static_cast<std::size_t>(art)));
+    }
+}
+
 // The new name without extension, asked for until it is good; "" ends the command.
 std::string NeuerName() {
     for (;;) {
         std::string name = Eingabe(kopierBild, kopierTitel, kopierFrage, "").value_or("");
         const auto fehler = KopiernamePruefen(name);
         for (const Namensfehler art : fehler) {
-            Meldung(namensfehler[static_cast<std::size_t>(art)]);
+            NamensfehlerMelden(art);
         }
         if (fehler.empty() || name.empty()) {
             return name;
@@ -58,11 +66,8 @@ void DateiKopierenMitFrage(const Dateiort& ort, const Aktualisieren& aktualisier
     }
     const Dateiort ziel{ort.ordner, name + Dateiendung(ort.name)};
     const bool kopiertWorden = Versuchen([&] {
-        if (!BleibtImOrdner(name)) {
-            throw Laufzeitfehler(Fehler::DateinameFalsch);
-        }
         if (DateiDa(ziel.pfad()) && !JaAuf(kopieUeberschreiben, ziel.name)) {
-            Meldung(namensfehler[static_cast<std::size_t>(Namensfehler::Leer)]);
+            NamensfehlerMelden(Namensfehler::Leer);
             return false;
         }
         DateiKopieren(ort.pfad(), ziel.pfad());

@@ -31,7 +31,7 @@ inline constexpr NachrichtText kopieUeberschreiben{
     7, "Datei kopieren !",
     "Die Datei\r\n[ {} ]\r\nist bereits vorhanden !\r\nSoll ich diese Datei überschreiben ?", 2, 1111};
 inline constexpr MeldungsText kopiert{7, "{}", "1", "zur Kenntnis genommen"};
-// In the order of Namensfehler.
+// In the order of Namensfehler; the last one is told in the run time's words.
 inline constexpr std::array<MeldungsText, 4> namensfehler{{
     {5, "Ich konnte keine neue Datei anlegen", "1", "Ist das wahr ?!"},
     {5, "Der Name darf kein Leerzeichen enthalten !", "1", "Immer diese Einschränkungen !"},

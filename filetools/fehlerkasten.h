@@ -5,5 +5,8 @@
 
 #include <functional>
 
+// Shows a run-time error in a box.
+void Fehlerkasten(const Laufzeitfehler& fehler);
+
 // Runs an action and returns its answer; a run-time error is shown in a box and counts as false.
 bool Versuchen(const std::function<bool()>& aktion);

@@ -8,6 +8,7 @@
 #include "filetools/dateivorschau.h"
 #include "filetools/kopiername.h"
 #include "filetools/laufwerksfeld.h"
+#include "filetools/listentasten.h"
 #include "filetools/ordneraktionen.h"
 #include "rules/spielwerte.h"
 
@@ -35,6 +36,7 @@ void frmDatei::ListenVerbinden() {
     fraDatei_->installEventFilter(this);
     fraOrdner_->installEventFilter(this);
     dirVerzeichnisliste_->installEventFilter(this);
+    filDateiliste_->installEventFilter(this);
     connect(fraLaufwerk_, &Laufwerksfeld::gewaehlt, this, &frmDatei::OrdnerSetzen);
     connect(dirVerzeichnisliste_, &QListWidget::itemDoubleClicked, this, &frmDatei::OrdnerBetreten);
     // Not the current entry: that one changes as soon as the focus reaches the list.
@@ -163,6 +165,10 @@ bool frmDatei::eventFilter(QObject* objekt, QEvent* ereignis) {
             AlleUmschalten(cmdOrdner_);
             return true;
         }
+    }
+    if (objekt == filDateiliste_ && ereignis->type() == QEvent::KeyPress &&
+        ErstenPfeilAusfuehren(filDateiliste_, *static_cast<QKeyEvent*>(ereignis))) {
+        return true;
     }
     if (objekt == dirVerzeichnisliste_ && ereignis->type() == QEvent::KeyPress) {
         const int taste = static_cast<QKeyEvent*>(ereignis)->key();

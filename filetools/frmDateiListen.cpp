@@ -6,6 +6,7 @@
 #include "dialogs/dialoggrund.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
+#include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
 #include "filetools/kopiername.h"
 #include "tooltips/hinweise.h"
@@ -151,6 +152,9 @@ void frmDatei::Waehlen(const QListWidgetItem* eintrag) {
     gewaehlt_ = Grossschreiben(ort.pfad());
     AuswahlMerken(*gewaehlt_, ort.nativ());
     txtDateiname_->setText(eintrag->text());
+    if (!pnlDatei_->isHidden() && !pnlDatei_->Fuellen(ort.pfad())) {
+        VorschauBeenden(); // what it shows is another file's
+    }
 }
 
 void frmDatei::NameZeigen(const std::string& name) {

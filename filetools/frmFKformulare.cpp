@@ -9,6 +9,7 @@
 #include "core/programmstand.h"
 #include "filetools/dateiaktionen.h"
 #include "filetools/formularlistetexte.h"
+#include "filetools/listentasten.h"
 #include "filetools/ordnerwaechter.h"
 
 #include <QCloseEvent>
@@ -18,7 +19,6 @@
 #include <QRadioButton>
 #include <QTimer>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -132,15 +132,10 @@ bool frmFKformulare::event(QEvent* ereignis) {
     return QWidget::event(ereignis);
 }
 
-// The first arrow key marks the row on which the keyboard stands, which the toolkit would skip.
 bool frmFKformulare::eventFilter(QObject* objekt, QEvent* ereignis) {
-    if (objekt == filDateiliste_ && ereignis->type() == QEvent::KeyPress && Markiert().empty()) {
-        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
-        if ((taste == Qt::Key_Down || taste == Qt::Key_Up) && filDateiliste_->count() > 0) {
-            filDateiliste_->setCurrentRow(std::max(0, filDateiliste_->currentRow()),
-                                          QItemSelectionModel::ClearAndSelect);
-            return true;
-        }
+    if (objekt == filDateiliste_ && ereignis->type() == QEvent::KeyPress &&
+        ErstenPfeilAusfuehren(filDateiliste_, *static_cast<QKeyEvent*>(ereignis))) {
+        return true;
     }
     return QWidget::eventFilter(objekt, ereignis);
 }

@@ -38,11 +38,14 @@ std::vector<Namensfehler> KopiernamePruefen(std::string_view name) {
     if (Zeichenzahl(name) > hoechstlaenge) {
         fehler.push_back(Namensfehler::ZuLang);
     }
+    if (name.find_first_of("\\/*") != std::string_view::npos) {
+        fehler.push_back(Namensfehler::Zeichen);
+    }
     return fehler;
 }
 
-bool BleibtImOrdner(std::string_view name) {
-    return !name.empty() && name.find_first_of("\\/") == std::string_view::npos;
+bool OrdnernameBrauchbar(std::string_view name) {
+    return NameBrauchbar(name) && name.find_first_of("\\/") == std::string_view::npos;
 }
 
 bool NichtsGewaehlt(std::string_view name) {

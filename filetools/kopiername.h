@@ -5,15 +5,16 @@
 #include <string_view>
 #include <vector>
 
-// What is wrong with the name for a copy, which is given without extension.
-enum class Namensfehler { Leer, Leerzeichen, Punkt, ZuLang };
+// What is wrong with the name for a copy, which is given without extension. Zeichen is one that parts folders
+// or stands for any other in a pattern.
+enum class Namensfehler { Leer, Leerzeichen, Punkt, ZuLang, Zeichen };
 
 // Every fault of the name, in the order in which they are told; none for a good one. A name has at most 8
 // characters.
 [[nodiscard]] std::vector<Namensfehler> KopiernamePruefen(std::string_view name);
 
-// True for a name that stays in its folder: not empty and without a separator of folders.
-[[nodiscard]] bool BleibtImOrdner(std::string_view name);
+// True for the name of a new folder that lies in the folder shown and comes into its list.
+[[nodiscard]] bool OrdnernameBrauchbar(std::string_view name);
 
 // True when the name box names no file: it is empty or still shows a pattern.
 [[nodiscard]] bool NichtsGewaehlt(std::string_view name);

@@ -18,15 +18,16 @@ bool OrdnerAnlegenMitFrage(const std::string& ordner, const std::function<void()
             Meldung(keinOrdnerAngelegt);
             return false;
         }
+        if (!OrdnernameBrauchbar(name)) {
+            Fehlerkasten(Laufzeitfehler(Fehler::DateinameFalsch));
+            return false;
+        }
         if (!OrdnerDa(PfadVerbinden(ordner, name))) {
             break;
         }
         Meldung(ordnerVorhanden, {name});
     }
     const bool angelegt = Versuchen([&] {
-        if (!BleibtImOrdner(name)) {
-            throw Laufzeitfehler(Fehler::DateinameFalsch);
-        }
         OrdnerAnlegen(PfadVerbinden(ordner, name));
         return true;
     });

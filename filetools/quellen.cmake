@@ -6,6 +6,7 @@ feldkranz_quellen(fenster
   filetools/fehlerkasten.cpp
   filetools/dateivorschau.h filetools/dateivorschau.cpp
   filetools/laufwerksfeld.h filetools/laufwerksfeld.cpp
+  filetools/listentasten.cpp
   filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp
   filetools/formularliste.cpp
   filetools/ordnerwaechter.cpp

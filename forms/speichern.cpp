@@ -23,6 +23,8 @@ namespace {
 
 using namespace persistenztexte;
 
+constexpr std::string_view ortSpeichern = "DATEI : FormularSpeichern"; // that FehlerMelden names
+
 // The form to be saved comes to the front, so that it is the one whose layout is written, whatever child
 // window the user looked at last.
 Formularfenster* FormularVorbereiten() {
@@ -59,7 +61,7 @@ bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
     try {
         FormularSchreiben(*form, pfad);
     } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden("DATEI : FormularSpeichern", fehler);
+        FehlerMelden(ortSpeichern, fehler);
         FormStatusSetzen(true); // what the form shows may stand in no file by now
         return false;
     }
@@ -68,6 +70,16 @@ bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
     FormStatusSetzen(false);
     AnfuehrungenMelden(form->art());
     return true;
+}
+
+// False for a bad name, which is told. That there is none is told by the save.
+bool NameErlaubt(const std::string& pfad) {
+    const std::string name = NurDateiname(pfad);
+    if (name.empty() || NameBrauchbar(name)) {
+        return true;
+    }
+    FehlerMelden(ortSpeichern, Laufzeitfehler(Fehler::DateinameFalsch));
+    return false;
 }
 
 std::string MitEndung(std::string pfad, std::string_view endung) {
@@ -138,7 +150,8 @@ bool SpeichernUnter(Speicherart art) {
     if (gewaehlt) {
         Editor.DateiAlt = pfad;
     }
-    if (!gewaehlt || !DarfUeberschreiben(pfad, art) || !FormularSpeichern(form, pfad)) {
+    if (!gewaehlt || !NameErlaubt(*gewaehlt) || !DarfUeberschreiben(pfad, art) ||
+        !FormularSpeichern(form, pfad)) {
         static_cast<void>(Formularpfad(form->art())); // the form keeps the file it had
         return false;
     }

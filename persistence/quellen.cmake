@@ -1,10 +1,9 @@
 feldkranz_quellen(modell
   persistence/abschnitt.cpp
   persistence/anfuehrungsorte.cpp
-  persistence/dateiliste.cpp
   persistence/einstellungsdatei.cpp
   persistence/formularabschnitte.cpp
   persistence/formulardatei.cpp
   persistence/rettungsname.cpp)
-feldkranz_quellen(rand persistence/einstellungenladen.cpp)
+feldkranz_quellen(rand persistence/dateiliste.cpp persistence/einstellungenladen.cpp)
 feldkranz_quellen(fenster persistence/sicherung.cpp)

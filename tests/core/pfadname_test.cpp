@@ -65,4 +65,13 @@ TEST(Schreibweise, TrimmingTakesBlanksAtBothEndsOnly) {
     EXPECT_EQ(Getrimmt("\tx"), "\tx");
 }
 
+TEST(Dateiname, IsUsableWhenTheListsShowItAndSomethingNamesIt) {
+    for (const char* name : {"a", "ABEND.FKR", "Nr. 1", " vorn.FKR", "a.b.c", "Ü"}) {
+        EXPECT_TRUE(NameBrauchbar(name)) << name;
+    }
+    for (const char* name : {"", " ", "   ", ".", "..", ".FKR", ".TXT", "  .FKR", ".abend.FKR", " .x"}) {
+        EXPECT_FALSE(NameBrauchbar(name)) << name;
+    }
+}
+
 } // namespace

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void neinAtTheOverwriteQuestionLeavesTheOldFile();
     void closingTheOverwriteQuestionByItsFrameDestroysNothing();
     void anEmptyNameSavesNothing();
+    void aNameThatNoListWouldShowIsABadName();
     void aCancelledSaveClaimsNothingAndKeepsTheEditorsFile();
     void aFailedSaveIsToldAndTheTextStaysUnsaved();
     void aFailedSaveOfUnchangedTextCountsAsUnsaved();
@@ -157,6 +158,20 @@ void EditorspeichernTest::anEmptyNameSavesNothing() {
     Druecken(editor, cmdDatei2);
     QVERIFY(dialoge.fertig());
     Unveraendert(QStringLiteral("x"), QStringLiteral(" "));
+}
+
+void EditorspeichernTest::aNameThatNoListWouldShowIsABadName() {
+    Tippen(editor, QStringLiteral("x"));
+    for (const QString& name : {QStringLiteral("   "), QStringLiteral(".TXT"), QStringLiteral(".neu.TXT")}) {
+        Dialogfolge dialoge;
+        DateidialogErwarten(dialoge, titelSpeichernUnter, name, speichern);
+        FehlerErwarten(dialoge, QStringLiteral("Dateiname !?"));
+        Druecken(editor, cmdDatei2);
+        QVERIFY(dialoge.fertig());
+        Unveraendert(QStringLiteral("x"), QStringLiteral(" "));
+        QVERIFY(lauf.Lesen(name).isNull());
+        QVERIFY(lauf.Lesen(name + QStringLiteral(".TXT")).isNull());
+    }
 }
 
 void EditorspeichernTest::aCancelledSaveClaimsNothingAndKeepsTheEditorsFile() {

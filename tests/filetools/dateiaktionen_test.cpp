@@ -173,18 +173,27 @@ private Q_SLOTS:
         }
     }
 
-    void aCopyNeverLeavesItsFolder() {
+    void aCopyNameThatNamesNoFileOfTheFolderIsAskedForAgain_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("backslash") << QStringLiteral("x\\NEU");
+        QTest::newRow("slash") << QStringLiteral("x/NEU");
+        QTest::newRow("asterisk") << QStringLiteral("NEU*");
+    }
+    void aCopyNameThatNamesNoFileOfTheFolderIsAskedForAgain() {
+        QFETCH(const QString, name);
+        const QString frage = QStringLiteral("Wie soll die neue Datei\n( Auswertung, etc. )\nheißen ?");
         Zeigen();
         Anklicken(Dateien(), QStringLiteral("LAGER.FKR"));
         Dialogfolge dialoge;
         dialoge.erwarte({QStringLiteral("frmMeldung"), {}, {}, {QStringLiteral("cmdKenntnis")}});
-        dialoge.eingabe(QStringLiteral("Datei kopieren !"),
-                        QStringLiteral("Wie soll die neue Datei\n( Auswertung, etc. )\nheißen ?"),
-                        QStringLiteral("x\\NEU"), QStringLiteral("cmdOK"));
+        dialoge.eingabe(QStringLiteral("Datei kopieren !"), frage, name, QStringLiteral("cmdOK"));
         dialoge.kasten(QStringLiteral("Hinweis"), QStringLiteral("52 : Dateiname oder -nummer falsch"),
                        QStringLiteral("OK"));
+        dialoge.eingabe(QStringLiteral("Datei kopieren !"), frage, QStringLiteral("GUT"),
+                        QStringLiteral("cmdOK"));
+        dialoge.meldung(Pfad(QStringLiteral("GUT.FKR")), QStringLiteral("zur Kenntnis genommen"));
         Druecken("cmdDatei(0)");
-        QCOMPARE(Dateien()->count(), 2);
+        QCOMPARE(Dateien()->count(), 3);
     }
 
     // --- The other commands on files ---

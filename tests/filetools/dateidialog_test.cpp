@@ -249,6 +249,40 @@ private Q_SLOTS:
         QVERIFY(Name()->text() != QStringLiteral("neu"));
     }
 
+    void theFirstArrowKeyMarksTheFirstFileAndThePreviewFollows() {
+        programm_->schreiben(QStringLiteral("KRANZ/Abend.fkr"),
+                             "\"Feldkranz\"\r\n\"FK\"\r\n\"[FKINI]\"\r\n\"FK\"\r\n12\r\n4\r\n3\r\n\"\"\r\n");
+        Zeigen();
+        Dateien()->setFocus();
+        QTest::keyClick(Dateien(), Qt::Key_Down);
+        QCOMPARE(Name()->text(), QStringLiteral("Abend.fkr"));
+        Druecken("cmdVorschau");
+        const auto* raster = Finden<QTableWidget>(fenster_.get(), QStringLiteral("grdDatei"));
+        QCOMPARE(raster->item(4, 1)->text(), QStringLiteral("12"));
+        Dateien()->setFocus();
+        QTest::keyClick(Dateien(), Qt::Key_Down);
+        QCOMPARE(Name()->text(), QStringLiteral("LAGER.FKR"));
+        QCOMPARE(raster->item(1, 1)->text(), QStringLiteral("LAGER.FKR"));
+        QCOMPARE(raster->item(4, 1)->text(), QStringLiteral("24"));
+        Anklicken(Dateien(), QStringLiteral("Abend.fkr"));
+        QCOMPARE(raster->item(1, 1)->text(), QStringLiteral("Abend.fkr"));
+        QCOMPARE(raster->item(4, 1)->text(), QStringLiteral("12"));
+        QVERIFY(raster->isVisible());
+    }
+
+    void aPreviewThatCantFollowIsReportedAndEnds() {
+        Zeigen();
+        Anklicken(Dateien(), QStringLiteral("Abend.fkr"));
+        Druecken("cmdVorschau");
+        QVERIFY(QFile::remove(programm_->nativ(QStringLiteral("KRANZ/LAGER.FKR"))));
+        Dialogfolge dialoge;
+        dialoge.meldung(QStringLiteral("DATEI : Oeffnen_Vorschau :\n53 : Datei nicht gefunden"),
+                        QStringLiteral("Grrr.. *~§§°"));
+        Anklicken(Dateien(), QStringLiteral("LAGER.FKR"));
+        QVERIFY(Finden<QWidget>(fenster_.get(), QStringLiteral("pnlDatei"))->isHidden());
+        QVERIFY(Finden<QWidget>(fenster_.get(), QStringLiteral("fraDir"))->isVisible());
+    }
+
     void theServiceShowsTheDialogAndRemembersTheFolder() {
         programm_->schreiben(QStringLiteral("KRANZ/Sommer/ZELT.FKR"), formular);
         Dateiauswahl auswahl = Auswahl("Öffnen");

@@ -42,6 +42,28 @@ private Q_SLOTS:
         Druecken("cmdOrdner(0)");
     }
 
+    void aNameThatNoListWouldShowMakesNoFolder_data() {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"   ", ".Lager", ".FKR", ".", "..", "x\\y", "x/y"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+    void aNameThatNoListWouldShowMakesNoFolder() {
+        QFETCH(const QString, name);
+        Zeigen();
+        const QStringList vorher =
+            QDir(programm_->nativ(QStringLiteral("KRANZ"))).entryList(QDir::AllEntries | QDir::Hidden);
+        Dialogfolge dialoge;
+        dialoge.eingabe(QStringLiteral("Ordner anlegen !"),
+                        QStringLiteral("Wie soll der neue Ordner\n( Verzeichnis )\nheißen ?"), name,
+                        QStringLiteral("cmdOK"));
+        dialoge.kasten(QStringLiteral("Hinweis"), QStringLiteral("52 : Dateiname oder -nummer falsch"),
+                       QStringLiteral("OK"));
+        Druecken("cmdOrdner(0)");
+        QCOMPARE(QDir(programm_->nativ(QStringLiteral("KRANZ"))).entryList(QDir::AllEntries | QDir::Hidden),
+                 vorher);
+    }
+
     void anEmptyFolderIsDeletedAfterTwoQuestions() {
         QVERIFY(QDir(programm_->nativ(QStringLiteral("KRANZ"))).mkdir(QStringLiteral("Leer")));
         Zeigen();

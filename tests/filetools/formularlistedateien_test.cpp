@@ -12,6 +12,7 @@ private Q_SLOTS:
     void aMarkedFileStaysMarkedWhileOthersComeAndGo();
     void aFolderThatVanishesAndComesBackIsShownAgain();
     void aFolderThatIsMissingIsReportedOnACommandAndNotByItself();
+    void theSameFormByListAndByDialogIsOneRecentEntry();
     void aTextFileIsNoForm();
     void aBinaryFileIsNoForm();
     void aFileCutShortIsReported();
@@ -77,6 +78,25 @@ void FormularlisteDateienTest::aFolderThatIsMissingIsReportedOnACommandAndNotByI
     QTRY_VERIFY(dialoge.fertig());
     QVERIFY(Listenlauf::Namen().isEmpty());
     lauf.Anlegen(QStringLiteral("TEST/T.FKR"), Testdatei("t")); // it comes, and is shown
+}
+
+void FormularlisteDateienTest::theSameFormByListAndByDialogIsOneRecentEntry() {
+    Listenlauf lauf;
+    lauf.Anlegen(QStringLiteral("KRANZ/Abend.fkr"), Quizdatei("a"));
+    Spiel.Datei = {};
+    Listenlauf::Doppelklicken(QStringLiteral("Abend.fkr"));
+    QTRY_VERIFY(FKFragenOffen() != nullptr);
+    const std::array<std::string, 4> einmal{Stand.AppPfad + "\\KRANZ\\Abend.fkr"};
+    QVERIFY(Spiel.Datei == einmal);
+    Dialogfolge dialoge;
+    dialoge.erwarte(
+        {QStringLiteral("frmDatei"), {}, {}, {QStringLiteral("cmdLaden")}, [](QDialog& dialog) {
+             Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))->setText(QStringLiteral("Abend.fkr"));
+         }});
+    QTest::mouseClick(Finden<QAbstractButton>(lauf.programm().haupt(), QStringLiteral("cmdDateiFK(2)")),
+                      Qt::LeftButton);
+    QVERIFY(dialoge.fertig());
+    QVERIFY(Spiel.Datei == einmal);
 }
 
 void FormularlisteDateienTest::aTextFileIsNoForm() {

@@ -30,15 +30,20 @@ INSTANTIATE_TEST_SUITE_P(Bad, Kopiername,
                          ::testing::Values(Namensfall{"", {Leer}}, Namensfall{"NINECHARS", {ZuLang}},
                                            Namensfall{"ÄÖÜäöüßéà", {ZuLang}}, Namensfall{"AB.FKR", {Punkt}},
                                            Namensfall{".", {Punkt}}, Namensfall{" ", {Leerzeichen}},
-                                           Namensfall{"A B", {Leerzeichen}},
+                                           Namensfall{"A B", {Leerzeichen}}, Namensfall{"   ", {Leerzeichen}},
+                                           Namensfall{".FKR", {Punkt}}, Namensfall{"A*B", {Zeichen}},
+                                           Namensfall{"*", {Zeichen}}, Namensfall{"x\\NEU", {Zeichen}},
+                                           Namensfall{"x/NEU", {Zeichen}},
                                            Namensfall{"A B.C", {Leerzeichen, Punkt}},
-                                           Namensfall{"MEIN NEUER.FKR", {Leerzeichen, Punkt, ZuLang}}));
+                                           Namensfall{"MEIN NEUER.FKR", {Leerzeichen, Punkt, ZuLang}},
+                                           Namensfall{"MEIN *.FKR", {Leerzeichen, Punkt, ZuLang, Zeichen}}));
 
-TEST(Kopierziel, StaysInItsFolder) {
-    EXPECT_TRUE(BleibtImOrdner("ABEND"));
-    EXPECT_FALSE(BleibtImOrdner(""));
-    EXPECT_FALSE(BleibtImOrdner("..\\ABEND"));
-    EXPECT_FALSE(BleibtImOrdner("../ABEND"));
+TEST(Ordnername, IsUsableWhenItStaysInItsFolderAndTheListsShowIt) {
+    EXPECT_TRUE(OrdnernameBrauchbar("Sommer 2008"));
+    EXPECT_TRUE(OrdnernameBrauchbar("Nr. 1"));
+    for (const char* name : {"", "   ", ".", "..", ".Lager", "..\\LAGER", "../LAGER", "x/y"}) {
+        EXPECT_FALSE(OrdnernameBrauchbar(name)) << name;
+    }
 }
 
 TEST(Namensfeld, NamesNoFileWhileItShowsAPattern) {

@@ -62,6 +62,8 @@ private Q_SLOTS:
     void theQuestionIsAskedUnderTheNameThatWillBeWritten();
     void aCancelledDialogSavesNothingAndKeepsTheFormsFile();
     void anEmptyNameSavesNothing();
+    void aNameThatNoListWouldShowIsABadName_data();
+    void aNameThatNoListWouldShowIsABadName();
     void aFailedSaveIsReportedAndClaimsNothing();
     void aFailedSaveOfAnUnchangedFormCountsAsUnsaved();
     void aSaveGoesToTheFormsOwnFileAfterARefusedOne();
@@ -295,6 +297,31 @@ void SpeichernTest::anEmptyNameSavesNothing() {
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());
     QVERIFY(Stand.FormGeaendert);
+}
+
+void SpeichernTest::aNameThatNoListWouldShowIsABadName_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks") << QStringLiteral("   ");
+    QTest::newRow("extension alone") << QStringLiteral(".FKR");
+    QTest::newRow("blanks and extension") << QStringLiteral("  .FKR");
+    QTest::newRow("point in front") << QStringLiteral(".abend.FKR");
+    QTest::newRow("in another folder") << QStringLiteral("../KRANZ/.FKR");
+}
+
+void SpeichernTest::aNameThatNoListWouldShowIsABadName() {
+    QFETCH(const QString, name);
+    lauf.NeuesFormular(QStringLiteral("Neu"));
+    const QDir ordner(lauf.programm().ordner().nativ(QStringLiteral("KRANZ")));
+    const QStringList vorher = ordner.entryList(QDir::AllEntries | QDir::Hidden);
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, speichernUnter, name, cmdSpeichern);
+    dialoge.meldung(QStringLiteral("DATEI : FormularSpeichern :\nDateiname !?"),
+                    QStringLiteral("Grrr.. *~§§°"));
+    lauf.Druecken(unterTaste);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(ordner.entryList(QDir::AllEntries | QDir::Hidden), vorher);
+    QVERIFY(Stand.FormGeaendert);
+    QCOMPARE(Stand.FKDateiName, std::string());
 }
 
 void SpeichernTest::aFailedSaveIsReportedAndClaimsNothing() {
