@@ -6,6 +6,12 @@
 #include "dialogs/modal.h"
 #include "filetools/frmDatei.h"
 
+namespace {
+
+std::string ordnerDerWahl;
+
+} // namespace
+
 std::optional<std::string> DateidialogZeigen(const Dateiauswahl& auswahl) {
     static std::string letzterOrdner;
     static QString letzterNativ;
@@ -21,6 +27,13 @@ std::optional<std::string> DateidialogZeigen(const Dateiauswahl& auswahl) {
     if (auswahl.ordnerMerken) {
         letzterOrdner = fenster.ordner();
         letzterNativ = NativerPfad(letzterOrdner);
+        if (!fenster.gewaehlt().value_or("").empty()) {
+            ordnerDerWahl = letzterOrdner;
+        }
     }
     return fenster.gewaehlt();
+}
+
+const std::string& DateidialogOrdner() {
+    return ordnerDerWahl;
 }

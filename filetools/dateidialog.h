@@ -21,3 +21,6 @@ struct Dateiauswahl {
 // with the name as it stands in its box to save one, and "" where that names no file. No value when the
 // dialog was cancelled.
 std::optional<std::string> DateidialogZeigen(const Dateiauswahl& auswahl);
+
+// Folder in which the dialog was left with a file last, of those dialogs that remember theirs; "" for none.
+[[nodiscard]] const std::string& DateidialogOrdner();

@@ -2,7 +2,13 @@
 
 #include "core/datei.h"
 #include "core/pfad.h"
+#include "core/programmstand.h"
+#include "filetools/dateidialog.h"
 #include "forms/formulare.h"
+
+#include <QFileInfo>
+
+#include <map>
 
 namespace {
 
@@ -13,12 +19,23 @@ struct Gemerkt {
 Gemerkt gemerkt;
 std::string vorschlag;
 
+std::map<Formart, std::string> gewaehlteOrdner;
+
+// A form that stands where the dialog was left with a file came there by it.
+void OrdnerwahlMerken(Formart art, const QString& datei) {
+    const std::string& ordner = DateidialogOrdner();
+    if (!ordner.empty() && QFileInfo(datei).path() == NativerPfad(ordner)) {
+        gewaehlteOrdner[art] = ordner;
+    }
+}
+
 } // namespace
 
 void FormularpfadMerken(Formart art, const std::string& pfad) {
     Formulardatei(art) = pfad;
     gemerkt = {pfad, NativerPfad(pfad)};
     vorschlag.clear();
+    OrdnerwahlMerken(art, gemerkt.nativ);
 }
 
 void FormularpfadVergessen(Formart art) {
@@ -44,4 +61,11 @@ std::string Formularpfad(Formart art) {
         }
     }
     return pfad;
+}
+
+std::string Startordner(Formart art) {
+    const auto gewaehlt = gewaehlteOrdner.find(art);
+    return gewaehlt != gewaehlteOrdner.end() && OrdnerDa(gewaehlt->second)
+               ? gewaehlt->second
+               : Stand.AppPfad + std::string(Formularordner(art));
 }

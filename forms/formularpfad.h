@@ -1,4 +1,5 @@
-// The path of the open form itself, together with the very file that it means.
+// The path of the open form itself, together with the very file that it means, and where a form without one
+// goes.
 #pragma once
 
 #include "core/formart.h"
@@ -18,3 +19,7 @@ void NamenVorschlagen(const std::string& pfad);
 // The open form's path, meaning the same file as when it was noted, also if another file that differs only in
 // case was chosen since. "" for a form that has no file yet.
 [[nodiscard]] std::string Formularpfad(Formart art);
+
+// Folder in which the save dialog of a form of that kind without a file starts: the one that the person chose
+// for the kind by opening or saving such a form there in the file dialog, or else the kind's own.
+[[nodiscard]] std::string Startordner(Formart art);

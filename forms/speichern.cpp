@@ -107,13 +107,13 @@ bool DarfUeberschreiben(const std::string& pfad, Speicherart art) {
 }
 
 // Asks for the name. No value when the dialog was cancelled.
-std::optional<std::string> NameErfragen(const std::string& bisher) {
+std::optional<std::string> NameErfragen(Formart art, const std::string& bisher) {
     return DateidialogZeigen({std::string(speichernUnter),
                               true,
                               {"Feldkranz-Formular (*.FKR)", "Alle Dateien (*.*)"},
                               {"*.fkr", "*.bak", "*.ini", "*.*"},
                               "*.FKR",
-                              "",
+                              bisher.empty() ? Startordner(art) : "",
                               NurDateiname(bisher),
                               true,
                               bisher});
@@ -145,7 +145,7 @@ bool SpeichernUnter(Speicherart art) {
         return FormularSpeichern(form, {});
     }
     SoundSpielen("freiz_2");
-    const std::optional<std::string> gewaehlt = NameErfragen(Namensvorschlag(form->art()));
+    const std::optional<std::string> gewaehlt = NameErfragen(form->art(), Namensvorschlag(form->art()));
     const std::string pfad = MitEndung(gewaehlt.value_or(""), art == Speicherart::Ini ? ".INI" : ".FKR");
     if (gewaehlt) {
         Editor.DateiAlt = pfad;
