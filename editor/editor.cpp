@@ -4,6 +4,7 @@
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "editor/editordateien.h"
+#include "editor/editordaten.h"
 #include "editor/editorpfad.h"
 #include "editor/frmEditor.h"
 #include "editor/texte.h"
@@ -29,7 +30,8 @@ void Platzieren(QMdiSubWindow& rahmen) {
 }
 
 void Oeffnen() {
-    EditorpfadVergessen();   // an empty text belongs to no file
+    EditorpfadVergessen(); // an empty text belongs to no file
+    Editor.BemerkungMarke.clear();
     fenster = new frmEditor; // owned by the child window that takes it
     QObject::connect(fenster, &frmEditor::geschlossen, fenster, [] {
         fenster = nullptr;

@@ -37,15 +37,15 @@ Dateiauswahl Auswahl(std::string_view titel, bool backupBenutzbar, std::vector<s
             false};
 }
 
-// Runs a step; a run-time error is told, and the result is false then.
-bool Gelungen(const std::function<void()>& schritt) {
+// Runs a step; a run-time error is told with that place, and the result is false then.
+bool Gelungen(std::string_view ort, const std::function<void()>& schritt) {
     try {
         schritt();
         return true;
     } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden(ortDatei, fehler);
+        FehlerMelden(ort, fehler);
     } catch (const std::bad_alloc&) {
-        FehlerMelden(ortDatei, Laufzeitfehler(Fehler::SpeicherVoll));
+        FehlerMelden(ort, Laufzeitfehler(Fehler::SpeicherVoll));
     }
     return false;
 }
@@ -65,7 +65,7 @@ std::string GewaehlteDatei() {
 std::optional<Katalogtext> Gelesen(const std::string& pfad) {
     std::optional<Katalogtext> gelesen;
     bool istText = true;
-    Gelungen([&] {
+    Gelungen(ortLaden, [&] {
         const Wartezeiger warten;
         const std::string bytes = DateiLesen(pfad, groessterKatalogtext);
         istText = IstTextdatei(bytes);
@@ -87,7 +87,6 @@ void Zeigen(frmEditor& editor, const std::string& pfad, Katalogtext gelesen) {
     Editor.Bemerkung = std::move(gelesen.text);
     editor.TextZeigen(Editor.Bemerkung, pfad);
     EditorpfadMerken(pfad);
-    Editor.DateiAlt.clear();
     EditorStatusSetzen(false);
 }
 
@@ -147,7 +146,7 @@ std::optional<std::string> Speicherpfad(Namensfrage wann) {
 // Writes mark and text. The old file is whole until the new one is. False after a failure, which is told.
 bool Geschrieben(const std::string& pfad) {
     SicherungAnlegenKatalog(pfad);
-    return Gelungen([&pfad] {
+    return Gelungen(ortDatei, [&pfad] {
         const Wartezeiger warten;
         DateiSchreiben(pfad, KatalogtextBytes(Editor.BemerkungMarke, Editor.Bemerkung));
     });
@@ -165,13 +164,13 @@ void KatalogLaden(frmEditor& editor) {
         return;
     }
     std::optional<Katalogtext> gelesen = Gelesen(pfad);
-    if (gelesen && !Gelungen([&] { Zeigen(editor, pfad, std::move(*gelesen)); })) {
+    if (gelesen && !Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*gelesen)); })) {
         Leeren(editor);
     }
 }
 
 bool KatalogSpeichern(frmEditor& editor, Namensfrage wann) {
-    if (!Gelungen([&] { Editor.Bemerkung = editor.txtNotiz->text(); })) {
+    if (!Gelungen(ortDatei, [&] { Editor.Bemerkung = editor.txtNotiz->text(); })) {
         return false;
     }
     std::erase(Editor.Bemerkung, '\0'); // one pasted just now: the file wouldn't be opened again
@@ -179,6 +178,9 @@ bool KatalogSpeichern(frmEditor& editor, Namensfrage wann) {
     if (!pfad) {
         EditorpfadEinsetzen(); // the editor keeps the file it had
         return false;
+    }
+    if (Editor.Pfad.empty()) {
+        Editor.BemerkungMarke = KatalogkopfAus(NurDateiname(*pfad));
     }
     if (!Geschrieben(*pfad)) {
         EditorpfadEinsetzen();

@@ -9,13 +9,9 @@ struct Editordaten {
     // form sets it as well, to the note that its file may hold.
     std::string Bemerkung;
 
-    // First token of the catalogue file. It outlives the window.
+    // First token of the catalogue file, its header. It goes with the window, and a text that never had a
+    // file gets it from the name of its first one.
     std::string BemerkungMarke;
-
-    // Path that a window opened without a file of its own names all the same, and that is meant: the form
-    // file that was read or named last. Written by the ways of opening and saving a form; a loaded catalogue
-    // file takes it away.
-    std::string DateiAlt;
 
     // Path of the editor's file in the program's own notation, "" for none, and the file that it meant when
     // it was noted, as the file system names it. Written by editor/editorpfad.

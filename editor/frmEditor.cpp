@@ -31,7 +31,7 @@ frmEditor::frmEditor() {
         taste->setAccessibleName(taste->toolTip()); // a caption alone may be a word or a picture
     }
     setWindowTitle(Anzeige(editortexte::fenstertitel));
-    NamenZeigen(Editor.DateiAlt); // meant: without a file of its own it names the one opened last
+    NamenZeigen("");
     Verbinden();
     Sperren(false);
     SicherungZeigen();

@@ -2,7 +2,10 @@
 
 #include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
+#include "core/pfadname.h"
 #include "core/wertgrammatik.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -34,6 +37,13 @@ Katalogtext KatalogtextLesen(std::string_view bytes) {
         gelesen.text += "\r\n";
     }
     return gelesen;
+}
+
+std::string KatalogkopfAus(std::string_view dateiname) {
+    std::string kopf(dateiname.substr(0, dateiname.rfind('.')));
+    std::ranges::replace_if(
+        kopf, [](char zeichen) { return zeichen == ',' || zeichen == '"'; }, ' ');
+    return Getrimmt(kopf);
 }
 
 std::string KatalogtextBytes(std::string_view marke, std::string_view text) {

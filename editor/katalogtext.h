@@ -24,6 +24,10 @@ inline constexpr std::size_t meisteKatalogzeilen = 2'000'000;
 // bytes at all are run-time error 62, a file beyond the sizes above is 7.
 [[nodiscard]] Katalogtext KatalogtextLesen(std::string_view bytes);
 
+// The header of a text that never had a file: the name of its first one without the extension. What the rules
+// of tokens would take away at the next reading stays outside: commas, quotes, blanks at the ends.
+[[nodiscard]] std::string KatalogkopfAus(std::string_view dateiname);
+
 // The bytes of the file in code page 1252: both as they are, each with CR LF behind it. As the text of a read
 // file already ends in CR LF, every reading and writing makes the file one empty line longer: it is meant.
 [[nodiscard]] std::string KatalogtextBytes(std::string_view marke, std::string_view text);

@@ -42,6 +42,7 @@ inline constexpr MeldungsText nichtGespeichert{7, "Text nicht gespeichert !", "1
 // --- Run-time errors: places that FehlerMelden names, and the one of the window's making ---
 
 inline constexpr std::string_view ortZwischenablage = "Notiz : cmdCopy";
+inline constexpr std::string_view ortLaden = "DATEI : Oeffnen_Fragen";
 inline constexpr std::string_view ortDatei = "Notiz : cmdDatei";
 inline constexpr MeldungsText formfehler{1, "Notizformfehler", "1", "Grrr"};
 

@@ -5,7 +5,6 @@
 #include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
-#include "editor/editordaten.h"
 #include "filetools/dateidialog.h"
 #include "forms/formulare.h"
 #include "forms/formularlesen.h"
@@ -62,7 +61,6 @@ bool Laden(const std::string& pfad, const std::function<bool()>& vorDemErsatz) {
         Meldung(keineDatei);
         return false;
     }
-    Editor.DateiAlt = pfad;
     const Lesung lesung = FormularEinlesen(pfad, vorDemErsatz);
     if (lesung == Lesung::KeinFormular) {
         Meldung(keinFormular);

@@ -8,7 +8,6 @@
 #include "core/programmstand.h"
 #include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
-#include "editor/editordaten.h"
 #include "filetools/dateidialog.h"
 #include "forms/formulare.h"
 #include "forms/formularpfad.h"
@@ -147,9 +146,6 @@ bool SpeichernUnter(Speicherart art) {
     SoundSpielen("freiz_2");
     const std::optional<std::string> gewaehlt = NameErfragen(form->art(), Namensvorschlag(form->art()));
     const std::string pfad = MitEndung(gewaehlt.value_or(""), art == Speicherart::Ini ? ".INI" : ".FKR");
-    if (gewaehlt) {
-        Editor.DateiAlt = pfad;
-    }
     if (!gewaehlt || !NameErlaubt(*gewaehlt) || !DarfUeberschreiben(pfad, art) ||
         !FormularSpeichern(form, pfad)) {
         static_cast<void>(Formularpfad(form->art())); // the form keeps the file it had

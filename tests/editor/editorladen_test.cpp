@@ -59,7 +59,6 @@ private Q_SLOTS:
 // --- Loading ---
 
 void EditorladenTest::aFileIsShownWithoutItsFirstToken() {
-    Editor.DateiAlt = "/x\\KRANZ\\FORM.FKR"; // as an opened form leaves it
     Geladen();
     QCOMPARE(Text(editor), knotenText);
     QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral("Knoten "));
@@ -67,7 +66,6 @@ void EditorladenTest::aFileIsShownWithoutItsFirstToken() {
     QCOMPARE(Editor.Bemerkung, std::string("1\r\nWas hält fest?\r\nPalstek\r\n10\r\n"));
     QCOMPARE(Editor.BemerkungMarke, std::string("Knoten"));
     QCOMPARE(Editor.Pfad, lauf.Pfad("KN.TXT"));
-    QCOMPARE(Editor.DateiAlt, std::string());
     QCOMPARE(editor->txtNotiz->textCursor().position(), 0);
     QVERIFY(IstGruen(editor));
     QVERIFY(!Stand.EditorGeaendert);
@@ -145,11 +143,13 @@ void EditorladenTest::whatCantBeLoadedIsToldAndChangesNothing_data() {
     QTest::addColumn<QString>("meldung");
     QTest::addColumn<QString>("taste");
     const QString grr = QStringLiteral("Grrr.. *~§§°");
-    const QString zuViel = QStringLiteral("Notiz : cmdDatei :\nIch brauche mehr Platz ! (Out of Memory)");
+    const QString zuViel =
+        QStringLiteral("DATEI : Oeffnen_Fragen :\nIch brauche mehr Platz ! (Out of Memory)");
     const QString kracht = QStringLiteral("Grrr !*?~");
     QTest::newRow("empty") << QByteArray("")
-                           << QStringLiteral("Notiz : cmdDatei :\nIch müsste noch Daten einlesen, aber die "
-                                             "Datei ist zu Ende !?")
+                           << QStringLiteral(
+                                  "DATEI : Oeffnen_Fragen :\nIch müsste noch Daten einlesen, aber die "
+                                  "Datei ist zu Ende !?")
                            << grr;
     QTest::newRow("picture") << QByteArray("BM\x8e\0\0\0\0\0\r\n", 10)
                              << QStringLiteral("Evtl. keine Textdatei !\n[ SCHLECHT.TXT ]")
@@ -166,9 +166,10 @@ void EditorladenTest::whatCantBeLoadedIsToldAndChangesNothing_data() {
     QTest::newRow("larger than a text may be")
         << QByteArray("k\r\n") + QByteArray(34'000'000, 'x') << zuViel << kracht;
     QTest::newRow("not there") << QByteArray()
-                               << QStringLiteral("Notiz : cmdDatei :\n53 : Datei nicht gefunden") << grr;
-    QTest::newRow("folder") << QByteArray("(folder)") << QStringLiteral("Notiz : cmdDatei :\nDateiname !?")
-                            << grr;
+                               << QStringLiteral("DATEI : Oeffnen_Fragen :\n53 : Datei nicht gefunden")
+                               << grr;
+    QTest::newRow("folder") << QByteArray("(folder)")
+                            << QStringLiteral("DATEI : Oeffnen_Fragen :\nDateiname !?") << grr;
 }
 
 void EditorladenTest::whatCantBeLoadedIsToldAndChangesNothing() {
@@ -205,7 +206,7 @@ void EditorladenTest::aFileWithoutPermissionIsToldAndChangesNothing() {
     QFile::setPermissions(lauf.programm().ordner().nativ(QStringLiteral("WISSEN/NEU.TXT")), {});
     Dialogfolge dialoge;
     DateidialogErwarten(dialoge, titelOeffnen, QStringLiteral("NEU.TXT"), laden);
-    FehlerErwarten(dialoge, QStringLiteral("Dateiname !?"));
+    dialoge.meldung(QStringLiteral("DATEI : Oeffnen_Fragen :\nDateiname !?"), QStringLiteral("Grrr.. *~§§°"));
     Druecken(editor, cmdDatei1);
     QCOMPARE(Text(editor), QString());
 }

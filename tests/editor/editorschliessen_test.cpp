@@ -38,8 +38,7 @@ private Q_SLOTS:
 void EditorschliessenTest::theEditorSavesToItsOwnFileWhateverWasChosenSince() {
     Geladen();
     lauf.programm().ordner().schreiben(QStringLiteral("KRANZ/FREMD.FKR"), "fremd");
-    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\FREMD.FKR"; // as an opened form leaves them
-    Editor.DateiAlt = Stand.FKDateiName;
+    Stand.FKDateiName = Stand.AppPfad + "\\KRANZ\\FREMD.FKR"; // as an opened form leaves it
     Tippen(editor, QStringLiteral("x"));
     Sichern(editor, QStringLiteral("KN.TXT"));
     QCOMPARE(lauf.programm().ordner().lesen(QStringLiteral("KRANZ/FREMD.FKR")), QByteArray("fremd"));

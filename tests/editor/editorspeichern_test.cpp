@@ -18,6 +18,8 @@ private Q_SLOTS:
     void everyByteSurvivesTheField();
     void theSaveKeysSaveWithoutADialog();
     void aTextWithoutAFileAsksForANameOnlyOnce();
+    void aNewTextHasItsFilesNameAsHeaderAndNotTheFormerFiles();
+    void aHeaderThatWasLoadedGoesWithTheTextAlsoAnEmptyOne();
     void aNameGetsItsExtensionAndKeepsOneInSmallLetters();
     void theQuestionIsAskedUnderTheNameThatWillBeWritten();
     void neinAtTheOverwriteQuestionLeavesTheOldFile();
@@ -86,12 +88,42 @@ void EditorspeichernTest::aTextWithoutAFileAsksForANameOnlyOnce() {
     GespeichertErwarten(dialoge, QStringLiteral("neu.TXT"));
     Druecken(editor, cmdDatei0);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(lauf.Lesen(QStringLiteral("neu.TXT")), QByteArray("\r\n1\r\nWer?\r\n"));
+    QCOMPARE(lauf.Lesen(QStringLiteral("neu.TXT")), QByteArray("neu\r\n1\r\nWer?\r\n"));
     QCOMPARE(editor->pnlDatei->caption(), QStringLiteral("neu.TXT "));
     QVERIFY(IstGruen(editor));
     Tippen(editor, QStringLiteral("!"));
     Sichern(editor, QStringLiteral("neu.TXT"));
-    QCOMPARE(lauf.Lesen(QStringLiteral("neu.TXT")), QByteArray("\r\n1\r\nWer?!\r\n"));
+    QCOMPARE(lauf.Lesen(QStringLiteral("neu.TXT")), QByteArray("neu\r\n1\r\nWer?!\r\n"));
+}
+
+void EditorspeichernTest::aNewTextHasItsFilesNameAsHeaderAndNotTheFormerFiles() {
+    Geladen();
+    RahmenSchliessen(editor);
+    editor = lauf.Oeffnen();
+    Tippen(editor, QStringLiteral("1"));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("nicht\\da.TXT"), speichern);
+    FehlerErwarten(dialoge, QStringLiteral("76 : Pfad nicht gefunden"));
+    Druecken(editor, cmdDatei0);
+    DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("zwei.TXT"), speichern);
+    GespeichertErwarten(dialoge, QStringLiteral("zwei.TXT"));
+    Druecken(editor, cmdDatei0);
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(lauf.Lesen(QStringLiteral("zwei.TXT")), QByteArray("zwei\r\n1\r\n"));
+    QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral("zwei "));
+}
+
+void EditorspeichernTest::aHeaderThatWasLoadedGoesWithTheTextAlsoAnEmptyOne() {
+    for (const QByteArray& kopf : {QByteArray("Knoten"), QByteArray()}) {
+        Geladen(QStringLiteral("KN.TXT"), kopf + "\r\n1\r\n");
+        QFile::remove(lauf.programm().ordner().nativ(QStringLiteral("WISSEN/zwei.TXT")));
+        Dialogfolge dialoge;
+        DateidialogErwarten(dialoge, titelSpeichernUnter, QStringLiteral("zwei.TXT"), speichern);
+        GespeichertErwarten(dialoge, QStringLiteral("zwei.TXT"));
+        Druecken(editor, cmdDatei2);
+        QVERIFY(dialoge.fertig());
+        QCOMPARE(lauf.Lesen(QStringLiteral("zwei.TXT")), kopf + "\r\n1\r\n\r\n");
+    }
 }
 
 void EditorspeichernTest::aNameGetsItsExtensionAndKeepsOneInSmallLetters() {
@@ -117,7 +149,7 @@ void EditorspeichernTest::theQuestionIsAskedUnderTheNameThatWillBeWritten() {
     GespeichertErwarten(dialoge, QStringLiteral("NEU.TXT"));
     Druecken(editor, cmdDatei2);
     QVERIFY(dialoge.fertig());
-    QCOMPARE(lauf.Lesen(QStringLiteral("NEU.TXT")), QByteArray("\r\na\r\n"));
+    QCOMPARE(lauf.Lesen(QStringLiteral("NEU.TXT")), QByteArray("NEU\r\na\r\n"));
 }
 
 void EditorspeichernTest::neinAtTheOverwriteQuestionLeavesTheOldFile() {

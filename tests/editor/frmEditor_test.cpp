@@ -1,4 +1,5 @@
 // The editor's window: what it is made of, its lamps and its lock, what its text may hold.
+#include "forms/oeffnen.h"
 #include "quizform/frmFKFragen.h"
 #include "tests/editor/editorlauf.h"
 #include "tests/hilfe/bild.h"
@@ -16,7 +17,7 @@ private Q_SLOTS:
     void openingItAgainBringsTheSameWindowToTheFront();
     void everyControlHasItsNameAndItsTip();
     void theStatusTextOfAButtonShowsInTheHelpPanel();
-    void theNamesThatWereLeftStandOnThePanels();
+    void anEmptyEditorShowsNoNameWhateverWasOpenedBefore();
     void theToolbarBreaksIntoRowsWhereTheWindowIsNarrow();
     void theHelpButtonHasNoAction();
     void tabVisitsTheToolbarAndComesBackToTheText();
@@ -107,13 +108,18 @@ void FrmEditorTest::theStatusTextOfAButtonShowsInTheHelpPanel() {
     QTRY_COMPARE(hilfe->caption(), QStringLiteral(" Hilfe zur Bemerkung aufrufen "));
 }
 
-void FrmEditorTest::theNamesThatWereLeftStandOnThePanels() {
+void FrmEditorTest::anEmptyEditorShowsNoNameWhateverWasOpenedBefore() {
+    Geladen();
+    QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral("Knoten "));
     EditorEntladen();
-    Editor.BemerkungMarke = "Bäume";
-    Editor.DateiAlt = "/x\\WISSEN\\PF_BAUM.TXT";
+    lauf.programm().NeuesQuizformular();
+    lauf.programm().ordner().schreiben(QStringLiteral("KRANZ/BRIEF.FKR"), "Liebe Oma");
+    Dialogfolge dialoge; // a file that was opened last, and isn't the editor's
+    dialoge.meldung(QStringLiteral("Evtl. keine Feldkranz-Datei !"), QStringLiteral("Grrr"));
+    FormularLaden(Stand.AppPfad + "\\KRANZ\\BRIEF.FKR");
     editor = lauf.Oeffnen();
-    QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral("Bäume "));
-    QCOMPARE(editor->pnlDatei->caption(), QStringLiteral("PF_BAUM.TXT "));
+    QCOMPARE(editor->pnlLaufname->caption(), QStringLiteral(" "));
+    QCOMPARE(editor->pnlDatei->caption(), QStringLiteral(" "));
 }
 
 void FrmEditorTest::theToolbarBreaksIntoRowsWhereTheWindowIsNarrow() {

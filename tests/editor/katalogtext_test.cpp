@@ -145,4 +145,19 @@ TEST(Katalogtext, AFileWithAZeroByteIsNoText) {
     EXPECT_FALSE(IstTextdatei(std::string_view("K\0n\0", 4))) << "two bytes a character";
 }
 
+TEST(Katalogkopf, IsTheFilesNameWithoutItsExtension) {
+    EXPECT_EQ(KatalogkopfAus("Bäume.TXT"), "Bäume");
+    EXPECT_EQ(KatalogkopfAus("PF.BAUM.txt"), "PF.BAUM");
+    EXPECT_EQ(KatalogkopfAus("ohne"), "ohne");
+}
+
+TEST(Katalogkopf, ComesBackWholeWhenTheFileIsReadAgain) {
+    for (const char* name : {"Knoten, alle.TXT", "\"Knoten\".TXT", " Knoten .TXT", "Knoten.TXT"}) {
+        const std::string kopf = KatalogkopfAus(name);
+        const Katalogtext gelesen = KatalogtextLesen(KatalogtextBytes(kopf, "1\r\n"));
+        EXPECT_EQ(gelesen.marke, kopf) << name;
+        EXPECT_EQ(gelesen.text, "1\r\n\r\n") << name;
+    }
+}
+
 } // namespace

@@ -1,7 +1,6 @@
 // Opening forms in the real main window through the real file dialog.
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
-#include "editor/editordaten.h"
 #include "formlauf.h"
 #include "forms/oeffnen.h"
 #include "mainwindow/frmMDI.h"
@@ -111,7 +110,6 @@ void OeffnenTest::aTestFileWhileAQuizFormIsOpenChangesNothing() {
     QVERIFY(Stand.FormGeaendert);
     QCOMPARE(HBForm.HBFrageText[1], std::string());
     QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
-    QCOMPARE(Editor.DateiAlt, lauf.Pfad("T.FKR"));
 }
 
 void OeffnenTest::aTestFileOpensItsFormAndEntersNoList() {
@@ -152,7 +150,6 @@ void OeffnenTest::aTextFileIsNoFormFile() {
     Laden(lauf, "BRIEF.TXT");
     QVERIFY(dialoge.fertig());
     QCOMPARE(Frage1(), QStringLiteral("Eins 1"));
-    QCOMPARE(Editor.DateiAlt, lauf.Pfad("BRIEF.TXT"));
     QCOMPARE(Stand.FKDateiName, lauf.Pfad("A.FKR"));
     QCOMPARE(Stand.FormTyp, Formart::Quiz);
 }
