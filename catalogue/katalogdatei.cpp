@@ -12,10 +12,13 @@ std::string_view Wertzeile(WertLeser& leser, bool kommentarzeilen) {
     while (kommentarzeilen && zeile.substr(0, 1) == "'") {
         zeile = leser.Zeile();
     }
-    if (zeile.size() > laengsterText) {
-        throw Laufzeitfehler(Fehler::SpeicherVoll);
-    }
     return zeile;
+}
+
+// Number of the line that was read last.
+int ZeileDavor(WertLeser& leser, std::string_view zeile, std::string_view bytes) {
+    const bool beendet = zeile.data() + zeile.size() < bytes.data() + bytes.size();
+    return leser.ZeileNr() - (beendet ? 1 : 0);
 }
 
 // The list grows once instead of again and again. How many lines there are is taken from the beginning of the
@@ -45,16 +48,25 @@ void UnterthemenlisteLesen(std::string_view bytes, Namensliste& liste) {
     }
 }
 
-void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste) {
+void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste,
+                 const std::function<void(int zeile)>& weggelassen) {
     PlatzVorsehen(bytes, liste);
     WertLeser leser(bytes);
     leser.Zeile();
     // The end of the file is tested only ahead of a record.
     while (!leser.AmEnde()) {
         std::array<std::string_view, anzahlSpalten> satz;
+        int zuLang = 0; // its number, 0 for none
         for (std::string_view& zeile : satz) {
             zeile = Wertzeile(leser, kommentarzeilen);
+            if (zeile.size() > laengsterText && zuLang == 0) {
+                zuLang = ZeileDavor(leser, zeile, bytes);
+            }
         }
-        liste.Anhaengen(satz);
+        if (zuLang == 0) {
+            liste.Anhaengen(satz);
+        } else if (weggelassen) {
+            weggelassen(zuLang);
+        }
     }
 }

@@ -6,6 +6,7 @@
 #include "catalogue/fragenliste.h"
 #include "catalogue/themen.h"
 
+#include <functional>
 #include <string_view>
 
 // Header, then twenty lines, each taken whole, into places 1 to 20.
@@ -15,6 +16,8 @@ void ThemenlisteLesen(std::string_view bytes, Namensliste& liste);
 void UnterthemenlisteLesen(std::string_view bytes, Namensliste& liste);
 
 // Header, then four lines a question, appended to the liste. A record cut short is not appended. A line
-// of more than 64 KiB is no text for the screen and ends the reading with run-time error 7. With
-// kommentarzeilen, lines that begin with an apostrophe are skipped ahead of each line of a record.
-void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste);
+// of more than 64 KiB is no text for the screen: its record is left out, and weggelassen gets the number of
+// the line. With kommentarzeilen, lines that begin with an apostrophe are skipped ahead of each line of a
+// record.
+void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& liste,
+                 const std::function<void(int zeile)>& weggelassen = {});

@@ -3,6 +3,7 @@
 #include "catalogue/katalogdatei.h"
 #include "catalogue/texte.h"
 #include "core/datei.h"
+#include "core/hauptfenster.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
 
@@ -35,6 +36,21 @@ void FragenFehlerMelden(const Thema& thema, std::string_view unterthema, const L
     }
 }
 
+// Questions that were left out, and the line that was too long in the first of them.
+struct Weggelassen {
+    int anzahl = 0;
+    int zeile = 0;
+};
+
+void WeggelassenesMelden(const Weggelassen& weg, std::string_view datei) {
+    const std::string zeile = std::to_string(weg.zeile);
+    if (weg.anzahl == 1) {
+        HilfeText(Einsetzen(katalogtexte::frageZuLang, {datei, zeile}));
+    } else if (weg.anzahl > 1) {
+        HilfeText(Einsetzen(katalogtexte::fragenZuLang, {datei, std::to_string(weg.anzahl), zeile}));
+    }
+}
+
 } // namespace
 
 void ThemenLaden() {
@@ -61,13 +77,16 @@ void FragenLaden(std::string_view thema, std::string_view unterthema, Fragenlist
     if (zeile == nullptr) {
         return;
     }
+    const std::string_view datei = UnterthemaDatei(*zeile, unterthema);
+    Weggelassen weg;
     try {
-        const std::string_view datei = UnterthemaDatei(*zeile, unterthema);
         if (datei.empty()) {
             throw Laufzeitfehler(Fehler::DateinameFalsch);
         }
-        FragenLesen(DateiLesen(Pfad(*zeile, datei)), zeile->kommentarzeilen, liste);
+        FragenLesen(DateiLesen(Pfad(*zeile, datei)), zeile->kommentarzeilen, liste,
+                    [&weg](int stelle) { weg.zeile = weg.anzahl++ == 0 ? stelle : weg.zeile; });
     } catch (const Laufzeitfehler& fehler) {
         FragenFehlerMelden(*zeile, unterthema, fehler);
     }
+    WeggelassenesMelden(weg, datei);
 }

@@ -13,5 +13,6 @@ void ThemenLaden();
 void UnterthemenLaden(std::string_view thema);
 // The list of the test form's theme, from the fixed path "\WISSEN\HB\W_HB.TXT".
 void HBUnterthemenLaden();
-// Appends the questions of a sub-theme. An unknown theme loads nothing.
+// Appends the questions of a sub-theme. An unknown theme loads nothing. The status help tells what was left
+// out because a line is too long.
 void FragenLaden(std::string_view thema, std::string_view unterthema, Fragenliste& liste);

@@ -3,6 +3,8 @@
 
 #include "core/meldungstext.h"
 
+#include <string_view>
+
 namespace katalogtexte {
 
 // Sub-theme, folder. The folder named is not always the folder of the file: it is meant.
@@ -19,5 +21,10 @@ inline constexpr MeldungsText listeFehlt{
     "Ich habe Probleme mit den Unterthemen zu  [ {} ] !\r\n( Wahrscheinlich fehlt die entsprechende Datei\r\n"
     "im Ordner [ {}\\WISSEN ] )",
     "1", "Ich sehe nach !"};
+
+// In the status help, where a line is too long for the screen: the file's name, how many questions, the line.
+inline constexpr std::string_view frageZuLang = " Ich lasse in [ {} ] eine Frage weg: Zeile {} ist zu lang.";
+inline constexpr std::string_view fragenZuLang =
+    " Ich lasse in [ {} ] {} Fragen weg: Zu lang ist zuerst Zeile {}.";
 
 } // namespace katalogtexte

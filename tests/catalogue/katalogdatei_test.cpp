@@ -124,10 +124,32 @@ TEST(Fragendatei, CutAtEveryByteItKeepsWholeRecordsOnly) {
     }
 }
 
-TEST(Fragendatei, ALineLongerThanTheScreenCanShowEndsInError7AndTheOthersStay) {
+TEST(Fragendatei, ARecordWithALineTooLongForTheScreenIsLeftOutAndTheOthersAreThere) {
+    const std::string lang(65537, 'x');
+    const std::string bytes = "K\r\n1\r\nF1\r\nA\r\n5\r\n2\r\n" + lang + "\r\nA\r\n5\r\n" + "3\r\nF3\r\n" +
+                              std::string(65536, 'y') + "\r\n5\r\n" + lang + "\r\n" + lang + "\r\nA\r\n" +
+                              lang;
     Fragenliste liste;
-    const std::string bytes = "K\r\n1\r\nF\r\nA\r\n5\r\n2\r\n" + std::string(65537, 'x') + "\r\nA\r\n5\r\n";
-    EXPECT_EQ(Fehlernummer([&] { FragenLesen(bytes, false, liste); }), 7);
+    std::vector<int> zeilen;
+    FragenLesen(bytes, false, liste, [&zeilen](int zeile) { zeilen.push_back(zeile); });
+    EXPECT_EQ(Texte(liste, Spalte::Frage), (Werte{"F1", "F3"}));
+    EXPECT_EQ(zeilen, (std::vector<int>{7, 14})) << "the first long line of each record";
+}
+
+TEST(Fragendatei, ALongLastLineIsNamedWithOrWithoutItsEnd) {
+    for (const char* ende : {"", "\r\n", "\n"}) {
+        Fragenliste liste;
+        int gemeldet = 0;
+        FragenLesen("K\r\n1\r\nF\r\nA\r\n" + std::string(100000, 'x') + ende, false, liste,
+                    [&gemeldet](int zeile) { gemeldet = zeile; });
+        EXPECT_EQ(liste.anzahl(), 0U);
+        EXPECT_EQ(gemeldet, 5);
+    }
+}
+
+TEST(Fragendatei, ALongCommentLineLosesNothing) {
+    Fragenliste liste;
+    FragenLesen("K\r\n'" + std::string(100000, 'x') + "\r\n1\r\nF\r\nA\r\n5\r\n", true, liste);
     EXPECT_EQ(Texte(liste, Spalte::Frage), Werte{"F"});
 }
 

@@ -2,8 +2,10 @@
 #include "catalogue/katalogladen.h"
 #include "core/oberflaeche.h"
 #include "core/programmstand.h"
+#include "mainwindow/frmMDI.h"
 #include "tests/hilfe/dialogfolge.h"
-#include "tests/hilfe/programmordner.h"
+#include "tests/hilfe/finden.h"
+#include "tests/hilfe/programm.h"
 
 #include <QFile>
 #include <QTest>
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void aMissingQuestionFileNamesTheFolderOfTheTable();
     void aSubThemeWithoutARowGivesTheShortText();
     void aRecordCutShortIsLostWithoutAWord();
+    void aRecordWithALineTooLongIsLeftOutAndTheStatusHelpSaysWhere_data();
+    void aRecordWithALineTooLongIsLeftOutAndTheStatusHelpSaysWhere();
     void essenIsAnotherFileUnderAnotherTheme();
     void anUnknownThemeLoadsNoQuestions();
 };
@@ -159,6 +163,34 @@ void KatalogladenTest::aRecordCutShortIsLostWithoutAWord() {
     FragenLaden("Land", "Berge", liste);
     QCOMPARE(liste.anzahl(), std::size_t{1});
     QVERIFY(liste.wert(0, Spalte::Frage) == "F1");
+    QVERIFY(dialoge.fertig());
+}
+
+void KatalogladenTest::aRecordWithALineTooLongIsLeftOutAndTheStatusHelpSaysWhere_data() {
+    QTest::addColumn<int>("lange");
+    QTest::addColumn<QString>("hilfe");
+    QTest::newRow("one") << 1
+                         << QStringLiteral(
+                                " Ich lasse in [ LA_BERG.TXT ] eine Frage weg: Zeile 7 ist zu lang. ");
+    QTest::newRow("three") << 3
+                           << QStringLiteral(
+                                  " Ich lasse in [ LA_BERG.TXT ] 3 Fragen weg: Zu lang ist zuerst Zeile 7. ");
+}
+
+void KatalogladenTest::aRecordWithALineTooLongIsLeftOutAndTheStatusHelpSaysWhere() {
+    QFETCH(const int, lange);
+    QFETCH(const QString, hilfe);
+    const Programm programm;
+    const QByteArray lang = "2\r\n" + QByteArray(100000, 'x') + "\r\nA\r\n5\r\n";
+    programm.ordner().schreiben(QStringLiteral("WISSEN/LAND/LA_BERG.TXT"), "K\r\n1\r\nF1\r\nA1\r\n2\r\n" +
+                                                                               lang.repeated(lange) +
+                                                                               "3\r\nF3\r\nA3\r\n2\r\n");
+    Dialogfolge dialoge; // a message fails the test
+    Fragenliste liste;
+    FragenLaden("Land", "Berge", liste);
+    QCOMPARE(liste.anzahl(), std::size_t{2});
+    QVERIFY(liste.wert(1, Spalte::Frage) == "F3");
+    QCOMPARE(Finden(programm.haupt(), QStringLiteral("pnlHilfe"))->property("caption").toString(), hilfe);
     QVERIFY(dialoge.fertig());
 }
 
