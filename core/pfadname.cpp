@@ -42,6 +42,42 @@ std::string Umwandeln(std::string_view text, char erstes, unsigned erstesHohes, 
     return ergebnis;
 }
 
+bool BeginntZeichen(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+// What is left of a text in UTF-8 when that many of its characters stay, half of them at each end.
+std::string InDerMitteGekuerzt(std::string_view text, std::size_t zeichen) {
+    std::size_t vorn = 0;
+    for (std::size_t i = 0; i < (zeichen + 1) / 2; ++i) {
+        do {
+            ++vorn;
+        } while (vorn < text.size() && !BeginntZeichen(text[vorn]));
+    }
+    std::size_t hinten = text.size();
+    for (std::size_t i = 0; i < zeichen / 2; ++i) {
+        do {
+            --hinten;
+        } while (!BeginntZeichen(text[hinten]));
+    }
+    return std::string(text.substr(0, vorn)) + "…" + std::string(text.substr(hinten));
+}
+
+// The text between two others with as many characters as fit.
+std::string SoVielPasst(std::string_view davor, std::string_view text, std::string_view dahinter,
+                        const std::function<bool(std::string_view)>& passt) {
+    const auto mit = [&](std::size_t zeichen) {
+        return std::string(davor) + InDerMitteGekuerzt(text, zeichen) + std::string(dahinter);
+    };
+    std::size_t passend = 0;
+    auto zuViele = static_cast<std::size_t>(std::ranges::count_if(text, BeginntZeichen));
+    while (passend + 1 < zuViele) {
+        const std::size_t mitte = (passend + zuViele) / 2;
+        (passt(mit(mitte)) ? passend : zuViele) = mitte;
+    }
+    return mit(passend);
+}
+
 } // namespace
 
 std::string NurDateiname(std::string_view pfad) {
@@ -83,6 +119,19 @@ PfadTeile PfadZerlegen(std::string_view pfad) {
         teile.endung = name.substr(punkt);
     }
     return teile;
+}
+
+std::string PfadGekuerzt(std::string_view pfad, const std::function<bool(std::string_view)>& passt) {
+    if (passt(pfad)) {
+        return std::string(pfad);
+    }
+    const std::size_t strich = pfad.rfind('\\');
+    const std::string_view vorn = pfad.substr(0, strich == std::string_view::npos ? 0 : strich);
+    const std::string_view letzter = pfad.substr(vorn.size());
+    const std::string_view statt = vorn.empty() ? "" : "…";
+    return vorn.empty() || !passt(std::string(statt) + std::string(letzter))
+               ? SoVielPasst(statt, letzter, "", passt)
+               : SoVielPasst("", vorn, letzter, passt);
 }
 
 std::string Grossschreiben(std::string_view text) {

@@ -1,6 +1,7 @@
 // Taking the text of a path apart. Looks at no disk.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,11 @@ struct PfadTeile {
 };
 // Drive, folder, name and extension of a path; "?" for each part that it doesn't have.
 [[nodiscard]] PfadTeile PfadZerlegen(std::string_view pfad);
+
+// A path cut short in the middle, with an ellipsis there, so that passt is true for it. The last part stays
+// whole as long as it fits at all. A path that fits comes back as it is.
+[[nodiscard]] std::string PfadGekuerzt(std::string_view pfad,
+                                       const std::function<bool(std::string_view)>& passt);
 
 // Upper and lower case of UTF-8 text in the letters of code page 1252 (ß stays).
 [[nodiscard]] std::string Grossschreiben(std::string_view text);

@@ -16,6 +16,7 @@
 
 class Dateivorschau;
 class Laufwerksfeld;
+class Pfadschild;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -25,7 +26,6 @@ class QListWidget;
 class QListWidgetItem;
 class QPushButton;
 class QRadioButton;
-class Textschild;
 
 class frmDatei : public QDialog {
     Q_OBJECT
@@ -97,7 +97,7 @@ private:
     QGroupBox* fraOrdner_ = nullptr;
     QGroupBox* fraDatei_ = nullptr;
     Dateivorschau* pnlDatei_ = nullptr;
-    Textschild* lblDir_ = nullptr;
+    Pfadschild* lblDir_ = nullptr;
     QLabel* lblDateienAnzahl_ = nullptr;
     QLabel* lblAlleDateienAnzahl_ = nullptr;
     QLineEdit* txtDateiname_ = nullptr;

@@ -1,11 +1,11 @@
 #include "core/bilder.h"
 #include "core/klappliste.h"
 #include "core/oberflaeche.h"
-#include "dialogs/dialoggrund.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
 #include "filetools/laufwerksfeld.h"
+#include "filetools/pfadschild.h"
 #include "rules/spielwerte.h"
 #include "tooltips/hinweise.h"
 
@@ -131,7 +131,7 @@ QWidget* frmDatei::OrdnerspalteBauen() {
     fraDir_->setObjectName(QStringLiteral("fraDir"));
     auto* innen = new QVBoxLayout(fraDir_);
     innen->setContentsMargins(6, 2, 6, 6);
-    lblDir_ = new Textschild(fraDir_, QStringLiteral("lblDir"));
+    lblDir_ = new Pfadschild(fraDir_, QStringLiteral("lblDir"));
     lblDir_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblDir_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long path doesn't widen the window
     lblDir_->setFixedHeight(2 * lblDir_->fontMetrics().lineSpacing() + 2);

@@ -3,12 +3,12 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/pfadname.h"
-#include "dialogs/dialoggrund.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
 #include "filetools/frmDatei.h"
 #include "filetools/kopiername.h"
+#include "filetools/pfadschild.h"
 #include "tooltips/hinweise.h"
 
 #include <QComboBox>

@@ -7,6 +7,7 @@ feldkranz_quellen(fenster
   filetools/dateivorschau.h filetools/dateivorschau.cpp
   filetools/laufwerksfeld.h filetools/laufwerksfeld.cpp
   filetools/listentasten.cpp
+  filetools/pfadschild.h filetools/pfadschild.cpp
   filetools/frmDatei.h filetools/frmDatei.cpp filetools/frmDateiAufbau.cpp filetools/frmDateiListen.cpp
   filetools/formularliste.cpp
   filetools/ordnerwaechter.cpp

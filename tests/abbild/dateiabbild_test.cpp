@@ -101,7 +101,7 @@ void DateiabbildTest::aTestFormByHand() {
             QTest::mouseClick(hoch, Qt::LeftButton);
         }
     }
-    BytesVergleichen(Gespeichert(lauf, testUnter, QStringLiteral("KRANZ")),
+    BytesVergleichen(Gespeichert(lauf, testUnter, QStringLiteral("TEST")),
                      QStringLiteral("Testformular.FKR"));
 }
 

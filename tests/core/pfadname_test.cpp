@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <array>
 
 namespace {
@@ -44,6 +46,28 @@ TEST(PfadZerlegen, TakesEveryPathApartAsDescribed) {
         EXPECT_EQ(teile.name, zeile.name) << zeile.pfad;
         EXPECT_EQ(teile.endung, zeile.endung) << zeile.pfad;
     }
+}
+
+// True for texts of at most that many characters.
+auto Hoechstens(std::size_t zeichen) {
+    return [zeichen](std::string_view text) {
+        return static_cast<std::size_t>(std::ranges::count_if(
+                   text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; })) <= zeichen;
+    };
+}
+
+TEST(Pfadkuerzung, KeepsBothEndsAndTheWholeLastFolder) {
+    const std::string pfad = "\\home\\gruppe\\Übungen\\2026\\Sommerlager";
+    EXPECT_EQ(PfadGekuerzt(pfad, Hoechstens(100)), pfad);
+    EXPECT_EQ(PfadGekuerzt(pfad, Hoechstens(29)), "\\home\\gr…gen\\2026\\Sommerlager");
+    EXPECT_EQ(PfadGekuerzt(pfad, Hoechstens(13)), "…\\Sommerlager");
+    EXPECT_EQ(PfadGekuerzt("\\ä\\ö\\ü\\é\\LAGER", Hoechstens(11)), "\\ä…\\é\\LAGER");
+}
+
+TEST(Pfadkuerzung, ShortensALastFolderThatHasNoRoomItself) {
+    EXPECT_EQ(PfadGekuerzt("\\home\\Sommerlager", Hoechstens(8)), "…\\So…ger");
+    EXPECT_EQ(PfadGekuerzt("Sommerlager", Hoechstens(5)), "So…er");
+    EXPECT_EQ(PfadGekuerzt("\\home\\Sommerlager", Hoechstens(0)), "……");
 }
 
 TEST(Schreibweise, LettersOfTheCodePageChangeTheirCase) {

@@ -2,6 +2,9 @@
 #include "tests/filetools/dateifenster.h"
 #include "tests/hilfe/bild.h"
 
+#include <QTextDocument>
+#include <QTextOption>
+
 class DateidialogTest : public Dateifenster {
     Q_OBJECT
 
@@ -70,6 +73,41 @@ private Q_SLOTS:
         QTest::keyClick(Ordner(), Qt::Key_Return);
         QVERIFY(fenster_->isVisible());
         QCOMPARE(Schild("lblDir"), Pfad(QStringLiteral("Sommer")));
+    }
+
+    void aLongPathIsShortenedInTheMiddleAndStandsWholeInTheTip_data() {
+        QTest::addColumn<QString>("darunter");
+        QTest::newRow("many folders")
+            << QStringLiteral("Mannschaft/").repeated(12) + QStringLiteral("Herbstlager");
+        QTest::newRow("one long folder")
+            << QString(120, QLatin1Char('x')) + QStringLiteral("/Herbstlager in den Bergen");
+        QTest::newRow("blanks") << QStringLiteral("Alte Quizabende der Gruppe/").repeated(5) +
+                                       QStringLiteral("Herbst");
+    }
+    void aLongPathIsShortenedInTheMiddleAndStandsWholeInTheTip() {
+        QFETCH(const QString, darunter);
+        QVERIFY(QDir().mkpath(programm_->nativ(QStringLiteral("KRANZ/") + darunter)));
+        Dateiauswahl auswahl = Auswahl("Öffnen");
+        const QString pfad = Pfad(QString(darunter).replace(QLatin1Char('/'), QLatin1Char('\\')));
+        auswahl.ordner = pfad.toStdString();
+        Zeigen(auswahl);
+        const auto* schild = Finden<QLabel>(fenster_.get(), QStringLiteral("lblDir"));
+        QCOMPARE(schild->text(), pfad);
+        QCOMPARE(schild->toolTip(), pfad);
+        const QString gezeigt = schild->property("gezeigt").toString();
+        QVERIFY2(gezeigt.endsWith(QLatin1Char('\\') + darunter.section(QLatin1Char('/'), -1)),
+                 qPrintable(gezeigt));
+        QCOMPARE(gezeigt.count(QChar(0x2026)), 1);
+        QVERIFY(gezeigt.left(4) == pfad.left(4) && gezeigt.size() > 50);
+        QTextDocument gemalt(gezeigt);
+        gemalt.setDocumentMargin(0);
+        gemalt.setDefaultFont(schild->font());
+        QTextOption umbruch;
+        umbruch.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        gemalt.setDefaultTextOption(umbruch);
+        gemalt.setTextWidth(schild->width());
+        QVERIFY2(gemalt.size().height() <= schild->height(), "it fits into the label");
+        BildVon(fenster_.get(), QStringLiteral("frmDatei_langer_pfad"));
     }
 
     void aDriveButtonChangesTheFolderList() {
