@@ -5,6 +5,8 @@
 #include "core/programmstand.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
 
 #include <new>
 
@@ -66,6 +68,18 @@ void DateiSchreiben(std::string_view pfad, std::string_view bytes) {
     }
 }
 
+void ResteEntfernen(std::string_view ordner) {
+    const QString wurzel = NativerPfad(ordner);
+    if (wurzel.isEmpty()) {
+        return; // or it would be the current folder
+    }
+    plattform::ResteLoeschen(wurzel);
+    QDirIterator unterordner(wurzel, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (unterordner.hasNext()) {
+        plattform::ResteLoeschen(unterordner.next());
+    }
+}
+
 bool DateiDa(std::string_view pfad) {
     const plattform::Art art = ArtVonPfad(pfad);
     return art == plattform::Art::Datei || art == plattform::Art::Anderes;
@@ -95,9 +109,12 @@ std::int64_t DateiGroesse(std::string_view pfad) {
     return plattform::Nachsehen(NativerDateipfad(pfad)).groesse;
 }
 
+std::int64_t DateiZeit(std::string_view pfad) {
+    return plattform::Nachsehen(NativerDateipfad(pfad)).geaendert;
+}
+
 std::string DateiDatum(std::string_view pfad) {
-    const std::int64_t sekunden = plattform::Nachsehen(NativerDateipfad(pfad)).geaendert;
-    return QDateTime::fromSecsSinceEpoch(sekunden)
+    return QDateTime::fromSecsSinceEpoch(DateiZeit(pfad))
         .toString(QStringLiteral("dd.MM.yyyy hh:mm:ss"))
         .toStdString();
 }

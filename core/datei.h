@@ -22,8 +22,12 @@ inline constexpr std::size_t groessteDatei = std::size_t{256} << 20U;
 // may not write is 70. Where the folder takes no new file but the file can be written, it is overwritten in
 // place, and until that is done a copy of the old one stands in the folder for temporary files (/var/tmp
 // first) under "Feldkranz-", the file's name and a number. A killed process can leave that copy, or a scrap
-// ".feldkranz-<number>.neu" beside the file.
+// ".feldkranz-<number>.neu" beside the file, which ResteEntfernen takes away.
 void DateiSchreiben(std::string_view pfad, std::string_view bytes);
+
+// Removes from a folder and all beneath it what the saves of killed programs left. Those of running programs
+// stay, and so does what can't be removed.
+void ResteEntfernen(std::string_view ordner);
 
 [[nodiscard]] bool DateiDa(std::string_view pfad);  // anything existing that is no folder
 [[nodiscard]] bool OrdnerDa(std::string_view pfad); // an existing folder
@@ -35,7 +39,8 @@ void OrdnerAnlegen(std::string_view pfad);  // an existing one is 75
 void OrdnerLoeschen(std::string_view pfad); // only an empty one, else 75
 
 [[nodiscard]] std::int64_t DateiGroesse(std::string_view pfad); // bytes
-// Date and time of the last change, as "dd.mm.yyyy hh:mm:ss" in local time.
+// Seconds since 1970 of the last change, and its date and time as "dd.mm.yyyy hh:mm:ss" in local time.
+[[nodiscard]] std::int64_t DateiZeit(std::string_view pfad);
 [[nodiscard]] std::string DateiDatum(std::string_view pfad);
 
 // True for a name that matches one of the patterns ("*.FKR"; several joined by ";") without regard to case;

@@ -56,6 +56,10 @@ struct Eintrag {
 // although ziel itself can be written.
 [[nodiscard]] bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes);
 
+// Removes from the folder what DauerhaftErsetzen left there in programs that were killed. What a running
+// program is writing stays, and so does what can't be removed.
+void ResteLoeschen(const QString& ordner);
+
 // Overwrites an existing file in place and forces it to the disk. A throw may leave it damaged.
 void AnOrtUeberschreiben(const QString& ziel, std::string_view bytes);
 

@@ -41,6 +41,11 @@ auto Wiederholt(Aufruf aufruf) -> decltype(aufruf()) {
     return ergebnis;
 }
 
+// The new file beside the one that a save replaces: ".feldkranz-", a number of one to 16 hexadecimal digits,
+// ".neu". It is locked (flock) as long as somebody writes it: without a lock it is a killed program's scrap.
+[[nodiscard]] std::string Restname(std::string_view nummer);
+[[nodiscard]] bool IstRestname(std::string_view name);
+
 // Names are UTF-8. A name that isn't keeps its bytes all the same: each byte above 127 stands as the lone
 // surrogate U+DC80 to U+DCFF in the QString.
 [[nodiscard]] std::string Pfadbytes(const QString& pfad);

@@ -9,6 +9,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -56,7 +57,9 @@ void OrdnerErzwingen(int ordner) {
 // A new file that is removed again unless it is kept.
 class NeueDatei {
 public:
-    NeueDatei(int ordner, std::string name) : ordner_(ordner), name_(std::move(name)) {}
+    static constexpr int verschwunden = -1;
+
+    explicit NeueDatei(int ordner) : ordner_(ordner) {}
     NeueDatei(const NeueDatei&) = delete;
     NeueDatei& operator=(const NeueDatei&) = delete;
     ~NeueDatei() {
@@ -65,15 +68,16 @@ public:
         }
     }
 
-    // 0 or errno.
-    [[nodiscard]] int Anlegen(mode_t modus) {
+    // 0, errno, or verschwunden where somebody took the file for a killed program's scrap just now.
+    [[nodiscard]] int Anlegen(std::string name, mode_t modus) {
         constexpr int schalter = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        name_ = std::move(name);
         datei_ = Deskriptor(Wiederholt([&] { return ::openat(ordner_, name_.c_str(), schalter, modus); }));
-        if (!datei_.offen()) {
-            name_.clear();
-            return errno;
+        if (datei_.offen() && Sperren()) {
+            return 0;
         }
-        return 0;
+        name_.clear();
+        return datei_.offen() ? verschwunden : errno;
     }
     [[nodiscard]] int nummer() const { return datei_.nummer(); }
     void Fuellen(std::string_view bytes) {
@@ -91,9 +95,22 @@ public:
     void Behalten() { name_.clear(); }
 
 private:
+    // Locks the file until this object goes: the second descriptor holds the lock when the first is closed.
+    // False when somebody has taken it away; a file system without locks removes nothing either.
+    [[nodiscard]] bool Sperren() {
+        sperre_ = Deskriptor(::fcntl(datei_.nummer(), F_DUPFD_CLOEXEC, 0));
+        if (Wiederholt([&] { return ::flock(datei_.nummer(), LOCK_EX | LOCK_NB); }) != 0 &&
+            errno == EWOULDBLOCK) {
+            return false;
+        }
+        struct stat zustand {};
+        return ::fstat(datei_.nummer(), &zustand) != 0 || zustand.st_nlink > 0;
+    }
+
     int ordner_;
     std::string name_;
     Deskriptor datei_;
+    Deskriptor sperre_;
 };
 
 // The folder takes no new file, or lets none be renamed over the target, which may yet be written itself: no
@@ -105,8 +122,8 @@ private:
 
 void KopieSchreiben(const std::string& ablage, const std::string& name, std::string_view bytes) {
     const Deskriptor ordner = OrdnerOeffnen(ablage);
-    NeueDatei kopie(ordner.nummer(), name);
-    if (const int fehler = kopie.Anlegen(0600); fehler != 0) {
+    NeueDatei kopie(ordner.nummer());
+    if (const int fehler = kopie.Anlegen(name, 0600); fehler != 0) {
         throw Schreibfehler(fehler);
     }
     kopie.Fuellen(bytes);
@@ -120,8 +137,11 @@ bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes) {
     // A limit on the size of files is an error of the write then, not the end of the program.
     [[maybe_unused]] static const auto einmal = std::signal(SIGXFSZ, SIG_IGN);
     const Zielort ort = ZielFinden(ziel);
-    NeueDatei neu(ort.ordner.nummer(), ".feldkranz-" + Zufallsname() + ".neu");
-    int fehler = neu.Anlegen(ort.vorhanden ? 0600 : 0666);
+    NeueDatei neu(ort.ordner.nummer());
+    int fehler = NeueDatei::verschwunden;
+    while (fehler == NeueDatei::verschwunden) {
+        fehler = neu.Anlegen(Restname(Zufallsname()), ort.vorhanden ? 0600 : 0666);
+    }
     if (fehler == 0) {
         if (ort.vorhanden) {
             EigenschaftenUebernehmen(ort, neu.nummer());

@@ -151,6 +151,10 @@ bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes) {
     return true;
 }
 
+void ResteLoeschen(const QString& /*ordner*/) {
+    // The names of QSaveFile's own new files can't be told from those of a user's.
+}
+
 void AnOrtUeberschreiben(const QString& ziel, std::string_view bytes) {
     QFile datei(ziel);
     Gelungen(datei.open(QIODevice::ReadWrite));

@@ -15,7 +15,7 @@ if(WIN32)
 else()
   feldkranz_quellen(rand
     core/plattform_posix.cpp core/plattform_posix_ordner.cpp core/plattform_posix_programme.cpp
-    core/plattform_posix_sichern.cpp core/plattform_posix_ziel.cpp)
+    core/plattform_posix_reste.cpp core/plattform_posix_sichern.cpp core/plattform_posix_ziel.cpp)
 endif()
 feldkranz_quellen(fenster
   core/bilder.cpp

@@ -9,6 +9,7 @@
 #include "filetools/formularlistetexte.h"
 #include "filetools/frmFKformulare.h"
 #include "filetools/ordnerwaechter.h"
+#include "persistence/rettungsname.h"
 #include "persistence/texte.h"
 #include "rules/spielwerte.h"
 
@@ -38,6 +39,19 @@ std::string Schluss(const std::string& text, int zeichen) {
     return text.substr(anfang);
 }
 
+// The names of the folder, the forms that were rescued ahead.
+std::vector<std::string> NamenLesen(const std::string& ordner, const std::string& muster) {
+    std::vector<std::string> namen = DateienIn(ordner, muster);
+    RettungenVoranstellen(namen, [&ordner](const std::string& name) -> std::int64_t {
+        try {
+            return DateiZeit(PfadVerbinden(ordner, name));
+        } catch (const Laufzeitfehler&) {
+            return 0; // it has gone meanwhile
+        }
+    });
+    return namen;
+}
+
 // The numbers of the file, none where it has none; one that can't be read is reported.
 std::optional<FKIni> FormularInfoLesen(const Dateiort& ort) {
     using namespace persistenztexte;
@@ -58,7 +72,7 @@ std::optional<FKIni> FormularInfoLesen(const Dateiort& ort) {
 void frmFKformulare::Auffrischen(bool melden) {
     waechter_->Beobachten(NativerPfad(ordner_)); // before reading, so that nothing slips between
     try {
-        ListeFuellen(DateienIn(ordner_, muster_));
+        ListeFuellen(NamenLesen(ordner_, muster_));
     } catch (const Laufzeitfehler& fehler) {
         ListeFuellen({});
         if (melden) {

@@ -1,6 +1,7 @@
 #include "mainwindow/frmStart.h"
 
 #include "core/bilder.h"
+#include "core/datei.h"
 #include "core/konfiguration.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
@@ -64,6 +65,8 @@ frmStart::frmStart() {
     auto* Timer1 = new QTimer(this); // it never closes the window by itself: its handler does nothing
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->start(2500);
+    // While the user looks at this window: it costs the start nothing.
+    QTimer::singleShot(0, this, [] { ResteEntfernen(Stand.AppPfad); });
     NormalerZeiger();
 }
 

@@ -1,4 +1,5 @@
 // What stands on the disk when a save is killed, or fails, at any of its system calls.
+#include "core/datei.h"
 #include "tests/core/spur.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +49,9 @@ TEST_F(Absturz, KilledAtAnySystemCallTheOldOrTheNewFileIsWhole) {
         EXPECT_TRUE(bytes == alt || bytes == neu) << aufruf.zeile;
         alte += bytes == alt ? 1 : 0;
         neue += bytes == neu ? 1 : 0;
-        // The next save is none the worse for what the killed one left behind.
+        ResteEntfernen(ordner.eigen("form")); // as the next start does
+        EXPECT_EQ(ordner.namen("form"), std::set<std::string>{"A.fkr"}) << aufruf.zeile;
+        // The next save is none the worse for the killed one.
         EXPECT_EQ(Speichere("").ergebnis, 0) << aufruf.zeile;
         EXPECT_TRUE(ordner.lesen("form/A.fkr") == neu) << aufruf.zeile;
     }

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void aDamagedPictureGivesTheOtherMessage();
     void onlyTheButtonGoesOnToTheMainWindow();
     void enterPressesTheButton();
+    void whatAKilledProgramLeftGoesAndRescuedFormsStay();
 };
 
 void FrmStartTest::theWindowHasItsSizeTitleAndVersion() {
@@ -101,6 +102,26 @@ void FrmStartTest::enterPressesTheButton() {
     const QPointer<frmStart> fenster = start.Zeigen();
     QTest::keyClick(fenster->focusWidget(), Qt::Key_Return);
     QTRY_VERIFY(fenster.isNull());
+}
+
+void FrmStartTest::whatAKilledProgramLeftGoesAndRescuedFormsStay() {
+    Start start;
+    const QStringList reste{QStringLiteral("KRANZ/.feldkranz-1a2b3c4d5e6f7a8b.neu"),
+                            QStringLiteral("KRANZ/LAGER/.feldkranz-2.neu"),
+                            QStringLiteral("CONFIG/.feldkranz-3.neu"),
+                            QStringLiteral("WISSEN/LAND/.feldkranz-4.neu")};
+    const QStringList bleiben{QStringLiteral("KRANZ/UNGESICHERT.BAK"),
+                              QStringLiteral("TEST/UNGESICHERT1.BAK"), QStringLiteral("KRANZ/A.FKR")};
+    for (const QString& datei : reste + bleiben) {
+        start.ordner.schreiben(datei, "etwas");
+    }
+    start.Zeigen();
+    for (const QString& datei : reste) {
+        QTRY_VERIFY2(!start.ordner.vorhanden(datei), qPrintable(datei));
+    }
+    for (const QString& datei : bleiben) {
+        QVERIFY2(start.ordner.vorhanden(datei), qPrintable(datei));
+    }
 }
 
 QTEST_MAIN(FrmStartTest)

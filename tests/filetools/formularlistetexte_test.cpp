@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <map>
+
 TEST(Formularliste, ThePreviewHasThreeLinesWithItsBlanks) {
     EXPECT_EQ(Vorschautext(30, 6, 5),
               "Fragen gesamt    : 30\r\nWissensgebiete  :   6\r\nFragen je WG     :   5");
@@ -35,6 +38,21 @@ INSTANTIATE_TEST_SUITE_P(Tabelle, Rettungsnamen,
                                            Name{"MEIN UNGESICHERT.BAK", false},
                                            Name{"UNGESICHERT 1.BAK", false}, Name{"HERBST.BAK", false},
                                            Name{".BAK", false}, Name{"", false}));
+
+TEST(Rettungen, StandAheadOfTheOthersTheNewestFirst) {
+    const std::map<std::string, std::int64_t> zeiten{{"UNGESICHERT.BAK", 50},   {"UNGESICHERT1.BAK", 20},
+                                                     {"UNGESICHERT2.BAK", 50},  {"UNGESICHERT9.BAK", 30},
+                                                     {"UNGESICHERT10.BAK", 30}, {"UNGESICHERT3.BAK", 60}};
+    std::vector<std::string> namen{"A.BAK", "Ungesichertes.BAK"};
+    for (const auto& [name, zeit] : zeiten) {
+        namen.push_back(name);
+    }
+    namen.emplace_back("Z.BAK");
+    RettungenVoranstellen(namen, [&zeiten](const std::string& name) { return zeiten.at(name); });
+    EXPECT_EQ(namen, (std::vector<std::string>{"UNGESICHERT3.BAK", "UNGESICHERT.BAK", "UNGESICHERT2.BAK",
+                                               "UNGESICHERT10.BAK", "UNGESICHERT9.BAK", "UNGESICHERT1.BAK",
+                                               "A.BAK", "Ungesichertes.BAK", "Z.BAK"}));
+}
 
 // Which files may take the place of an open form.
 struct Datei {

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void anUnchangedFormLeavesNoFile();
     void aFileThatIsNotTakenLeavesNoFile();
     void theOlderOneIsKeptUnderTheNextNumber();
+    void theRescuedFormsStandFirstAndTheNewestOfThemAhead();
     void openingTheKeptFormItselfLosesNeither();
     void aSaveOfAFormThatCameBackAsksForAName();
     void whatIsBlankedOnTheScreenIsKeptToo();
@@ -129,6 +130,34 @@ void FormularrettungTest::theOlderOneIsKeptUnderTheNextNumber() {
     QVERIFY(lauf.Lesen(rettung).contains("\"drei\""));
     QVERIFY(lauf.Lesen(QStringLiteral("KRANZ/UNGESICHERT1.BAK")).contains("\"eins\""));
     QVERIFY(lauf.Lesen(QStringLiteral("KRANZ/UNGESICHERT2.BAK")).contains("\"zwei\""));
+}
+
+void FormularrettungTest::theRescuedFormsStandFirstAndTheNewestOfThemAhead() {
+    Listenlauf lauf;
+    const QDateTime heute = QDateTime::currentDateTime();
+    int tage = 0;
+    for (const char* name :
+         {"UNGESICHERT2.BAK", "ungesichert10.bak", "UNGESICHERT.BAK", "UNGESICHERT1.BAK", "A.BAK", "Z.BAK"}) {
+        const QString darunter = QStringLiteral("KRANZ/") + QLatin1String(name);
+        lauf.Schreiben(darunter, Quizdatei(name));
+        QFile datei(lauf.programm().ordner().nativ(darunter));
+        QVERIFY(datei.open(QFile::ReadWrite) &&
+                datei.setFileTime(heute.addDays(-tage), QFile::FileModificationTime));
+        ++tage;
+    }
+    BackupsZeigen();
+    QTRY_COMPARE(Listenlauf::Namen(),
+                 (QStringList{QStringLiteral("UNGESICHERT2.BAK"), QStringLiteral("ungesichert10.bak"),
+                              QStringLiteral("UNGESICHERT.BAK"), QStringLiteral("UNGESICHERT1.BAK"),
+                              QStringLiteral("A.BAK"), QStringLiteral("Z.BAK")}));
+    Listenlauf::Druecken("optPattern(0)");
+    lauf.Anlegen(QStringLiteral("KRANZ/Heim.FKR"), Quizdatei("a"));
+    Oeffnen(QStringLiteral("Heim.FKR"), QStringLiteral("a"));
+    Tippen(QStringLiteral("ganz neu"));
+    Oeffnen(QStringLiteral("Heim.FKR"), QStringLiteral("a"));
+    BackupsZeigen();
+    QCOMPARE(Listenlauf::Namen().first(), QStringLiteral("UNGESICHERT.BAK"));
+    QVERIFY(lauf.Lesen(rettung).contains("\"ganz neu\""));
 }
 
 void FormularrettungTest::openingTheKeptFormItselfLosesNeither() {
