@@ -3,13 +3,19 @@
 #include "core/pfad.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QFile>
 #include <QImageReader>
 #include <QPixmapCache>
 
 #include <array>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace {
+
+std::map<std::string, QIcon, std::less<>> zeichen;
 
 QString Pfad(std::string_view name, bool doppelt) {
     return QStringLiteral(":/bilder/%1%2.png")
@@ -41,14 +47,23 @@ QPixmap Bild(std::string_view name, double aufloesung) {
     return bild;
 }
 
+// Each is made once: the toolkit keeps the sizes it has made of an icon as long as it runs, also of one that
+// a closed window took along.
 QIcon Bildzeichen(std::string_view name) {
-    QIcon zeichen;
+    const auto fund = zeichen.find(name);
+    if (fund != zeichen.end()) {
+        return fund->second;
+    }
+    if (zeichen.empty()) {
+        qAddPostRoutine([] { zeichen.clear(); }); // the pictures must go before the application object does
+    }
+    QIcon neu;
     for (const bool doppelt : {false, true}) {
         if (const QString pfad = Pfad(name, doppelt); QFile::exists(pfad)) {
-            zeichen.addFile(pfad);
+            neu.addFile(pfad);
         }
     }
-    return zeichen;
+    return zeichen.emplace(name, neu).first->second;
 }
 
 void TastenbildSetzen(QAbstractButton* taste, std::string_view name) {

@@ -1,6 +1,7 @@
 #include "core/oberflaeche.h"
 
 #include "core/bilder.h"
+#include "core/palettenstil.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -87,7 +88,7 @@ void NormalerZeiger() {
 }
 
 void OberflaecheEinrichten() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Palettenstil(QStyleFactory::create(QStringLiteral("Fusion"))));
     QApplication::setPalette(HellePalette());
     QApplication::setFont(Schrift(9_pt));
     QApplication::setWindowIcon(Programmzeichen(48));

@@ -22,6 +22,7 @@ feldkranz_quellen(fenster
   core/drehfeld.cpp core/drehfeld.h
   core/klappliste.cpp
   core/oberflaeche.cpp
+  core/palettenstil.cpp core/palettenstil.h
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h
   core/textpruefung.cpp core/textzeile.cpp
