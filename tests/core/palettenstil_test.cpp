@@ -8,7 +8,7 @@
 #include "mainwindow/frmMDI.h"
 #include "tests/hilfe/programm.h"
 
-#include <QPushButton>
+#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTest>
