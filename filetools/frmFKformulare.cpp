@@ -99,6 +99,7 @@ void frmFKformulare::ListeWaehlen(Formart art) {
     if (QWidget* haupt = Hauptfenster(); haupt != nullptr) {
         haupt->setProperty("tag", zeichen);
     }
+    gewaehlt_ = art;
     Stand.FormTyp = art;
     Auffrischen(true);
 }
@@ -118,6 +119,9 @@ void frmFKformulare::Oeffnen() {
     }
     const Dateiort ort{ordner_, Markiert()};
     AuswahlMerken(ort.pfad(), ort.nativ()); // exactly the file of that name
+    if (OffeneArt() == Formart::Keine && gewaehlt_) {
+        Stand.FormTyp = *gewaehlt_; // a form that has gone, or the file dialog, has taken it back
+    }
     QWidget* haupt = Hauptfenster();
     if (oeffnen_(ort.pfad()) && haupt != nullptr) {
         haupt->activateWindow(); // the user goes on in the form

@@ -70,7 +70,8 @@ private:
 
     std::string ordner_; // own notation
     std::string muster_;
-    std::vector<std::string> namen_; // as the list shows them
+    std::vector<std::string> namen_;  // as the list shows them
+    std::optional<Formart> gewaehlt_; // by one of the two buttons
     std::optional<Vorschaustand> stand_;
     std::function<bool(const std::string& pfad)> oeffnen_;
 

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void aTestFileWhileAQuizFormIsOpenChangesNothing();
     void aQuizFileWhileATestFormIsOpenChangesNothing();
     void theModeOfTheListBindsTheListAndNotTheFileDialog();
+    void theListKeepsToItsButtonsKindWhateverWasOpenMeanwhile();
+    void aLookAtAFormChangesNothingThatANewFormTakesOver();
 };
 
 void FormularlisteTest::theMainWindowOpensWithTheListShown() {
@@ -398,6 +400,61 @@ void FormularlisteTest::theModeOfTheListBindsTheListAndNotTheFileDialog() {
                      }});
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdLaden")));
     QTRY_VERIFY(HBFragenOffen() != nullptr); // no form is open that would have to be closed first
+}
+
+void FormularlisteTest::theListKeepsToItsButtonsKindWhateverWasOpenMeanwhile() {
+    Listenlauf lauf;
+    lauf.Schreiben(QStringLiteral("TEST/Q.FKR"), Quizdatei("q"));
+    lauf.Schreiben(QStringLiteral("TEST/T.FKR"), Testdatei("t"));
+    Listenlauf::Druecken("cmdNeuHB");
+    QTRY_COMPARE(Listenlauf::Namen(), (QStringList{QStringLiteral("Q.FKR"), QStringLiteral("T.FKR")}));
+    const auto abgelehnt = [] {
+        Dialogfolge dialoge;
+        dialoge.meldung(testOffen, QStringLiteral("Das ist kein Problem, das mache ich doch sofort !"));
+        Listenlauf::Doppelklicken(QStringLiteral("Q.FKR"));
+        QTRY_VERIFY(dialoge.fertig());
+        QVERIFY(FKFragenOffen() == nullptr && HBFragenOffen() == nullptr);
+    };
+    abgelehnt();
+    Dialogfolge dialoge; // the file dialog takes either kind, and forgets the list's
+    dialoge.erwarte({QStringLiteral("frmDatei"), {}, {}, {QStringLiteral("cmdAbbrechen")}});
+    dialoge.meldung(QStringLiteral("Keine Datei ausgewählt !"), QStringLiteral("Nicht doch"));
+    maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdLaden")));
+    QTRY_VERIFY(dialoge.fertig());
+    abgelehnt();
+    lauf.programm().NeuesTestformular();
+    HB_Entladen();
+    ModusHaupt();
+    QCOMPARE(Stand.FormTyp, Formart::Keine);
+    abgelehnt();
+    Listenlauf::Doppelklicken(QStringLiteral("T.FKR"));
+    QTRY_VERIFY(HBFragenOffen() != nullptr);
+}
+
+void FormularlisteTest::aLookAtAFormChangesNothingThatANewFormTakesOver() {
+    Listenlauf lauf;
+    lauf.Anlegen(QStringLiteral("KRANZ/KLEIN.FKR"), Quizdatei("klein", 6, 2, 3));
+    const frmFKFragen* erstes = lauf.programm().NeuesQuizformular();
+    const QSize voll = erstes->size();
+    const Spielwerte vorher = Spiel;
+    FK_Entladen();
+    ModusHaupt();
+    Listenlauf::Anklicken(QStringLiteral("KLEIN.FKR"));
+    QTRY_COMPARE(Listenlauf::Info(), Vorschau(6, 3, 2));
+    Dialogfolge dialoge;
+    dialoge.erwarte(
+        {QStringLiteral("frmDatei"), {}, {}, {QStringLiteral("cmdAbbrechen")}, [](QDialog& dialog) {
+             Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))->setText(QStringLiteral("KLEIN.FKR"));
+             Finden<QAbstractButton>(&dialog, QStringLiteral("cmdVorschau"))->click();
+             QVERIFY(Finden(&dialog, QStringLiteral("grdDatei"))->isVisible());
+         }});
+    dialoge.meldung(QStringLiteral("Keine Datei ausgewählt !"), QStringLiteral("Nicht doch"));
+    maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdLaden")));
+    QTRY_VERIFY(dialoge.fertig());
+    QVERIFY(Spiel == vorher);
+    QCOMPARE(lauf.programm().NeuesQuizformular()->size(), voll);
+    QVERIFY(Spiel == vorher);
+    QVERIFY(Spiel.AnzahlWissen == 6 && Spiel.FragenProWissen == 5);
 }
 
 QTEST_MAIN(FormularlisteTest)
