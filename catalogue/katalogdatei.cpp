@@ -56,17 +56,18 @@ void FragenLesen(std::string_view bytes, bool kommentarzeilen, Fragenliste& list
     // The end of the file is tested only ahead of a record.
     while (!leser.AmEnde()) {
         std::array<std::string_view, anzahlSpalten> satz;
-        int zuLang = 0; // its number, 0 for none
+        bool zuLang = false;
         for (std::string_view& zeile : satz) {
             zeile = Wertzeile(leser, kommentarzeilen);
-            if (zeile.size() > laengsterText && zuLang == 0) {
-                zuLang = ZeileDavor(leser, zeile, bytes);
+            if (zeile.size() > laengsterText && !zuLang) {
+                zuLang = true; // told at once: the record may be cut short as well
+                if (weggelassen) {
+                    weggelassen(ZeileDavor(leser, zeile, bytes));
+                }
             }
         }
-        if (zuLang == 0) {
+        if (!zuLang) {
             liste.Anhaengen(satz);
-        } else if (weggelassen) {
-            weggelassen(zuLang);
         }
     }
 }

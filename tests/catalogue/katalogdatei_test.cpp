@@ -147,6 +147,17 @@ TEST(Fragendatei, ALongLastLineIsNamedWithOrWithoutItsEnd) {
     }
 }
 
+TEST(Fragendatei, ALongLineIsNamedAlsoWhereItsRecordIsCutShort) {
+    Fragenliste liste;
+    std::vector<int> zeilen;
+    const std::string bytes = "K\r\n1\r\n" + std::string(100000, 'x');
+    EXPECT_EQ(Fehlernummer([&] {
+                  FragenLesen(bytes, false, liste, [&zeilen](int zeile) { zeilen.push_back(zeile); });
+              }),
+              62);
+    EXPECT_EQ(zeilen, std::vector<int>{3});
+}
+
 TEST(Fragendatei, ALongCommentLineLosesNothing) {
     Fragenliste liste;
     FragenLesen("K\r\n'" + std::string(100000, 'x') + "\r\n1\r\nF\r\nA\r\n5\r\n", true, liste);
