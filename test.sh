@@ -7,19 +7,20 @@
 #   ./test.sh tidy      clang-tidy and cppcheck
 #   ./test.sh lint      stil and tidy
 #   ./test.sh asan      tests under the address and undefined-behaviour sanitizers
+#   ./test.sh fuzz 60   every reader, writer and layout of the model against made-up inputs, 60 seconds each
 #   ./test.sh release   the program as it is shipped, and the tests that the sanitizers can't run with it
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/pakete.sh
 
 case "${1:-schnell}" in
-  schnell | alles | stil | tidy | lint | release | debug | asan | coverage) ;;
-  *) sed -n '2,10p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+  schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz) ;;
+  *) sed -n '2,12p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
 
 pakete=("${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_stil[@]}")
 case "${1:-schnell}" in
-  alles | tidy | lint) pakete+=("${pakete_lint[@]}") ;;
+  alles | tidy | lint | fuzz) pakete+=("${pakete_lint[@]}") ;;
 esac
 pakete_sichern "${pakete[@]}"
 
@@ -74,6 +75,16 @@ tidy() {
   tools/tidy.sh "$kerne"
 }
 
+fuzz() { # seconds
+  ueberschrift "Building fuzz"
+  cmake --preset fuzz "${zusatz[@]}" >build/fuzz.log 2>&1 || { cat build/fuzz.log; return 1; }
+  cmake --build --preset fuzz --target fuzz_alle
+  ueberschrift "How time grows with the input"
+  build/fuzz/tests/fuzz/fuzz_dauer
+  ueberschrift "Fuzzing, ${1:-60} s each"
+  tests/fuzz/fuzz.sh "${1:-60}" "$kerne"
+}
+
 mkdir -p build
 case "${1:-schnell}" in
   schnell) stil; tests debug ;;
@@ -82,6 +93,7 @@ case "${1:-schnell}" in
   tidy) tidy ;;
   lint) stil; tidy ;;
   release) release ;;
+  fuzz) fuzz "${2:-60}" ;;
   debug | asan | coverage) tests "$@" ;;
 esac
 ueberschrift "All right"

@@ -15,7 +15,7 @@
 
 namespace {
 
-std::map<std::string, QIcon, std::less<>> zeichen;
+std::map<std::string, QIcon, std::less<>> bildzeichen;
 
 QString Pfad(std::string_view name, bool doppelt) {
     return QStringLiteral(":/bilder/%1%2.png")
@@ -50,12 +50,13 @@ QPixmap Bild(std::string_view name, double aufloesung) {
 // Each is made once: the toolkit keeps the sizes it has made of an icon as long as it runs, also of one that
 // a closed window took along.
 QIcon Bildzeichen(std::string_view name) {
-    const auto fund = zeichen.find(name);
-    if (fund != zeichen.end()) {
+    const auto fund = bildzeichen.find(name);
+    if (fund != bildzeichen.end()) {
         return fund->second;
     }
-    if (zeichen.empty()) {
-        qAddPostRoutine([] { zeichen.clear(); }); // the pictures must go before the application object does
+    if (bildzeichen.empty()) {
+        qAddPostRoutine(
+            [] { bildzeichen.clear(); }); // the pictures must go before the application object does
     }
     QIcon neu;
     for (const bool doppelt : {false, true}) {
@@ -63,7 +64,7 @@ QIcon Bildzeichen(std::string_view name) {
             neu.addFile(pfad);
         }
     }
-    return zeichen.emplace(name, neu).first->second;
+    return bildzeichen.emplace(name, neu).first->second;
 }
 
 void TastenbildSetzen(QAbstractButton* taste, std::string_view name) {

@@ -160,7 +160,7 @@ void Textfeld::NurErlaubteZeichen(int stelle, int neu) {
     // The document is in the middle of the change; the mending joins it as soon as it is over.
     QMetaObject::invokeMethod(
         this,
-        [this, cursor, erlaubt]() mutable {
+        [cursor, erlaubt]() mutable {
             cursor.setKeepPositionOnInsert(false);
             cursor.joinPreviousEditBlock();
             cursor.insertText(erlaubt);

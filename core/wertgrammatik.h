@@ -49,7 +49,8 @@ public:
     // The next token as a single; 0 for one that is no number, a number beyond 32 bits is run-time error 6.
     float Einfach();
     // The next token in the file's own notation (with its quotes, if it has them), so that it goes back as it
-    // came; no value for an empty line.
+    // came; no value for an empty line, and for a text that never closes: written back it would swallow what
+    // follows.
     std::optional<std::string> Variant();
 
     // The rest of the line, whole: no rule for quotes or commas. In code page 1252.

@@ -172,10 +172,12 @@ float WertLeser::Einfach() {
 
 std::optional<std::string> WertLeser::Variant() {
     Token();
-    if (tokenEnde_ == tokenAnfang_) {
+    const std::string_view wert = bytes_.substr(tokenAnfang_, tokenEnde_ - tokenAnfang_);
+    const bool offen = wert.starts_with('"') && (wert.size() == 1 || !wert.ends_with('"'));
+    if (wert.empty() || offen) {
         return std::nullopt;
     }
-    return AusCp1252(bytes_.substr(tokenAnfang_, tokenEnde_ - tokenAnfang_));
+    return AusCp1252(wert);
 }
 
 std::string_view WertLeser::Zeile() {

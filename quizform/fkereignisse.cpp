@@ -126,7 +126,7 @@ void FeldEreignisseVerbinden(frmFKFragen& form) {
          {std::pair{form.txtNr, "Nr."}, std::pair{form.txtDatum, "Datum"}, std::pair{form.txtZeit, "Zeit"}}) {
         QObject::connect(zeile, &QLineEdit::textChanged, &form, [] { FormStatusSetzen(true); });
         QObject::connect(zeile, &QLineEdit::editingFinished, &form,
-                         [zeile, name] { AnfuehrungMelden(zeile, zeile->wert(), name); });
+                         [zeile = zeile, name = name] { AnfuehrungMelden(zeile, zeile->wert(), name); });
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
         Textfeld* frage = form.txtFrage.at(Stelle(n));

@@ -149,6 +149,12 @@ TEST(Wertgrammatik, SinglesAreReadWithAPoint) {
     EXPECT_EQ(FehlerVon([] { (void)WertLeser("1e39\r\n").Einfach(); }), (Fehlerstelle{6, 1}));
 }
 
+TEST(Wertgrammatik, AVariantWhoseTextNeverClosesIsNoValue) {
+    EXPECT_EQ(WertLeser("\"").Variant(), std::nullopt);
+    EXPECT_EQ(WertLeser("\"n\r\n4\r\n").Variant(), std::nullopt);
+    EXPECT_EQ(WertLeser("a\"b\r\n").Variant(), "a\"b");
+}
+
 TEST(Wertgrammatik, AVariantKeepsItsNotationAndAnEmptyLineIsNoValue) {
     WertLeser leser("\r\n2\r\n\"\"\r\n \"zwei\"  x\r\n#TRUE#,,3\r\n");
     EXPECT_EQ(leser.Variant(), std::nullopt);
