@@ -193,7 +193,7 @@ void AbbildTest::theEditor() {
     lauf.programm().ordner().schreiben(QStringLiteral("WISSEN/KN.TXT"),
                                        "Knoten\r\n1\r\nWas h\xE4lt fest?\r\nPalstek\r\n10\r\n");
     Dialogfolge dialoge;
-    DateidialogErwarten(dialoge, QStringLiteral("KN.TXT"), QStringLiteral("cmdLaden"));
+    DateidialogErwarten(dialoge, {}, QStringLiteral("KN.TXT"), QStringLiteral("cmdLaden"));
     Abbildlauf::Druecken(editor, QStringLiteral("cmdDatei(1)"));
     QVERIFY(dialoge.fertig());
     FensterVergleichen(editor, QStringLiteral("frmEditor_datei"));

@@ -119,14 +119,14 @@ QWidget* Abbildlauf::NeuesTestformular() {
 
 QWidget* Abbildlauf::QuizformularOeffnen(const QString& name) {
     Dialogfolge dialoge;
-    DateidialogErwarten(dialoge, name, QStringLiteral("cmdLaden"));
+    DateidialogErwarten(dialoge, {}, name, QStringLiteral("cmdLaden"));
     Druecken(QStringLiteral("cmdLaden"));
     return FensterAbwarten(QStringLiteral("frmFKFragen"));
 }
 
 QWidget* Abbildlauf::TestformularOeffnen(const QString& name) {
     Dialogfolge dialoge;
-    DateidialogErwarten(dialoge, name, QStringLiteral("cmdLaden"), QStringLiteral("TEST"));
+    DateidialogErwarten(dialoge, {}, QStringLiteral("TEST"), name, QStringLiteral("cmdLaden"));
     Druecken(QStringLiteral("cmdLaden"));
     return FensterAbwarten(QStringLiteral("frmHBFragen"));
 }

@@ -52,26 +52,6 @@ void BrettVerkleinern(const Abbildlauf& lauf) {
     });
 }
 
-void DateidialogErwarten(Dialogfolge& dialoge, const QString& name, const QString& taste,
-                         const QString& ordner) {
-    dialoge.erwarte(
-        {QStringLiteral("frmDatei"), std::nullopt, std::nullopt, {taste}, [name, ordner](QDialog& dialog) {
-             auto* liste = Finden<QListWidget>(&dialog, QStringLiteral("dirVerzeichnisliste"));
-             for (const QString& schritt :
-                  ordner.isEmpty() ? QStringList() : QStringList{QStringLiteral(".."), ordner}) {
-                 const auto treffer = liste->findItems(schritt, Qt::MatchExactly);
-                 QCOMPARE(treffer.size(), 1);
-                 QTest::mouseClick(liste->viewport(), Qt::LeftButton, {},
-                                   liste->visualItemRect(treffer.first()).center());
-                 QTest::mouseDClick(liste->viewport(), Qt::LeftButton, {},
-                                    liste->visualItemRect(treffer.first()).center());
-             }
-             auto* feld = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-             feld->selectAll();
-             QTest::keyClicks(feld, name);
-         }});
-}
-
 void DateidialogZeigen(const Abbildlauf& lauf, const QString& taste,
                        const std::function<void(QDialog&)>& arbeit) {
     Dialogfolge dialoge;

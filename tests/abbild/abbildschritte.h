@@ -2,6 +2,7 @@
 #pragma once
 
 #include "abbildlauf.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 
 #include <QDialog>
@@ -16,9 +17,6 @@ void Einstellen(const Abbildlauf& lauf, const std::function<void(const QDialog&,
 // A board of three areas with two questions each, by the settings; each step asks.
 void BrettVerkleinern(const Abbildlauf& lauf);
 
-// Expects the file dialog and types a name into it, first going to the folder beside KRANZ if one is named.
-void DateidialogErwarten(Dialogfolge& dialoge, const QString& name, const QString& taste,
-                         const QString& ordner = QString());
 // The file dialog that a button of the main window opens, with the first of the machine's drives; left
 // without a choice.
 void DateidialogZeigen(const Abbildlauf& lauf, const QString& taste,

@@ -25,7 +25,7 @@ QByteArray Datei(const QString& pfad) {
 QByteArray Gespeichert(const Abbildlauf& lauf, const char* taste, const QString& ordner) {
     const QString name = QStringLiteral("Neu.FKR");
     Dialogfolge dialoge;
-    DateidialogErwarten(dialoge, name, QStringLiteral("cmdSpeichern"));
+    DateidialogErwarten(dialoge, {}, name, QStringLiteral("cmdSpeichern"));
     dialoge.erwarte(Irgendeiner("frmMeldung", "cmdKenntnis"));
     lauf.Druecken(QLatin1String(taste));
     return lauf.programm().ordner().lesen(ordner + u'/' + name);

@@ -11,6 +11,7 @@
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/auswahlhilfe.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
@@ -183,28 +184,9 @@ void Ziehen(const QWidget* auswahl, const Herkunft& herkunft, const QWidget* zie
     maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")), ziel);
 }
 
-// Types a name into the dialog for saving, beneath the folder beside KRANZ if one is named.
-void NameErwarten(Dialogfolge& dialoge, const QString& name, const QString& ordner = {}) {
-    dialoge.erwarte({QStringLiteral("frmDatei"),
-                     QStringLiteral("Speichern unter ..."),
-                     std::nullopt,
-                     {QStringLiteral("cmdSpeichern")},
-                     [name, ordner](QDialog& dialog) {
-                         auto* liste = Finden<QListWidget>(&dialog, QStringLiteral("dirVerzeichnisliste"));
-                         for (const QString& schritt :
-                              ordner.isEmpty() ? QStringList() : QStringList{QStringLiteral(".."), ordner}) {
-                             const auto treffer = liste->findItems(schritt, Qt::MatchExactly);
-                             QCOMPARE(treffer.size(), 1);
-                             QTest::mouseClick(liste->viewport(), Qt::LeftButton, {},
-                                               liste->visualItemRect(treffer.first()).center());
-                             QTest::mouseDClick(liste->viewport(), Qt::LeftButton, {},
-                                                liste->visualItemRect(treffer.first()).center());
-                         }
-                         auto* feld = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-                         feld->setFocus();
-                         feld->selectAll();
-                         QTest::keyClicks(feld, name);
-                     }});
+// Types a name into the dialog for saving, which opens in the folder of the form's kind.
+void NameErwarten(Dialogfolge& dialoge, const QString& name) {
+    DateidialogErwarten(dialoge, QStringLiteral("Speichern unter ..."), name, QStringLiteral("cmdSpeichern"));
     dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ %1.FKR ]").arg(name), QStringLiteral("Schön"));
 }
 
@@ -369,7 +351,7 @@ void Vorlagen::test() {
     ZeilenFuellen(vorlage);
     Abraeumen(programm, QStringLiteral("TEST/%1.FKR").arg(Text(vorlage.name)));
     Dialogfolge dialoge;
-    NameErwarten(dialoge, Text(vorlage.name), QStringLiteral("TEST"));
+    NameErwarten(dialoge, Text(vorlage.name));
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdDateiHB(3)")));
     QTRY_VERIFY(dialoge.fertig());
     Abliefern(programm, QStringLiteral("TEST/%1.FKR").arg(Text(vorlage.name)));

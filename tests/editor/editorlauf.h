@@ -14,6 +14,7 @@
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
 #include "testform/hbformular.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
@@ -84,23 +85,6 @@ inline void Druecken(const frmEditor* editor, const QString& name, Stelle stelle
         Versagen(name + QStringLiteral(" is out of reach"), stelle);
     }
     QTest::mouseClick(taste, Qt::LeftButton);
-}
-
-// Expects the file dialog with that title, types a name (nothing for an empty one) and clicks.
-inline void DateidialogErwarten(Dialogfolge& dialoge, const QString& titel, const QString& name,
-                                const QString& taste, Stelle stelle = Stelle::hier()) {
-    dialoge.erwarte({QStringLiteral("frmDatei"),
-                     titel,
-                     std::nullopt,
-                     {taste},
-                     [name](QDialog& dialog) {
-                         auto* feld = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-                         if (!name.isEmpty()) {
-                             feld->selectAll();
-                             QTest::keyClicks(feld, name);
-                         }
-                     }},
-                    stelle);
 }
 
 inline void GespeichertErwarten(Dialogfolge& dialoge, const QString& name, Stelle stelle = Stelle::hier()) {

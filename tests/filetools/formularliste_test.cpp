@@ -389,15 +389,8 @@ void FormularlisteTest::theModeOfTheListBindsTheListAndNotTheFileDialog() {
     Listenlauf::Doppelklicken(QStringLiteral("T.FKR"));
     QTRY_VERIFY(dialoge.fertig());
     QVERIFY(HBFragenOffen() == nullptr);
-    dialoge.erwarte({QStringLiteral("frmDatei"),
-                     QStringLiteral("Öffnen"),
-                     std::nullopt,
-                     {QStringLiteral("cmdLaden")},
-                     [](QDialog& dialog) {
-                         auto* name = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-                         name->selectAll();
-                         QTest::keyClicks(name, QStringLiteral("T.FKR"));
-                     }});
+    DateidialogErwarten(dialoge, QStringLiteral("Öffnen"), QStringLiteral("T.FKR"),
+                        QStringLiteral("cmdLaden"));
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdLaden")));
     QTRY_VERIFY(HBFragenOffen() != nullptr); // no form is open that would have to be closed first
 }
@@ -459,3 +452,4 @@ void FormularlisteTest::aLookAtAFormChangesNothingThatANewFormTakesOver() {
 
 QTEST_MAIN(FormularlisteTest)
 #include "formularliste_test.moc"
+#include "tests/hilfe/dateidialoghilfe.h"

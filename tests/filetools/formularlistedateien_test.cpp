@@ -89,10 +89,7 @@ void FormularlisteDateienTest::theSameFormByListAndByDialogIsOneRecentEntry() {
     const std::array<std::string, 4> einmal{Stand.AppPfad + "\\KRANZ\\Abend.fkr"};
     QVERIFY(Spiel.Datei == einmal);
     Dialogfolge dialoge;
-    dialoge.erwarte(
-        {QStringLiteral("frmDatei"), {}, {}, {QStringLiteral("cmdLaden")}, [](QDialog& dialog) {
-             Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))->setText(QStringLiteral("Abend.fkr"));
-         }});
+    DateidialogErwarten(dialoge, {}, QStringLiteral("Abend.fkr"), QStringLiteral("cmdLaden"));
     QTest::mouseClick(Finden<QAbstractButton>(lauf.programm().haupt(), QStringLiteral("cmdDateiFK(2)")),
                       Qt::LeftButton);
     QVERIFY(dialoge.fertig());
@@ -295,3 +292,4 @@ void FormularlisteDateienTest::pictures() {
 
 QTEST_MAIN(FormularlisteDateienTest)
 #include "formularlistedateien_test.moc"
+#include "tests/hilfe/dateidialoghilfe.h"

@@ -180,15 +180,8 @@ void FormularrettungTest::aSaveOfAFormThatCameBackAsksForAName() {
     QCOMPARE(Stand.FKDateiName, std::string());
     QCOMPARE(FKFragenOffen()->windowTitle(), QStringLiteral("UNGESICHERT.BAK "));
     Dialogfolge dialoge;
-    dialoge.erwarte({QStringLiteral("frmDatei"),
-                     QStringLiteral("Speichern unter ..."),
-                     std::nullopt,
-                     {QStringLiteral("cmdSpeichern")},
-                     [](QDialog& dialog) {
-                         auto* name = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-                         name->selectAll();
-                         QTest::keyClicks(name, QStringLiteral("Neu"));
-                     }});
+    DateidialogErwarten(dialoge, QStringLiteral("Speichern unter ..."), QStringLiteral("Neu"),
+                        QStringLiteral("cmdSpeichern"));
     dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ Neu.FKR ]"), QStringLiteral("Schön"));
     maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdDateiFK(3)")));
     QTRY_VERIFY(dialoge.fertig());
@@ -265,3 +258,4 @@ void FormularrettungTest::aMissingFolderIsMade() {
 
 QTEST_MAIN(FormularrettungTest)
 #include "formularrettung_test.moc"
+#include "tests/hilfe/dateidialoghilfe.h"

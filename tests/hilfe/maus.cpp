@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr int frist = 25000;      // for a gesture, milliseconds
-constexpr int bedenkzeit = 10000; // for the state over the target
+constexpr int frist = 60000;      // for a gesture, milliseconds
+constexpr int bedenkzeit = 30000; // for the state over the target
 
 // Sees the events that come from the display server.
 class Zaehlwerk : public QObject {

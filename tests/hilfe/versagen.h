@@ -21,4 +21,4 @@ void Versagen(const QString& grund, Stelle stelle);
 [[noreturn]] void VersagenUndEnde(const QString& grund, Stelle stelle);
 
 // Runs the event loop until the condition holds; false after the time in milliseconds.
-[[nodiscard]] bool WartenBis(const std::function<bool()>& bedingung, int frist = 5000);
+[[nodiscard]] bool WartenBis(const std::function<bool()>& bedingung, int frist = 30000);

@@ -31,7 +31,7 @@ void FrmHomepageTest::theWindowIsAChildOfTheMainWindowWithTheSiteInItsTitle() {
 void FrmHomepageTest::thePageIsAskedForByItsAddressAndShown() {
     const Server server(gruen.arg(QStringLiteral("Grüße")));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     QVERIFY(server.gefragt.contains(
         QStringLiteral("/modules.php?op=modload&name=Downloads&file=index&req=viewsdownload&sid=18")));
     QVERIFY(!Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible());
@@ -64,14 +64,14 @@ void FrmHomepageTest::theMenuEntryShowsTheSameWindow() {
     auto* eintrag = Finden<QAction>(besuch.programm.haupt(), QStringLiteral("mHilfen(2)"));
     QCOMPARE(eintrag->text(), QStringLiteral("www.feldkranz.example"));
     eintrag->trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
 }
 
 void FrmHomepageTest::linksOfTheMakersStayInTheWindow() {
     Server server(Verweis(QStringLiteral("/zwei.html")));
     server.seiten.insert(QStringLiteral("/zwei.html"), gruen.arg(QStringLiteral("zwei")));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     Klicken();
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/zwei.html")), 1);
     QVERIFY(besuch.draussen.isEmpty());
@@ -85,7 +85,7 @@ void FrmHomepageTest::aServerThatIsNotThereReportsNothing() {
     const Zusatzordner zusatz;
     const Programm programm;
     Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"))->click();
-    QTRY_VERIFY_WITH_TIMEOUT(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible(), 20000);
+    QTRY_VERIFY(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible());
     QVERIFY(HomepageOffen()->isVisible());
     HomepageServerVorgeben({});
 }
@@ -99,10 +99,10 @@ void FrmHomepageTest::aSecondCallTriesAPageAgainThatFailed() {
     const Programm programm;
     auto* cmdHomepage = Finden<QAbstractButton>(programm.haupt(), QStringLiteral("cmdHomepage"));
     cmdHomepage->click();
-    QTRY_VERIFY_WITH_TIMEOUT(Verdeckt(), 20000);
+    QTRY_VERIFY(Verdeckt());
     QVERIFY(server.listen(QHostAddress::LocalHost, anschluss));
     cmdHomepage->click();
-    QTRY_VERIFY_WITH_TIMEOUT(!Verdeckt(), 20000);
+    QTRY_VERIFY(!Verdeckt());
     QTRY_VERIFY(IstGruen());
     QCOMPARE(server.Anfragen(QStringLiteral("/modules.php")), 1);
     // A page that stands isn't loaded again.
@@ -117,7 +117,7 @@ void FrmHomepageTest::aPageWithAnErrorReportsNothing() {
     server.koepfe.insert(QStringLiteral("/modules.php"), QStringLiteral("500 Kaputt"));
     const Dialogfolge dialoge;
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(!server.gefragt.isEmpty(), 20000);
+    QTRY_VERIFY(!server.gefragt.isEmpty());
     QVERIFY(HomepageOffen()->isVisible());
 }
 
@@ -154,7 +154,7 @@ void FrmHomepageTest::theWindowLooksFinished() {
         "<div style='background:#20c040;position:fixed;left:0;right:0;top:50%;height:40px'></div>"
         "</body></html>"));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     BildVon(besuch.programm.haupt(), QStringLiteral("frmHomepage"));
     QCOMPARE(rundgang::Maengel(*HomepageOffen()), QStringList()); // everything tells about itself
 }

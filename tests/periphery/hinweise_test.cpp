@@ -48,7 +48,7 @@ const clsToolTipDeluxe& Objekt(QWidget* element) {
 }
 
 void TippAbwarten(QWidget* element, const QString& titel, const QString& text) {
-    QTRY_VERIFY_WITH_TIMEOUT(Objekt(element).sichtbar(), 10000);
+    QTRY_VERIFY(Objekt(element).sichtbar());
     QCOMPARE(Objekt(element).tippfenster()->text(), text);
     QCOMPARE(Objekt(element).tippfenster()->aussehen().titel, titel);
     QVERIFY(element->screen()->geometry().contains(Objekt(element).tippfenster()->geometry()));

@@ -41,7 +41,7 @@ void NetzschutzTest::linksElsewhereGoToTheSystemsBrowser() {
     const QString ziel = QStringLiteral("http://localhost:%1/seite?a=b%20c").arg(andere.serverPort());
     const Server server(Verweis(ziel, merkmale));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     const auto geladen = Ladezaehler();
     Klicken();
     QTRY_COMPARE(besuch.draussen, QStringList{ziel});
@@ -72,7 +72,7 @@ void NetzschutzTest::addressesOfNoWebLeadNowhere() {
                                 .arg(ziel)));
     const Besuch besuch(server);
     const Dialogfolge dialoge;
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     const auto geladen = Ladezaehler();
     Klicken();
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/geklickt")), 1);
@@ -94,7 +94,7 @@ void NetzschutzTest::aRedirectElsewhereIsNotFollowed() {
         QStringLiteral("/modules.php"),
         QStringLiteral("302 Found\r\nLocation: http://localhost:%1/weg").arg(andere.serverPort()));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible(), 20000);
+    QTRY_VERIFY(Finden(HomepageOffen(), QStringLiteral("pnlErsatz"))->isVisible());
     QCOMPARE(andere.gefragt, QStringList());
     QCOMPARE(besuch.draussen, QStringList());
 }
@@ -118,7 +118,7 @@ void NetzschutzTest::noFileOfTheMachineCanBeReadFromAPage() {
                                  "</script><iframe src='file://%1' onload=\"fetch('/rahmen')\"></iframe>")
                       .arg(geheim)));
     const Besuch besuch(server);
-    QTRY_COMPARE_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/gesperrt")), 1, 20000);
+    QTRY_COMPARE(server.Anfragen(QStringLiteral("/gesperrt")), 1);
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/bildgesperrt")), 1);
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/datengesperrt")), 1);
     QCOMPARE(server.Anfragen(QStringLiteral("/gelesen")), 0);
@@ -143,7 +143,7 @@ void NetzschutzTest::nothingIsStored() {
     const QStringList vorher = AllesImHeimordner();
     const Besuch besuch(server);
     const Dialogfolge dialoge;
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     const auto geladen = Ladezaehler();
     Klicken();
     // The user asked for the file, and his own browser fetches it.
@@ -162,7 +162,7 @@ void NetzschutzTest::aFollowedLinkOfTheMakersMayLeadElsewhere() {
     Server server(Verweis(QStringLiteral("/weiter")));
     server.koepfe.insert(QStringLiteral("/weiter"), QStringLiteral("302 Found\r\nLocation: ") + ziel);
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     const auto geladen = Ladezaehler();
     Klicken();
     QTRY_COMPARE(besuch.draussen, QStringList{ziel});
@@ -198,7 +198,7 @@ void NetzschutzTest::aScriptAloneOpensNothingOutside() {
     server.koepfe.insert(QStringLiteral("/weiter"), QStringLiteral("302 Found\r\nLocation: ") + ziel);
     const Besuch besuch(server);
     // The page is still there and goes on, long after it has tried.
-    QTRY_VERIFY_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/danach")) >= 2, 20000);
+    QTRY_VERIFY(server.Anfragen(QStringLiteral("/danach")) >= 2);
     QCOMPARE(besuch.draussen, QStringList());
     QCOMPARE(andere.gefragt, QStringList());
     QVERIFY(IstGruen());
@@ -212,7 +212,7 @@ void NetzschutzTest::oneClickOpensOneAddressOutside() {
                                  "setTimeout(()=>fetch('/danach'),600)}</script>"
                                  "<div onclick='klick()' style='height:600px'>Weiter</div>")));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     Klicken();
     QTRY_COMPARE(server.Anfragen(QStringLiteral("/danach")), 1);
     QCOMPARE(besuch.draussen, QStringList{QStringLiteral("http://localhost:4711/0")});
@@ -222,7 +222,7 @@ void NetzschutzTest::theKeyboardFollowsALinkToo() {
     const QString ziel = QStringLiteral("http://localhost:4711/seite");
     const Server server(Verweis(ziel));
     const Besuch besuch(server);
-    QTRY_VERIFY_WITH_TIMEOUT(IstGruen(), 20000);
+    QTRY_VERIFY(IstGruen());
     QTRY_VERIFY(Netz()->focusProxy() != nullptr);
     Netz()->setFocus();
     QTRY_VERIFY(Netz()->focusProxy()->hasFocus());
@@ -241,7 +241,7 @@ void NetzschutzTest::aPageOpensNeitherWindowsNorDialogs() {
     const Besuch besuch(server);
     const Dialogfolge dialoge;
     const auto fenster = QApplication::topLevelWidgets().size();
-    QTRY_COMPARE_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/fertig")), 1, 20000);
+    QTRY_COMPARE(server.Anfragen(QStringLiteral("/fertig")), 1);
     QVERIFY2(server.gefragt.contains(QStringLiteral("/fertig?falsenull")),
              qPrintable(server.gefragt.join(u' ')));
     QCOMPARE(server.Anfragen(QStringLiteral("/fenster")), 0);
@@ -263,7 +263,7 @@ void NetzschutzTest::noPermissionIsGranted() {
         "</script>")));
     const Besuch besuch(server);
     const Dialogfolge dialoge;
-    QTRY_COMPARE_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/verweigert")), 4, 20000);
+    QTRY_COMPARE(server.Anfragen(QStringLiteral("/verweigert")), 4);
     QCOMPARE(server.Anfragen(QStringLiteral("/erlaubt")), 0);
 }
 
@@ -277,7 +277,7 @@ void NetzschutzTest::nothingStaysOnTheDisk() {
                              QStringLiteral("200 OK\r\nSet-Cookie: zweiter=1; Max-Age=99999\r\n"
                                             "Cache-Control: max-age=99999"));
         const Besuch besuch(server);
-        QTRY_COMPARE_WITH_TIMEOUT(server.Anfragen(QStringLiteral("/keks")), 1, 20000);
+        QTRY_COMPARE(server.Anfragen(QStringLiteral("/keks")), 1);
         QTRY_VERIFY(IstGruen());
     }
     QTRY_COMPARE(AllesImHeimordner().join(u'\n'), vorher.join(u'\n'));

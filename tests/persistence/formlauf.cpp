@@ -14,7 +14,6 @@
 
 #include <QAbstractButton>
 #include <QDir>
-#include <QLineEdit>
 #include <QTest>
 
 void Formlauf::Vorbereiten() {
@@ -81,22 +80,6 @@ frmFKFragen* Formlauf::NeuesFormular(const QString& text) const {
     form->txtFrage.at(1)->setFocus();
     QTest::keyClicks(form->txtFrage.at(1), text);
     return form;
-}
-
-void DateidialogErwarten(Dialogfolge& dialoge, const QString& titel, const QString& name,
-                         const QString& taste, Stelle stelle) {
-    dialoge.erwarte({QStringLiteral("frmDatei"),
-                     titel,
-                     std::nullopt,
-                     {taste},
-                     [name](QDialog& dialog) {
-                         auto* feld = Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"));
-                         if (!name.isEmpty()) {
-                             feld->selectAll();
-                             QTest::keyClicks(feld, name);
-                         }
-                     }},
-                    stelle);
 }
 
 void GespeichertErwarten(Dialogfolge& dialoge, const QString& name, Stelle stelle) {

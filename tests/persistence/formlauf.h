@@ -3,6 +3,7 @@
 #pragma once
 
 #include "quizform/frmFKFragen.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/programm.h"
 
@@ -36,10 +37,6 @@ public:
 private:
     std::unique_ptr<Programm> programm_;
 };
-
-// Expects the file dialog, types the name and clicks; an empty name leaves the box alone.
-void DateidialogErwarten(Dialogfolge& dialoge, const QString& titel, const QString& name,
-                         const QString& taste, Stelle stelle = Stelle::hier());
 
 // Expects the message about a form that has been saved.
 void GespeichertErwarten(Dialogfolge& dialoge, const QString& name, Stelle stelle = Stelle::hier());
