@@ -4,8 +4,8 @@
 
 namespace {
 
-constexpr std::string_view hinweis =
-    " Vorsicht bei {}: Was hinter dem Zeichen \" steht, fehlt nach dem nächsten Öffnen. Nimm lieber „ und “.";
+// Short, for the two lines of the panel.
+constexpr std::string_view hinweis = " {}: Was hinter \" steht, geht verloren. Nimm „ und “.";
 
 } // namespace
 
@@ -21,7 +21,7 @@ std::string AnfuehrungHinweis(std::span<const std::string> orte) {
     if (const std::size_t weitere = orte.size() - 1; weitere == 1) {
         wo += " und " + orte.back();
     } else if (weitere > 1) {
-        wo += " und " + std::to_string(weitere) + " weiteren Texten";
+        wo += " und " + std::to_string(weitere) + " weitere";
     }
     return Einsetzen(hinweis, {wo});
 }

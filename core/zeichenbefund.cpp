@@ -20,7 +20,7 @@ constexpr std::string_view mehrereDraussen = " Nicht speichern kann ich  {} .";
 constexpr std::string_view mehrereErsetzt = " Ersetzt habe ich  {} .";
 
 // The panel has two lines.
-constexpr std::size_t hoechstensGenannt = 5;
+constexpr std::size_t hoechstensGenannt = 3;
 
 std::string Utf8(char32_t zeichen) {
     const auto byte = [zeichen](unsigned schub) {

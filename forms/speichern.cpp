@@ -105,6 +105,16 @@ bool DarfUeberschreiben(const std::string& pfad, Speicherart art) {
     return true;
 }
 
+// Where the dialog starts: a form without a file in the folder of its kind, one whose name is only proposed
+// where that file lies, and one with a file where the last dialog was left.
+std::string Anfangsordner(Formart art, const std::string& vorschlag) {
+    if (vorschlag.empty()) {
+        return Startordner(art);
+    }
+    const std::size_t ende = vorschlag.size() - NurDateiname(vorschlag).size();
+    return Formulardatei(art).empty() ? vorschlag.substr(0, ende) : std::string();
+}
+
 // Asks for the name. No value when the dialog was cancelled.
 std::optional<std::string> NameErfragen(Formart art, const std::string& bisher) {
     return DateidialogZeigen({std::string(speichernUnter),
@@ -112,7 +122,7 @@ std::optional<std::string> NameErfragen(Formart art, const std::string& bisher) 
                               {"Feldkranz-Formular (*.FKR)", "Alle Dateien (*.*)"},
                               {"*.fkr", "*.bak", "*.ini", "*.*"},
                               "*.FKR",
-                              bisher.empty() ? Startordner(art) : "",
+                              Anfangsordner(art, bisher),
                               NurDateiname(bisher),
                               true,
                               bisher});

@@ -27,9 +27,9 @@ using JeZelle = std::array<Wert, anzahlFelder + 1>;
     return (n - 1) % fragenJeGebiet + 1;
 }
 
-// Where a text stands, as the user is told: "Wissensgebiet 2, Frage 3".
+// Where a text stands, as the user is told: "Gebiet 2, Frage 3".
 [[nodiscard]] inline std::string Zellenname(int n, std::string_view was) {
-    return "Wissensgebiet " + std::to_string(GebietVon(n)) + ", " + std::string(was) + ' ' +
+    return "Gebiet " + std::to_string(GebietVon(n)) + ", " + std::string(was) + ' ' +
            std::to_string(ZeileVon(n));
 }
 

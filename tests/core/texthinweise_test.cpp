@@ -38,7 +38,7 @@ TEST(Zeichenhinweis, ManyAreCounted) {
     EXPECT_EQ(ZeichenHinweis(Befund(U"你你你Ł好Ł")),
               " Nicht speichern kann ich  你 (3-mal), 好 . Ersetzt habe ich  Ł durch L (2-mal) .");
     EXPECT_EQ(ZeichenHinweis(Befund(U"一二三四五六七")),
-              " Nicht speichern kann ich  一, 二, 三, 四, 五 und 2 andere .");
+              " Nicht speichern kann ich  一, 二, 三 und 4 andere .");
 }
 
 TEST(Zeichenhinweis, ACharacterThatNobodySeesHasItsNumber) {
@@ -55,13 +55,12 @@ TEST(Anfuehrung, OnlyTheStraightMarkCutsAText) {
 }
 
 TEST(Anfuehrung, TheFirstPlaceIsNamedTheOthersAreCounted) {
-    const std::string rest = ": Was hinter dem Zeichen \" steht, fehlt nach dem nächsten Öffnen."
-                             " Nimm lieber „ und “.";
+    const std::string rest = ": Was hinter \" steht, geht verloren. Nimm „ und “.";
     const std::vector<std::string> orte{"Frage 1", "Antwort 1", "Datum"};
     EXPECT_EQ(AnfuehrungHinweis({}), "");
-    EXPECT_EQ(AnfuehrungHinweis(std::span(orte).first(1)), " Vorsicht bei Frage 1" + rest);
-    EXPECT_EQ(AnfuehrungHinweis(std::span(orte).first(2)), " Vorsicht bei Frage 1 und Antwort 1" + rest);
-    EXPECT_EQ(AnfuehrungHinweis(orte), " Vorsicht bei Frage 1 und 2 weiteren Texten" + rest);
+    EXPECT_EQ(AnfuehrungHinweis(std::span(orte).first(1)), " Frage 1" + rest);
+    EXPECT_EQ(AnfuehrungHinweis(std::span(orte).first(2)), " Frage 1 und Antwort 1" + rest);
+    EXPECT_EQ(AnfuehrungHinweis(orte), " Frage 1 und 2 weitere" + rest);
 }
 
 } // namespace

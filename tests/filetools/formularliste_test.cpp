@@ -1,6 +1,7 @@
 // The list of forms in the real program: its two folders, the patterns, the preview, the modes it sets, and
 // how forms are opened from it.
 #include "listenhilfe.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -452,4 +453,3 @@ void FormularlisteTest::aLookAtAFormChangesNothingThatANewFormTakesOver() {
 
 QTEST_MAIN(FormularlisteTest)
 #include "formularliste_test.moc"
-#include "tests/hilfe/dateidialoghilfe.h"

@@ -1,6 +1,7 @@
 // The list of forms and the disk: files and folders that come and go while it is open, and files that are no
 // form, damaged, huge or out of reach. And where the list stands on the screen.
 #include "listenhilfe.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 
 #include <QScreen>
 
@@ -292,4 +293,3 @@ void FormularlisteDateienTest::pictures() {
 
 QTEST_MAIN(FormularlisteDateienTest)
 #include "formularlistedateien_test.moc"
-#include "tests/hilfe/dateidialoghilfe.h"

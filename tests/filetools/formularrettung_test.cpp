@@ -1,5 +1,6 @@
 // What becomes of unsaved work when the list of forms replaces the open form without a question.
 #include "listenhilfe.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 
 #include "persistence/formulardatei.h"
 
@@ -258,4 +259,3 @@ void FormularrettungTest::aMissingFolderIsMade() {
 
 QTEST_MAIN(FormularrettungTest)
 #include "formularrettung_test.moc"
-#include "tests/hilfe/dateidialoghilfe.h"

@@ -20,8 +20,8 @@ TEST(Anfuehrungsorte, ACellIsNamedByItsAreaAndRow) {
     form.FormNr = "7\"";
     form.FormDatum = "\"heute\"";
     form.FormZeit = "2\"";
-    EXPECT_EQ(Anfuehrungsorte(form), (Orte{"Wissensgebiet 1, Frage 1", "Wissensgebiet 2, Antwort 3",
-                                           "Wissensgebiet 6, Frage 5", "Nr.", "Datum", "Zeit"}));
+    EXPECT_EQ(Anfuehrungsorte(form), (Orte{"Gebiet 1, Frage 1", "Gebiet 2, Antwort 3", "Gebiet 6, Frage 5",
+                                           "Nr.", "Datum", "Zeit"}));
 }
 
 TEST(Anfuehrungsorte, ARowOfATestIsNamedByItsNumber) {

@@ -13,7 +13,7 @@
 #include "tests/hilfe/finden.h"
 
 #include <QAbstractItemView>
-#include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 
@@ -37,7 +37,8 @@ void ZuKurzErwarten(Dialogfolge& dialoge, int zeile) {
     dialoge.kasten(fehlerTitel, QStringLiteral("Dateilänge nicht korrekt oder so ..."), ok);
 }
 
-// The save dialog, whose name box proposes a name, is cancelled.
+// The save dialog, whose name box proposes a name, and which starts in KRANZ, where the files of these tests
+// lie, is cancelled.
 void VorschlagErwarten(Dialogfolge& dialoge, const QString& name) {
     dialoge.erwarte({QStringLiteral("frmDatei"),
                      speichernUnter,
@@ -45,6 +46,8 @@ void VorschlagErwarten(Dialogfolge& dialoge, const QString& name) {
                      {QStringLiteral("cmdAbbrechen")},
                      [name](QDialog& dialog) {
                          QCOMPARE(Finden<QLineEdit>(&dialog, QStringLiteral("txtDateiname"))->text(), name);
+                         const QString dort = Finden<QLabel>(&dialog, QStringLiteral("lblDir"))->text();
+                         QVERIFY2(dort.endsWith(QStringLiteral("KRANZ")), qPrintable(dort));
                      }});
 }
 
@@ -285,10 +288,9 @@ void SchadenTest::aSaveSaysWhichTextsWontComeBackWhole() {
     lauf.Druecken(QStringLiteral("cmdDateiFK(3)"));
     QVERIFY(dialoge.fertig());
     QVERIFY(lauf.Lesen(QStringLiteral("ZITAT.FKR")).contains("\"Wer sagte \"Ja\"?\"")); // not altered
-    QCOMPARE(
-        Finden<Panel>(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->caption(),
-        QStringLiteral(" Vorsicht bei Wissensgebiet 1, Frage 1 und Wissensgebiet 2, Antwort 4: Was hinter "
-                       "dem Zeichen \" steht, fehlt nach dem nächsten Öffnen. Nimm lieber „ und “. "));
+    QCOMPARE(Finden<Panel>(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->caption(),
+             QStringLiteral(" Gebiet 1, Frage 1 und Gebiet 2, Antwort 4: Was hinter \" steht, geht verloren. "
+                            "Nimm „ und “. "));
 }
 
 QTEST_MAIN(SchadenTest)

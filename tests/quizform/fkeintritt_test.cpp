@@ -179,10 +179,8 @@ void FkEintrittTest::aPressOnSelectedTextNeverBeginsToCarryItOff() {
 void FkEintrittTest::leavingABoxWithAStraightMarkSaysWhatItCosts_data() {
     QTest::addColumn<QString>("feld");
     QTest::addColumn<QString>("name");
-    QTest::newRow("a question") << QStringLiteral("txtFrage(8)")
-                                << QStringLiteral("Wissensgebiet 2, Frage 3");
-    QTest::newRow("an answer") << QStringLiteral("txtAntwort(30)")
-                               << QStringLiteral("Wissensgebiet 6, Antwort 5");
+    QTest::newRow("a question") << QStringLiteral("txtFrage(8)") << QStringLiteral("Gebiet 2, Frage 3");
+    QTest::newRow("an answer") << QStringLiteral("txtAntwort(30)") << QStringLiteral("Gebiet 6, Antwort 5");
     QTest::newRow("the date") << QStringLiteral("txtDatum") << QStringLiteral("Datum");
 }
 
@@ -197,9 +195,7 @@ void FkEintrittTest::leavingABoxWithAStraightMarkSaysWhatItCosts() {
     maus::Tippen(QStringLiteral("Wer sagte \"Ja\"?"));
     maus::Taste(QStringLiteral("Tab"));
     QTRY_COMPARE(Finden<Panel>(programm.haupt(), QStringLiteral("pnlHilfe"))->caption(),
-                 QStringLiteral(" Vorsicht bei %1: Was hinter dem Zeichen \" steht, fehlt nach dem nächsten "
-                                "Öffnen. Nimm lieber „ und “. ")
-                     .arg(name));
+                 QStringLiteral(" %1: Was hinter \" steht, geht verloren. Nimm „ und “. ").arg(name));
     QVERIFY(!box->hasFocus());
 }
 

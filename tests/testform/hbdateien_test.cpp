@@ -93,8 +93,7 @@ void HbDateienTest::leavingABoxWithAStraightMarkSaysWhatItCosts() {
     QTest::keyClicks(form->txtAntwort.at(3), QStringLiteral("\"Ja\""));
     QTest::keyClick(form->txtAntwort.at(3), Qt::Key_Tab);
     QTRY_COMPARE(Finden<Panel>(lauf.programm().haupt(), QStringLiteral("pnlHilfe"))->caption(),
-                 QStringLiteral(" Vorsicht bei Antwort 3: Was hinter dem Zeichen \" steht, fehlt nach dem "
-                                "nächsten Öffnen. Nimm lieber „ und “. "));
+                 QStringLiteral(" Antwort 3: Was hinter \" steht, geht verloren. Nimm „ und “. "));
 }
 
 void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
