@@ -143,12 +143,9 @@ void Abend::FragenZiehen() {
     QWidget* auswahl = FensterAbwarten(QStringLiteral("frmAuswahl"));
     // Beside the form, so that the drags have a free way.
     auswahl->move(MDIFenster()->geometry().topRight() - QPoint(auswahl->frameGeometry().width() + 8, -70));
-    auto* frage = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
     int gebiet = 0;
     for (const Griff& griff : griffe) {
-        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), griff.thema);
-        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), griff.unterthema);
-        ListeWaehlen(frage, frage->itemText(griff.frage));
+        FrageWaehlen(auswahl, griff.thema, griff.unterthema, griff.frage);
         maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")),
                      FKFragenOffen()->txtFrage.at(Nr(griff.feld)));
         QTRY_VERIFY(!FK_Frage(griff.feld).empty());

@@ -171,16 +171,7 @@ QWidget* Auswahl(const char* taste) {
 }
 
 void Ziehen(const QWidget* auswahl, const Herkunft& herkunft, const QWidget* ziel) {
-    auto* thema = Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen"));
-    auto* unterthema = Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter"));
-    auto* frage = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
-    if (thema->currentText() != Text(herkunft.thema)) {
-        ListeWaehlen(thema, Text(herkunft.thema));
-    }
-    if (unterthema->currentText() != Text(herkunft.unterthema)) {
-        ListeWaehlen(unterthema, Text(herkunft.unterthema));
-    }
-    ListeWaehlen(frage, frage->itemText(herkunft.frage));
+    FrageWaehlen(auswahl, Text(herkunft.thema), Text(herkunft.unterthema), herkunft.frage);
     maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")), ziel);
 }
 

@@ -26,6 +26,18 @@ void ListeWaehlen(QComboBox* liste, const QString& text, Stelle aufrufer) {
     }
 }
 
+void FrageWaehlen(const QWidget* auswahl, const QString& thema, const QString& unterthema, int frage,
+                  Stelle aufrufer) {
+    for (const auto& [name, text] : {std::pair{"cmbThemen", thema}, std::pair{"cmbUnter", unterthema}}) {
+        auto* liste = Finden<QComboBox>(auswahl, QLatin1String(name), aufrufer);
+        if (liste->currentText() != text) {
+            ListeWaehlen(liste, text, aufrufer);
+        }
+    }
+    auto* fragen = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"), aufrufer);
+    ListeWaehlen(fragen, fragen->itemText(frage), aufrufer);
+}
+
 QWidget* AuswahlOeffnen(const Programm& programm, const QString& taste, Ecke ecke, bool gewaehlt,
                         Stelle aufrufer) {
     QTest::mouseClick(Finden(programm.haupt(), taste), Qt::LeftButton);
@@ -41,10 +53,7 @@ QWidget* AuswahlOeffnen(const Programm& programm, const QString& taste, Ecke eck
         VersagenUndEnde(QStringLiteral("The selection dialog never got to its place"), aufrufer);
     }
     if (gewaehlt) {
-        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbThemen")), QStringLiteral("Tiere"));
-        ListeWaehlen(Finden<QComboBox>(auswahl, QStringLiteral("cmbUnter")), QStringLiteral("Haustiere"));
-        auto* fragen = Finden<QComboBox>(auswahl, QStringLiteral("cmbFrage"));
-        ListeWaehlen(fragen, fragen->itemText(0));
+        FrageWaehlen(auswahl, QStringLiteral("Tiere"), QStringLiteral("Haustiere"), 0, aufrufer);
     }
     return auswahl;
 }
