@@ -4,6 +4,8 @@
 #include "tests/hilfe/auswahlhilfe.h"
 #include "tests/quizform/formhilfe.h"
 
+#include <QSignalSpy>
+
 namespace {
 
 const QString loeschTitel = QStringLiteral("Fragen löschen");
