@@ -68,16 +68,21 @@ public:
         }
     }
 
+    enum class Sperre : std::uint8_t { Noetig, Ohne };
     // 0, errno, or verschwunden where somebody took the file for a killed program's scrap just now.
-    [[nodiscard]] int Anlegen(std::string name, mode_t modus) {
+    [[nodiscard]] int Anlegen(std::string name, mode_t modus, Sperre sperre) {
         constexpr int schalter = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
         name_ = std::move(name);
         datei_ = Deskriptor(Wiederholt([&] { return ::openat(ordner_, name_.c_str(), schalter, modus); }));
-        if (datei_.offen() && Sperren()) {
+        const int fehler = datei_.offen() ? 0 : errno;
+        if (fehler == 0 && (sperre == Sperre::Ohne || Sperren())) {
             return 0;
         }
+        if (fehler == 0) {
+            ::unlinkat(ordner_, name_.c_str(), 0); // who locks it may have no mind to remove it
+        }
         name_.clear();
-        return datei_.offen() ? verschwunden : errno;
+        return fehler == 0 ? verschwunden : fehler;
     }
     [[nodiscard]] int nummer() const { return datei_.nummer(); }
     void Fuellen(std::string_view bytes) {
@@ -96,7 +101,8 @@ public:
 
 private:
     // Locks the file until this object goes: the second descriptor holds the lock when the first is closed.
-    // False when somebody has taken it away; a file system without locks removes nothing either.
+    // False when somebody else holds it or has taken the file away; a file system without locks removes
+    // nothing either.
     [[nodiscard]] bool Sperren() {
         sperre_ = Deskriptor(::fcntl(datei_.nummer(), F_DUPFD_CLOEXEC, 0));
         if (Wiederholt([&] { return ::flock(datei_.nummer(), LOCK_EX | LOCK_NB); }) != 0 &&
@@ -113,6 +119,18 @@ private:
     Deskriptor sperre_;
 };
 
+// Makes the new file under a name of its own; 0 or errno. Where every new file is locked by somebody at once,
+// it is written without a lock in the end: such a locker would keep others from removing it as well.
+[[nodiscard]] int Anlegen(NeueDatei& neu, mode_t modus) {
+    constexpr int versuche = 8;
+    int fehler = NeueDatei::verschwunden;
+    for (int versuch = 1; fehler == NeueDatei::verschwunden; ++versuch) {
+        const auto sperre = versuch < versuche ? NeueDatei::Sperre::Noetig : NeueDatei::Sperre::Ohne;
+        fehler = neu.Anlegen(Restname(Zufallsname()), modus, sperre);
+    }
+    return fehler;
+}
+
 // The folder takes no new file, or lets none be renamed over the target, which may yet be written itself: no
 // permission, a read-only folder, a sticky one, or a target that is a mount of its own.
 [[nodiscard]] bool Verschlossen(int fehlernummer) {
@@ -123,7 +141,8 @@ private:
 void KopieSchreiben(const std::string& ablage, const std::string& name, std::string_view bytes) {
     const Deskriptor ordner = OrdnerOeffnen(ablage);
     NeueDatei kopie(ordner.nummer());
-    if (const int fehler = kopie.Anlegen(name, 0600); fehler != 0) {
+    // No program removes such a copy, so it needs no lock.
+    if (const int fehler = kopie.Anlegen(name, 0600, NeueDatei::Sperre::Ohne); fehler != 0) {
         throw Schreibfehler(fehler);
     }
     kopie.Fuellen(bytes);
@@ -138,10 +157,7 @@ bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes) {
     [[maybe_unused]] static const auto einmal = std::signal(SIGXFSZ, SIG_IGN);
     const Zielort ort = ZielFinden(ziel);
     NeueDatei neu(ort.ordner.nummer());
-    int fehler = NeueDatei::verschwunden;
-    while (fehler == NeueDatei::verschwunden) {
-        fehler = neu.Anlegen(Restname(Zufallsname()), ort.vorhanden ? 0600 : 0666);
-    }
+    int fehler = Anlegen(neu, ort.vorhanden ? 0600 : 0666);
     if (fehler == 0) {
         if (ort.vorhanden) {
             EigenschaftenUebernehmen(ort, neu.nummer());
