@@ -27,10 +27,19 @@ namespace {
     }
 }
 
+// The old file, which can be written: where it can't be read, it is the save that is refused.
+[[nodiscard]] std::string AltesLesen(const QString& ziel) {
+    try {
+        return plattform::Lesen(ziel, groessteDatei);
+    } catch (const Laufzeitfehler& fehler) {
+        throw fehler.art() == Fehler::DateinameFalsch ? Laufzeitfehler(Fehler::ZugriffVerweigert) : fehler;
+    }
+}
+
 // The folder is closed, so the file itself is overwritten. Killed at any step, either the file or the copy is
 // whole; a copy whose file couldn't be put right again stays.
 void AnOrtSchreiben(const QString& ziel, std::string_view bytes) {
-    const std::string alt = plattform::Lesen(ziel, groessteDatei);
+    const std::string alt = AltesLesen(ziel);
     const QString kopie = plattform::KopieAblegen(ziel, alt);
     try {
         plattform::AnOrtUeberschreiben(ziel, bytes);
