@@ -119,9 +119,15 @@ bool DarfUeberschreiben(const std::string& pfad) {
     return false;
 }
 
+// The path of the editor's file. A slow disk is waited for here already.
+std::string EigenerPfad() {
+    const Wartezeiger warten;
+    return Editorpfad();
+}
+
 // A path for the text, or nothing, which the user knows.
 std::optional<std::string> Speicherpfad(Namensfrage wann) {
-    const std::string eigener = Editorpfad();
+    const std::string eigener = EigenerPfad();
     if (wann == Namensfrage::NurOhneDatei && !eigener.empty()) {
         return eigener;
     }

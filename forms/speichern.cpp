@@ -34,11 +34,12 @@ Formularfenster* FormularVorbereiten() {
     return form;
 }
 
-// Writes the whole form. The old file is whole until the new one is.
+// Writes the whole form, whose file this is from then on. The old file is whole until the new one is.
 void FormularSchreiben(Formularfenster& form, const std::string& pfad) {
     const Wartezeiger warten;
     form.KopfMerken();
     DateiSchreiben(pfad, form.art() == Formart::Quiz ? FormularBytes(FKForm, Spiel) : FormularBytes(HBForm));
+    FormularpfadMerken(form.art(), pfad);
 }
 
 // What the file won't give back whole.
@@ -48,6 +49,12 @@ void AnfuehrungenMelden(Formart art) {
     if (!hinweis.empty()) {
         HilfeText(hinweis);
     }
+}
+
+// The path that a save without a question goes to. A slow disk is waited for here already.
+std::string EigenerPfadVon(const Formularfenster& form) {
+    const Wartezeiger warten;
+    return Formularpfad(form.art());
 }
 
 // True when the form stands in its file; everything else was told.
@@ -64,7 +71,6 @@ bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
         FormStatusSetzen(true); // what the form shows may stand in no file by now
         return false;
     }
-    FormularpfadMerken(form->art(), pfad);
     Meldung(gespeichert, {NurDateiname(pfad)});
     FormStatusSetzen(false);
     AnfuehrungenMelden(form->art());
@@ -144,7 +150,7 @@ bool Speichern() {
     if (form == nullptr) {
         return FormularSpeichern(form, {}); // which says that there is nothing to save
     }
-    const std::string pfad = Formularpfad(form->art());
+    const std::string pfad = EigenerPfadVon(*form);
     return pfad.empty() ? SpeichernUnter(Speicherart::Formular) : FormularSpeichern(form, pfad);
 }
 

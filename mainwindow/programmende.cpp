@@ -2,6 +2,7 @@
 
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
+#include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
 #include "forms/formulare.h"
@@ -32,6 +33,7 @@ bool EinstellungenErledigt() {
     }
     if (antwort == Antwort::Ja) {
         try {
+            const Wartezeiger warten;
             EinstellungenSchreiben();
         } catch (const Laufzeitfehler& fehler) {
             Meldung(persistenztexte::iniFehler, {fehler.text()});

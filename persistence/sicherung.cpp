@@ -2,6 +2,7 @@
 
 #include "core/datei.h"
 #include "core/pfadname.h"
+#include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "persistence/texte.h"
 #include "rules/spielwerte.h"
@@ -18,6 +19,7 @@ std::string Sicherungspfad(const std::string& pfad) {
 }
 
 Sicherung Anlegen(const std::string& pfad) {
+    const Wartezeiger warten;
     if (!DateiDa(pfad)) {
         return Sicherung::NichtsDa;
     }

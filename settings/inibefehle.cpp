@@ -1,5 +1,6 @@
 // The commands of the settings dialog: presets, loading and saving them, applying and cancelling.
 #include "core/hauptfenster.h"
+#include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "persistence/einstellungenladen.h"
 #include "persistence/texte.h"
@@ -99,6 +100,7 @@ void frmIni::EinstellungenSpeichern() {
     }
     StandardUebernehmen(vorgaben_, Spiel);
     try {
+        const Wartezeiger warten;
         EinstellungenSchreiben();
     } catch (const Laufzeitfehler& fehler) {
         Meldung(persistenztexte::iniFehler, {fehler.text()});
