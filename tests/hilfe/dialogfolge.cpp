@@ -23,20 +23,6 @@ QString OhneZugriff(QString text) {
     return text.remove(u'&').trimmed();
 }
 
-// What the dialog says, whichever of the program's labels carries it.
-QString Dialogtext(const QDialog& dialog) {
-    if (const auto* kasten = qobject_cast<const QMessageBox*>(&dialog)) {
-        return kasten->text();
-    }
-    for (const QString& name :
-         {QStringLiteral("lblMeldung"), QStringLiteral("lblNachrichtentext"), QStringLiteral("lblInput")}) {
-        if (const auto* schrift = dialog.findChild<QLabel*>(name)) {
-            return schrift->text().replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-        }
-    }
-    return {};
-}
-
 bool NameStimmt(const QDialog& dialog, const QString& name) {
     return dialog.objectName() == name || QLatin1String(dialog.metaObject()->className()) == name;
 }
@@ -132,6 +118,19 @@ void FokusZurueck(const QPointer<QWidget>& fenster) {
 }
 
 } // namespace
+
+QString Dialogtext(const QDialog& dialog) {
+    if (const auto* kasten = qobject_cast<const QMessageBox*>(&dialog)) {
+        return kasten->text();
+    }
+    for (const QString& name :
+         {QStringLiteral("lblMeldung"), QStringLiteral("lblNachrichtentext"), QStringLiteral("lblInput")}) {
+        if (const auto* schrift = dialog.findChild<QLabel*>(name)) {
+            return schrift->text().replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        }
+    }
+    return {};
+}
 
 Dialogfolge::Dialogfolge(Stelle stelle) : stelle_(stelle) {
     ModalHandlerSetzen([this](QDialog& dialog) { return Beantworten(dialog); });

@@ -16,6 +16,9 @@
 // Stands among the buttons for closing the dialog by its frame.
 inline const QString durchRahmen = QStringLiteral("(frame)");
 
+// What a dialog says, whichever of the program's labels carries it, lines joined by \n.
+[[nodiscard]] QString Dialogtext(const QDialog& dialog);
+
 struct ErwarteterDialog {
     QString name;                 // objectName; for a stock message box its class name will do
     std::optional<QString> titel; // nothing: not compared

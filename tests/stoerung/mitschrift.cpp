@@ -1,0 +1,53 @@
+#include "tests/stoerung/mitschrift.h"
+
+#include "dialogs/modal.h"
+#include "tests/hilfe/dialogfolge.h"
+
+#include <QAbstractButton>
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+// A message that comes again and again would never end.
+constexpr int hoechstens = 8;
+
+} // namespace
+
+Mitschrift::Mitschrift() {
+    ModalHandlerSetzen([this](QDialog& dialog) {
+        QTimer::singleShot(0, &dialog, [this, &dialog] { Beantworten(dialog); });
+        dialog.exec();
+        return true;
+    });
+}
+
+Mitschrift::~Mitschrift() {
+    ModalHandlerSetzen({});
+}
+
+QStringList Mitschrift::Holen() {
+    return std::exchange(texte_, {});
+}
+
+void Mitschrift::Beantworten(QDialog& dialog) {
+    const QString name = dialog.objectName();
+    const bool meldung = name == QStringLiteral("frmMeldung");
+    if (name != QStringLiteral("frmNachricht")) {
+        texte_ << (meldung ? QString() : name + QStringLiteral(": ")) + Dialogtext(dialog);
+    }
+    if (texte_.size() > hoechstens) {
+        qFatal("The dialogs have no end, the last was %s", qPrintable(texte_.last()));
+    }
+    const QStringList tasten{QStringLiteral("cmdKenntnis"), QStringLiteral("cmdAntwort(4)"),
+                             QStringLiteral("cmdAntwort(0)")};
+    for (const QString& taste : tasten) {
+        auto* knopf = dialog.findChild<QAbstractButton*>(taste);
+        if (knopf != nullptr && knopf->isVisible()) {
+            knopf->click();
+            return;
+        }
+    }
+    dialog.reject();
+}
