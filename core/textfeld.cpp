@@ -6,6 +6,7 @@
 #include "core/textpruefung.h"
 
 #include <QFocusEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QTextDocument>
 
@@ -130,6 +131,14 @@ void Textfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
     // Who has drawn a selection of his own meanwhile keeps it.
     if (eintritt_.Losgelassen() && !textCursor().hasSelection()) {
         TextMarkieren(this);
+    }
+}
+
+// The toolkit looks at the first format without asking whether there is any, and another program may offer
+// none.
+void Textfeld::insertFromMimeData(const QMimeData* daten) {
+    if (daten != nullptr && !daten->formats().isEmpty()) {
+        QPlainTextEdit::insertFromMimeData(daten);
     }
 }
 

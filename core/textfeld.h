@@ -57,6 +57,7 @@ protected:
     void focusOutEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void insertFromMimeData(const QMimeData* daten) override;
 
     // Text that comes out of a file holds nothing that would have to stay outside: no look at it.
     void setUngeprueft(bool ungeprueft) { ungeprueft_ = ungeprueft; }

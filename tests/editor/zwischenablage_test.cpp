@@ -47,6 +47,7 @@ private Q_SLOTS:
     void aQuestionClosedByItsFrameDestroysNothingAndComesAgain();
     void realMouseAndKeysSelectCopyAndPaste();
     void protectedBlanksSurviveTheClipboard();
+    void pastingFromAClipboardThatOffersNothingChangesNothing();
 };
 
 // --- Clipboard ---
@@ -253,6 +254,16 @@ void EditorablageTest::protectedBlanksSurviveTheClipboard() {
     QTest::keyClick(editor->txtNotiz, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(Ablage(), text);
     QCOMPARE(editor->txtNotiz->text(), text.toStdString());
+}
+
+void EditorablageTest::pastingFromAClipboardThatOffersNothingChangesNothing() {
+    Tippen(editor, QStringLiteral("Eule"));
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    QTest::keyClick(editor->txtNotiz, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(editor->txtNotiz->text(), std::string("Eule"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("n"));
+    QTest::keyClick(editor->txtNotiz, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(editor->txtNotiz->text(), std::string("Eulen"));
 }
 
 QTEST_MAIN(EditorablageTest)
