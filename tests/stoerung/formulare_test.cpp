@@ -2,6 +2,7 @@
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
 #include "formlauf.h"
+#include "forms/oeffnen.h"
 #include "forms/speichern.h"
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
@@ -9,9 +10,11 @@
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "tests/hilfe/finden.h"
+#include "tests/hilfe/maus.h"
 #include "tests/stoerung/platte.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTest>
 
 #include <cerrno>
@@ -44,6 +47,10 @@ private Q_SLOTS:
     void aDiskLosesNothingAndIsToldAsItIs();
     void aSlowDiskIsWaitedForUnderTheHourglass_data() { Arten(); }
     void aSlowDiskIsWaitedForUnderTheHourglass();
+    void aKeyPressedDuringASlowSaveIsNotTakenForSaved_data() { Arten(); }
+    void aKeyPressedDuringASlowSaveIsNotTakenForSaved();
+    void aFormThatCanNotBeReadLeavesTheOpenOneAsItIs_data() { Arten(); }
+    void aFormThatCanNotBeReadLeavesTheOpenOneAsItIs();
     void aBackupThatFailsIsToldAndTheSaveGoesOn_data() { Arten(); }
     void aBackupThatFailsIsToldAndTheSaveGoesOn();
     void aFormThatCanNotBeSavedIsNeitherClosedNorReplacedNorLeft_data() { Arten(); }
@@ -67,7 +74,7 @@ void StoerungFormulareTest::init() {
     QFETCH(const bool, quiz);
     lauf.Vorbereiten();
     lauf.Schreiben(name, quiz ? Formlauf::Quiz("alt") : Formlauf::Test("alt"));
-    lauf.Oeffnen(name);
+    FormularLaden(lauf.Pfad(name.toStdString())); // the file dialog may stand in another folder by now
     Kasten()->setFocus();
     QTest::keyClicks(Kasten(), QStringLiteral("getippt"));
     QVERIFY(Stand.FormGeaendert);
@@ -139,6 +146,64 @@ void StoerungFormulareTest::aDiskLosesNothingAndIsToldAsItIs() {
 
 void StoerungFormulareTest::aSlowDiskIsWaitedForUnderTheHourglass() {
     LangsamErproben(Fall());
+}
+
+// A real key, while the program waits for the disk: it comes to the window when the message is up already.
+void StoerungFormulareTest::aKeyPressedDuringASlowSaveIsNotTakenForSaved() {
+    const Speicherfall fall = Fall();
+    Kasten()->setFocus();
+    QTRY_VERIFY(Kasten()->hasFocus());
+    const QString inhalt = fall.inhalt();
+    Dialogfolge dialoge;
+    dialoge.meldung(fall.gelungen.text, fall.gelungen.taste);
+    {
+        const Stoerung stoerung({fall.ordner.toStdString()}, [](const Aufruf& aufruf) {
+            if (aufruf.name == "write") {
+                QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("q")});
+            }
+            return 0;
+        });
+        QTest::keyClick(Kasten(), Qt::Key_S, Qt::ControlModifier);
+    }
+    QVERIFY(dialoge.fertig());
+    QCOMPARE(Lebensklage(), QString());
+    QCOMPARE(fall.ungesichert(), fall.inhalt() != inhalt);
+    maus::Tippen(QStringLiteral("w"));
+    QTRY_VERIFY(fall.inhalt() != inhalt && fall.ungesichert());
+}
+
+// Whichever call of the reading fails, or all of them: a few boxes, and an end.
+void StoerungFormulareTest::aFormThatCanNotBeReadLeavesTheOpenOneAsItIs() {
+    QFETCH(const bool, quiz);
+    const Speicherfall fall = Fall();
+    const QString inhalt = fall.inhalt();
+    lauf.Schreiben(QStringLiteral("Andere.FKR"), quiz ? Formlauf::Quiz("andere") : Formlauf::Test("andere"));
+    FormStatusSetzen(false);
+    Mitschrift mitschrift;
+    int gescheiterte = 0;
+    for (const int fehlernummer : {EIO, EACCES, ENODEV, EBUSY, ENOMEM}) {
+        int aufrufe = 1;
+        for (int nummer = 1; nummer <= aufrufe + 1; ++nummer) { // the last one: every call fails
+            {
+                const Stoerung stoerung({fall.ordner.toStdString()}, [&](const Aufruf& aufruf) {
+                    return aufruf.nummer == nummer || nummer > aufrufe ? fehlernummer : 0;
+                });
+                FormularLaden(lauf.Pfad("Andere.FKR"));
+                aufrufe = qMin(30, qMax(aufrufe, static_cast<int>(stoerung.aufrufe().size())));
+            }
+            const bool gelesen = mitschrift.Holen().isEmpty();
+            QCOMPARE(fall.inhalt(),
+                     gelesen ? quiz ? QStringLiteral("andere 1") : QStringLiteral("andere") : inhalt);
+            QCOMPARE(Lebensklage(), QString());
+            gescheiterte += gelesen ? 0 : 1;
+            if (gelesen) { // back to the form before
+                FormularLaden(lauf.Pfad(name.toStdString()));
+                Kasten()->setPlainText(inhalt);
+                FormStatusSetzen(false);
+            }
+        }
+    }
+    QVERIFY(gescheiterte > 10);
 }
 
 // The backup's copy goes into the same folder: whichever call of backup or save fails, both messages agree

@@ -44,10 +44,10 @@ void Mitschrift::Beantworten(QDialog& dialog) {
                              QStringLiteral("cmdAntwort(0)")};
     for (const QString& taste : tasten) {
         auto* knopf = dialog.findChild<QAbstractButton*>(taste);
-        if (knopf != nullptr && knopf->isVisible()) {
+        if (knopf != nullptr && knopf->isVisible() && knopf->isEnabled()) {
             knopf->click();
             return;
         }
     }
-    dialog.reject();
+    dialog.close(); // as by its frame: a stock box takes that for Abbrechen
 }

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 #include <array>
@@ -200,7 +201,8 @@ void PlatteErproben(const Speicherfall& fall, const Platte& platte) {
 
 QStringList OhneUhr(const Aufruf& aufruf) {
     const QCursor* zeiger = QGuiApplication::overrideCursor();
-    const bool liste = aufruf.name == "opendir" || aufruf.name == "readdir";
+    const bool liste = aufruf.name == "opendir" || aufruf.name == "readdir" ||
+                       (aufruf.name == "stat" && QFileInfo(QString::fromStdString(aufruf.pfad)).isDir());
     return liste || (zeiger != nullptr && zeiger->shape() == Qt::WaitCursor)
                ? QStringList()
                : QStringList(QString::fromLatin1(aufruf.name.data()));
