@@ -261,6 +261,9 @@ void EditorablageTest::pastingFromAClipboardThatOffersNothingChangesNothing() {
     QGuiApplication::clipboard()->setMimeData(new QMimeData);
     QTest::keyClick(editor->txtNotiz, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(editor->txtNotiz->text(), std::string("Eule"));
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(editor->txtNotiz, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(editor->txtNotiz->text(), std::string("Eule"));
     QGuiApplication::clipboard()->setText(QStringLiteral("n"));
     QTest::keyClick(editor->txtNotiz, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(editor->txtNotiz->text(), std::string("Eulen"));
