@@ -155,6 +155,9 @@ private:
         const bool angekommen = (QCursor::pos() - nach_).manhattanLength() <= 2;
         const bool gut = angekommen && seit_.elapsed() > 100 && (!ueberZiel_ || ueberZiel_());
         if (!gut && seit_.elapsed() < bedenkzeit) {
+            if (angekommen) {
+                Anstossen();
+            }
             return;
         }
         uhr_.stop();
@@ -166,7 +169,21 @@ private:
         Senden(befehle, aufrufer_, [this] { fertig_ = true; });
     }
 
+    // On a busy machine the last movement may have come before the drag was listening, and a pointer that
+    // stands still says nothing more: it steps one pixel aside now and then.
+    void Anstossen() {
+        if (anstoss_.isValid() && anstoss_.elapsed() < 1000) {
+            return;
+        }
+        anstoss_.start();
+        daneben_ = !daneben_;
+        Senden(QStringList{QStringLiteral("mousemove")} << Ort(nach_ + QPoint(daneben_ ? 1 : 0, 0)),
+               aufrufer_, [] {});
+    }
+
     QPoint von_, nach_;
+    QElapsedTimer anstoss_;
+    bool daneben_ = false;
     Qt::KeyboardModifiers tasten_;
     std::function<bool()> ueberZiel_;
     Stelle aufrufer_;
