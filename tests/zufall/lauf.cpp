@@ -7,12 +7,11 @@
 #include "tests/zufall/ziele.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QWindow>
 
-#include <chrono>
 #include <cstdio>
 #include <ctime>
-#include <thread>
 #include <utility>
 
 #include <unistd.h>
@@ -22,7 +21,6 @@ namespace {
 constexpr double hoechstdauer = 3;        // seconds of work for one stroke
 constexpr int wartegrenze = 250;          // milliseconds until the windows must have come to rest
 constexpr int dialoggrenze = 400;         // steps after which a dialog should have been left
-constexpr int stillstand = 90;            // seconds without any turn of the event loop
 constexpr long speicherzuwachs = 200'000; // kilobytes
 
 // The work of this thread, so that a machine with other work beside it changes nothing.
@@ -38,6 +36,17 @@ long SpeicherKilobyte() {
         return 0;
     }
     return statm.readAll().split(' ').value(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+// What a dialog says, in one line.
+QString Inschrift(const QWidget& dialog) {
+    QStringList texte{dialog.windowTitle()};
+    for (const QLabel* schrift : dialog.findChildren<QLabel*>()) {
+        if (schrift->isVisible() && !schrift->text().isEmpty()) {
+            texte.append(schrift->text().simplified().left(120));
+        }
+    }
+    return texte.join(QStringLiteral(" | "));
 }
 
 // All windows are painted, and a key would meet one of them.
@@ -76,18 +85,17 @@ void Lauf::Mangel(const QString& satz) {
 }
 
 void Lauf::ausfuehren() {
-    const std::jthread wache([this](const std::stop_token& ende) { Wachen(ende); });
     while (!ende_) {
         const Programm programm;
         uhr_.start(0);
         QCoreApplication::exec();
         uhr_.stop();
-        ++takte_;
+        wache_.Takt();
     }
 }
 
 void Lauf::Takt() {
-    ++takte_;
+    wache_.Takt();
     if (const double dauer = Rechenzeit() - cpu_; cpu_ > 0 && dauer > hoechstdauer) {
         Mangel(QStringLiteral("the step took %1 s").arg(dauer));
     }
@@ -129,6 +137,9 @@ void Lauf::Pruefen() {
 
 void Lauf::DialogZaehlen() {
     QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr && (dialog != dialog_ || dialogschritte_ == 0)) {
+        Notiz(QStringLiteral("# %1: %2").arg(Fenstername(*dialog), Inschrift(*dialog)));
+    }
     dialogschritte_ = dialog != nullptr && dialog == dialog_ ? dialogschritte_ + 1 : 0;
     dialog_ = dialog;
     if (dialogschritte_ > dialoggrenze) {
@@ -180,21 +191,4 @@ void Lauf::Naechster() {
 void Lauf::Tun(const Schritt& schritt) {
     Notiz(Worte(schritt));
     haende_.beginnen(schritt);
-}
-
-// Beside the program: one that hangs can't tell of it.
-void Lauf::Wachen(const std::stop_token& ende) {
-    int gesehen = -1;
-    int still = 0;
-    while (!ende.stop_requested()) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(500));
-        const int jetzt = takte_;
-        still = jetzt == gesehen ? still + 1 : 0;
-        gesehen = jetzt;
-        if (still > 2 * stillstand) {
-            std::fprintf(stderr, "# MANGEL: the program hangs in step %d of seed %u\n", schritt_,
-                         auftrag_.saat);
-            std::abort();
-        }
-    }
 }

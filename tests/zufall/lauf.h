@@ -4,6 +4,7 @@
 
 #include "tests/zufall/haende.h"
 #include "tests/zufall/schritt.h"
+#include "tests/zufall/wache.h"
 #include "tests/zufall/wuerfel.h"
 
 #include <QElapsedTimer>
@@ -12,7 +13,6 @@
 #include <QPointer>
 #include <QTimer>
 
-#include <atomic>
 #include <vector>
 
 struct Auftrag {
@@ -39,7 +39,6 @@ private:
     [[nodiscard]] bool Aufbruch() const;
     void DialogZaehlen();
     void SpeicherMessen();
-    void Wachen(const std::stop_token& ende);
 
     Auftrag auftrag_;
     Wuerfel wuerfel_;
@@ -53,5 +52,5 @@ private:
     QPointer<QWidget> dialog_; // open since so many steps
     int dialogschritte_ = 0;
     long speicherAnfang_ = 0; // kilobytes after the first tenth
-    std::atomic<int> takte_ = 0;
+    Wache wache_;
 };

@@ -23,7 +23,7 @@ class QWidget;
 
 // A window and a point in it.
 struct Treffer {
-    QWidget* fenster;
+    QWidget* fenster = nullptr;
     QPoint stelle;
 };
 // No value where there is nothing of these names, or it lies out of reach.
