@@ -84,8 +84,8 @@ pid_t sperrer = -1;
         datei >= 0 && ::flock(datei, LOCK_EX) == 0 && ::fcntl(datei, F_SETLK, &bereich) == 0;
     const char zeichen = gesperrt ? 'j' : 'n';
     (void)!::write(bereit, &zeichen, 1);
-    while (gesperrt) {
-        ::pause();
+    while (gesperrt && ::pause() != 0) {
+        // until it is killed
     }
     ::_exit(1);
 }
