@@ -2,11 +2,11 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -225,13 +225,13 @@ void LangsamErproben(const Speicherfall& fall) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1000 / aufrufe));
         return 0;
     };
-    QElapsedTimer uhr;
-    uhr.start();
     {
         const Stoerung stoerung({fall.ordner.toStdString()}, langsam);
         QCOMPARE(Gesichert(fall), neu);
+        for (const std::string_view ruf : {"write", "fsync"}) {
+            QVERIFY(std::ranges::find(stoerung.aufrufe(), ruf, &Aufruf::name) != stoerung.aufrufe().end());
+        }
     }
-    QVERIFY(uhr.elapsed() > 800);
     QVERIFY2(ohneUhr.isEmpty(), qPrintable(ohneUhr.join(QLatin1Char(' '))));
     QVERIFY(!fall.ungesichert || !fall.ungesichert());
     QCOMPARE(Lebensklage(), QString());

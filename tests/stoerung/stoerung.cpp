@@ -1,26 +1,37 @@
 #include "tests/stoerung/stoerung.h"
 
 #include <algorithm>
-#include <atomic>
 #include <utility>
 
 namespace {
 
-std::atomic<Stoerung*> laufende{nullptr};
+struct Laufende {
+    std::shared_mutex schloss;
+    Stoerung* stoerung = nullptr;
+};
+
+// Never destroyed: the process makes calls to its very end.
+Laufende& laufende() {
+    static auto* const eine = new Laufende; // NOLINT(cppcoreguidelines-owning-memory)
+    return *eine;
+}
+
+void Setzen(Stoerung* stoerung) {
+    const std::unique_lock riegel(laufende().schloss);
+    laufende().stoerung = stoerung;
+}
 
 } // namespace
 
-Stoerung* LaufendeStoerung() {
-    return laufende;
-}
+LaufendeStoerung::LaufendeStoerung() : riegel_(laufende().schloss), stoerung_(laufende().stoerung) {}
 
 Stoerung::Stoerung(std::vector<std::string> orte, Regel regel)
     : orte_(std::move(orte)), regel_(std::move(regel)) {
-    laufende = this;
+    Setzen(this);
 }
 
 Stoerung::~Stoerung() {
-    laufende = nullptr;
+    Setzen(nullptr);
 }
 
 bool Stoerung::Betroffen(std::string_view pfad) const {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <shared_mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,5 +53,14 @@ private:
     std::mutex schloss_; // the journal and the toolkit have threads of their own
 };
 
-// The one that lives, or nullptr.
-[[nodiscard]] Stoerung* LaufendeStoerung();
+// The one that lives, or nullptr: held for the calling thread as long as this object, so that no other thread
+// ends it meanwhile. The toolkit's threads make calls at all times.
+class LaufendeStoerung {
+public:
+    LaufendeStoerung();
+    [[nodiscard]] Stoerung* get() const { return stoerung_; }
+
+private:
+    std::shared_lock<std::shared_mutex> riegel_;
+    Stoerung* stoerung_ = nullptr;
+};

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <utility>
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -14,8 +15,19 @@
 
 namespace {
 
-// What a rule does itself is let through.
+// What a rule does itself is let through and not asked about: the lock behind LaufendeStoerung is held already.
 thread_local bool inDerRegel = false;
+
+// Does the work with the Stoerung that lives; what there is without one is the result's default.
+template <typename Arbeit>
+auto MitStoerung(const Arbeit& arbeit) {
+    using Ergebnis = decltype(arbeit(std::declval<Stoerung&>()));
+    if (inDerRegel) {
+        return Ergebnis();
+    }
+    const LaufendeStoerung laufende;
+    return laufende.get() == nullptr ? Ergebnis() : arbeit(*laufende.get());
+}
 
 // The library's own call of that name.
 template <typename Funktion>
@@ -25,13 +37,12 @@ Funktion* Echt(const char* name) {
 
 // True, with errno set, when the call is to fail.
 bool Versagt(Aufruf aufruf) {
-    Stoerung* stoerung = inDerRegel ? nullptr : LaufendeStoerung();
-    if (stoerung == nullptr) {
-        return false;
-    }
-    inDerRegel = true;
-    const int fehlernummer = stoerung->Entscheiden(std::move(aufruf));
-    inDerRegel = false;
+    const int fehlernummer = MitStoerung([&](Stoerung& stoerung) {
+        inDerRegel = true;
+        const int nummer = stoerung.Entscheiden(std::move(aufruf));
+        inDerRegel = false;
+        return nummer;
+    });
     if (fehlernummer != 0) {
         errno = fehlernummer;
     }
@@ -39,13 +50,12 @@ bool Versagt(Aufruf aufruf) {
 }
 
 std::string Pfad(int deskriptor) {
-    Stoerung* stoerung = LaufendeStoerung();
-    return stoerung == nullptr ? std::string() : stoerung->Pfad(deskriptor);
+    return MitStoerung([=](Stoerung& stoerung) { return stoerung.Pfad(deskriptor); });
 }
 
 // The path of a name in an open folder.
 std::string Pfad(int ordner, const char* name) {
-    if (LaufendeStoerung() == nullptr || *name == '/') {
+    if (*name == '/') {
         return name;
     }
     const std::string unter = Pfad(ordner);
@@ -63,16 +73,14 @@ bool OeffnenVersagt(const char* name, std::string pfad, int schalter) {
 }
 
 int Gemerkt(int deskriptor, const std::string& pfad) {
-    if (Stoerung* stoerung = LaufendeStoerung(); stoerung != nullptr && deskriptor >= 0 && !pfad.empty()) {
-        stoerung->Merken(deskriptor, pfad);
+    if (deskriptor >= 0 && !pfad.empty()) {
+        MitStoerung([&](Stoerung& stoerung) { stoerung.Merken(deskriptor, pfad); });
     }
     return deskriptor;
 }
 
 void Vergessen(int deskriptor) {
-    if (Stoerung* stoerung = LaufendeStoerung(); stoerung != nullptr) {
-        stoerung->Vergessen(deskriptor);
-    }
+    MitStoerung([=](Stoerung& stoerung) { stoerung.Vergessen(deskriptor); });
 }
 
 mode_t Rechte(int schalter, va_list rest) {
