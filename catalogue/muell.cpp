@@ -5,6 +5,7 @@
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 
 #include <QPointer>
@@ -14,6 +15,7 @@ void MuellAblegen(frmAuswahl& fenster, const Ziehwert& wert) {
         Meldung(auswahltexte::muellAuswahl);
         return;
     }
+    const Schritt schritt("Frage wegwerfen");
     const QPointer<frmAuswahl> offen(&fenster);
     // The frame's close box must not throw anything away.
     if (!Bestaetigt(auswahltexte::muellFrage)) {

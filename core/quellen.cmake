@@ -6,6 +6,7 @@ feldkranz_quellen(modell
   core/laufzeitfehler.cpp
   core/meldungstext.cpp
   core/pfadname.cpp
+  core/schritt.cpp
   core/wertlesen.cpp core/wertschreiben.cpp
   core/zeichenbefund.cpp)
 feldkranz_quellen(rand core/datei.cpp core/ordner.cpp core/pfad.cpp)
@@ -25,5 +26,5 @@ feldkranz_quellen(fenster
   core/palettenstil.cpp core/palettenstil.h
   core/panel.cpp core/panel.h
   core/textfeld.cpp core/textfeld.h
-  core/textpruefung.cpp core/textzeile.cpp
+  core/eigenverlauf.cpp core/textpruefung.cpp core/textzeile.cpp
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp)

@@ -23,8 +23,26 @@ private:
     bool wiederWaehlen_ = false;
 };
 
+// What a box can take back and do again by itself. Where it can't, its keys for that go on to whoever keeps
+// the history of more than one box.
+class Eigenverlauf {
+public:
+    Eigenverlauf() = default;
+    Eigenverlauf(const Eigenverlauf&) = delete;
+    Eigenverlauf& operator=(const Eigenverlauf&) = delete;
+    virtual ~Eigenverlauf() = default;
+
+    // True when there was something to go back, or forward, to.
+    virtual bool EigenesZurueck() = 0;
+    virtual bool EigenesVor() = 0;
+    // True when there is something that could be done again.
+    [[nodiscard]] virtual bool EigenesKommt() const = 0;
+    // The text stays; nothing of it can be taken back here any more.
+    virtual void EigenesVergessen() = 0;
+};
+
 // Several lines; Tab moves on to the next control.
-class Textfeld : public QPlainTextEdit {
+class Textfeld : public QPlainTextEdit, public Eigenverlauf {
     Q_OBJECT
 
 public:
@@ -36,6 +54,11 @@ public:
     // The back colour; an invalid one is system face.
     void setGrund(const QColor& farbe);
     void setZentriert(bool zentriert);
+
+    bool EigenesZurueck() override;
+    bool EigenesVor() override;
+    [[nodiscard]] bool EigenesKommt() const override;
+    void EigenesVergessen() override;
 
     // From now on the text is that of a whole text file: each line may be as long as a form file's reader
     // takes a text, and the text has no limit; a zero byte, with which it wouldn't be opened again, stays
@@ -53,6 +76,7 @@ Q_SIGNALS:
     void textAnders();
 
 protected:
+    bool event(QEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
     void focusOutEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
@@ -78,7 +102,7 @@ private:
 };
 
 // One line.
-class Textzeile : public QLineEdit {
+class Textzeile : public QLineEdit, public Eigenverlauf {
     Q_OBJECT
 
 public:
@@ -87,7 +111,13 @@ public:
     [[nodiscard]] std::string wert() const;
     void setWert(std::string_view text);
 
+    bool EigenesZurueck() override;
+    bool EigenesVor() override;
+    [[nodiscard]] bool EigenesKommt() const override;
+    void EigenesVergessen() override;
+
 protected:
+    bool event(QEvent* ereignis) override;
     // Entering the line selects its whole text.
     void focusInEvent(QFocusEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;

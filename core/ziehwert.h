@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 enum class Zugart : std::uint8_t {
     Auswahl,     // out of the selection dialog
@@ -25,6 +26,14 @@ struct Ziehwert {
 
     friend bool operator==(const Ziehwert&, const Ziehwert&) = default;
 };
+
+// What the drop is called as a step of work on a form.
+[[nodiscard]] constexpr std::string_view Schrittname(const Ziehwert& wert) {
+    if (wert.art == Zugart::Auswahl) {
+        return "Frage einsetzen";
+    }
+    return wert.art == Zugart::Verschieben ? "Frage verschieben" : "Frage kopieren";
+}
 
 // Shift alone moves, Ctrl alone copies; both together, Alt or none start nothing. The mouse button doesn't
 // count, and that is meant.

@@ -5,12 +5,14 @@
 #include "dialogs/meldung.h"
 #include "editor/editordateien.h"
 #include "editor/editordaten.h"
+#include "editor/editorjournal.h"
 #include "editor/editorpfad.h"
 #include "editor/frmEditor.h"
 #include "editor/texte.h"
 
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <new>
@@ -36,11 +38,13 @@ void Oeffnen() {
     QObject::connect(fenster, &frmEditor::geschlossen, fenster, [] {
         fenster = nullptr;
         EditorpfadVergessen();
+        EditorjournalBeenden();
     });
     QMdiSubWindow* rahmen = KindfensterAufnehmen(fenster);
     if (rahmen != nullptr) {
         Platzieren(*rahmen);
     }
+    fenster->txtNotiz->document()->clearUndoRedoStacks(); // what gave the field its looks counts as an edit
     EditorStatusSetzen(false);
 }
 
@@ -78,6 +82,7 @@ void EditorEntladen() {
     QWidget* alt = qobject_cast<QMdiSubWindow*>(rahmen) != nullptr ? rahmen : fenster.data();
     fenster->disconnect();
     EditorpfadVergessen();
+    EditorjournalBeenden();
     Stand.EditorGeaendert = false;
     delete alt;
 }

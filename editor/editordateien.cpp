@@ -2,17 +2,22 @@
 
 #include "core/datei.h"
 #include "core/hauptfenster.h"
+#include "core/pfad.h"
 #include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "editor/editordaten.h"
+#include "editor/editorjournal.h"
 #include "editor/editorpfad.h"
 #include "editor/frmEditor.h"
 #include "editor/katalogtext.h"
 #include "editor/texte.h"
 #include "filetools/dateidialog.h"
+#include "persistence/journal.h"
+#include "persistence/journalname.h"
 #include "persistence/sicherung.h"
+#include "persistence/texte.h"
 
 #include <functional>
 #include <new>
@@ -88,6 +93,31 @@ void Zeigen(frmEditor& editor, const std::string& pfad, Katalogtext gelesen) {
     editor.TextZeigen(Editor.Bemerkung, pfad);
     EditorpfadMerken(pfad);
     EditorStatusSetzen(false);
+}
+
+// The text that was never saved, in place of the one just read: of this file, or the file is itself a journal
+// and then belongs to none. One that can't be read stays where it is.
+void UngesichertesHolen(frmEditor& editor, const std::string& pfad) {
+    const bool selbst = IstJournalname(NurDateiname(pfad));
+    const std::optional<QString> journal =
+        selbst && JournalVerwaist(NativerPfad(pfad)) ? std::optional(NativerPfad(pfad)) : Editorjournal(pfad);
+    if (selbst) {
+        EditorpfadVergessen();
+        editor.NamenZeigen("");
+        EditorStatusSetzen(true);
+    }
+    if (!journal) {
+        return;
+    }
+    if (!selbst) {
+        std::optional<Katalogtext> text = Gelesen(EigenerPfad(*journal));
+        if (!text || !Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*text)); })) {
+            return;
+        }
+    }
+    EditorStatusSetzen(true);
+    EditorjournalUebernehmen(*journal);
+    HilfeText(Einsetzen(persistenztexte::journalText, {NurDateiname(pfad)}));
 }
 
 // A part of a text under the name of its file would be taken for the whole.
@@ -172,6 +202,8 @@ void KatalogLaden(frmEditor& editor) {
     std::optional<Katalogtext> gelesen = Gelesen(pfad);
     if (gelesen && !Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*gelesen)); })) {
         Leeren(editor);
+    } else if (gelesen) {
+        UngesichertesHolen(editor, pfad);
     }
 }
 

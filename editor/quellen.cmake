@@ -5,5 +5,6 @@ feldkranz_quellen(fenster
   editor/zwischenablage.cpp
   editor/editoraufbau.cpp
   editor/editordateien.cpp
+  editor/editorjournal.cpp
   editor/frmEditor.cpp editor/frmEditor.h
   editor/notizfeld.cpp editor/notizfeld.h)

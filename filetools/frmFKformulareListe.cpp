@@ -9,6 +9,8 @@
 #include "filetools/formularlistetexte.h"
 #include "filetools/frmFKformulare.h"
 #include "filetools/ordnerwaechter.h"
+#include "persistence/journal.h"
+#include "persistence/journalname.h"
 #include "persistence/rettungsname.h"
 #include "persistence/texte.h"
 #include "rules/spielwerte.h"
@@ -42,6 +44,10 @@ std::string Schluss(const std::string& text, int zeichen) {
 // The names of the folder, the forms that were rescued ahead.
 std::vector<std::string> NamenLesen(const std::string& ordner, const std::string& muster) {
     std::vector<std::string> namen = DateienIn(ordner, muster);
+    // What a running program still writes is nobody's to open.
+    std::erase_if(namen, [&ordner](const std::string& name) {
+        return IstJournalname(name) && JournalInArbeit(NativerPfad(PfadVerbinden(ordner, name)));
+    });
     RettungenVoranstellen(namen, [&ordner](const std::string& name) -> std::int64_t {
         try {
             return DateiZeit(PfadVerbinden(ordner, name));

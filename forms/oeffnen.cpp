@@ -2,16 +2,21 @@
 
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "core/pfad.h"
 #include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "dialogs/meldung.h"
 #include "filetools/dateidialog.h"
 #include "forms/formulare.h"
+#include "forms/formularjournal.h"
 #include "forms/formularlesen.h"
 #include "forms/formularpfad.h"
 #include "forms/rettung.h"
 #include "forms/speichern.h"
+#include "forms/verlauf.h"
 #include "persistence/dateiliste.h"
+#include "persistence/journal.h"
+#include "persistence/journalname.h"
 #include "persistence/rettungsname.h"
 #include "persistence/texte.h"
 
@@ -24,7 +29,7 @@ using namespace persistenztexte;
 // What was rescued comes back as a form without a file: a save must not go over the rescued one. Neither must
 // it go unasked over a file that wasn't read to its end: what couldn't be read is still in there.
 void PfadUebernehmen(Formart art, const std::string& pfad, bool ganz) {
-    if (IstRettungsname(NurDateiname(pfad))) {
+    if (IstRettungsname(NurDateiname(pfad)) || IstJournalname(NurDateiname(pfad))) {
         FormularpfadVergessen(art);
     } else if (!ganz) {
         FormularpfadVergessen(art);
@@ -34,17 +39,33 @@ void PfadUebernehmen(Formart art, const std::string& pfad, bool ganz) {
     }
 }
 
+// The form of a journal stands in no file yet.
+void Begonnen(const std::string& pfad) {
+    FormStatusSetzen(false);
+    if (!IstJournalname(NurDateiname(pfad))) {
+        JournalMelden(pfad);
+        return;
+    }
+    GespeichertVergessen();
+    FormStatusSetzen(true);
+    if (JournalVerwaist(NativerPfad(pfad))) {
+        FormularjournalUebernehmen(pfad);
+    }
+}
+
 // ganz: the file was read to its end.
 void Zeigen(Formart art, const std::string& pfad, bool ganz) {
     if (art == Formart::Quiz) {
-        DateilisteErgaenzen(Spiel.Datei, pfad);
-        DateilisteAnzeigen();
+        if (!IstJournalname(NurDateiname(pfad))) { // that one goes
+            DateilisteErgaenzen(Spiel.Datei, pfad);
+            DateilisteAnzeigen();
+        }
         GelesenesZeigen(art, NurDateiname(pfad) + " ");
     } else {
         GelesenesZeigen(art, " Test : " + NurDateiname(pfad));
     }
     PfadUebernehmen(art, pfad, ganz);
-    FormStatusSetzen(false);
+    Begonnen(pfad);
 }
 
 // A tag of no kind opens no form, and a form that is open stays as it is.

@@ -5,6 +5,7 @@
 #include "dialogs/meldung.h"
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
+#include "forms/formularjournal.h"
 #include "forms/formularpfad.h"
 #include "forms/speichern.h"
 #include "printing/drucken.h"
@@ -19,6 +20,7 @@ void Fenster() {
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
                                      FormularpfadVergessen(Formart::Quiz);
+                                     FormularjournalBeenden();
                                  }};
     FK_Fenster(anlass);
 }

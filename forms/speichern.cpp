@@ -11,6 +11,7 @@
 #include "filetools/dateidialog.h"
 #include "forms/formulare.h"
 #include "forms/formularpfad.h"
+#include "forms/verlauf.h"
 #include "persistence/anfuehrungsorte.h"
 #include "persistence/formulardatei.h"
 #include "persistence/sicherung.h"
@@ -64,11 +65,15 @@ bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
         return false;
     }
     SicherungAnlegenForm(pfad);
+    if (IstGeleert() && pfad == Formulardatei(form->art())) {
+        SicherungVorLeerung(pfad);
+    }
     try {
         FormularSchreiben(*form, pfad);
     } catch (const Laufzeitfehler& fehler) {
         FehlerMelden(ortSpeichern, fehler);
-        FormStatusSetzen(true); // what the form shows may stand in no file by now
+        GespeichertVergessen(); // what the form shows may stand in no file by now
+        FormStatusSetzen(true);
         return false;
     }
     Meldung(gespeichert, {NurDateiname(pfad)});

@@ -4,6 +4,7 @@
 #include "core/programmstand.h"
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
+#include "forms/formularjournal.h"
 #include "forms/formularpfad.h"
 #include "forms/speichern.h"
 #include "printing/testdrucken.h"
@@ -17,6 +18,7 @@ void Fenster() {
                                  [] {
                                      Stand.FormTyp = Formart::Keine;
                                      FormularpfadVergessen(Formart::Test);
+                                     FormularjournalBeenden();
                                  }};
     HB_Fenster(anlass);
 }

@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "core/programmstand.h"
+#include "core/schritt.h"
 #include "core/ziehen.h"
 #include "dialogs/meldung.h"
 #include "quizform/texte.h"
@@ -103,6 +104,7 @@ void AblageAnordnen() {
 }
 
 void AblageAblegen(const Ziehwert& wert, bool vomHilfepanel) {
+    const Schritt schritt("Frage ablegen");
     if (pnlCopyF.isNull() || (!AblageFrage().empty() && !ErsetzenErlaubt(fktexte::ablageBesetzt))) {
         return;
     }

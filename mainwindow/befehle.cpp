@@ -8,6 +8,7 @@
 #include "forms/formulare.h"
 #include "forms/oeffnen.h"
 #include "forms/quizformulare.h"
+#include "mainwindow/extras.h"
 #include "mainwindow/formularbefehle.h"
 #include "mainwindow/testbefehle.h"
 #include "mainwindow/texte.h"
@@ -118,6 +119,8 @@ constexpr std::array zuordnungen{
     Zuordnung{"cmdHBSchliessen", befehle::HBSchliessen},
     Zuordnung{"cmdHBZurueck", befehle::HBZurueck},
     Zuordnung{"mHBFormular", befehle::HBZurueck},
+    Zuordnung{"mExtra(1)", befehle::Rueckgaengig},
+    Zuordnung{"mExtra(2)", befehle::Wiederherstellen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},

@@ -5,6 +5,8 @@
 #include "core/oberflaeche.h"
 #include "core/programmstand.h"
 #include "editor/editor.h"
+#include "editor/editorjournal.h"
+#include "forms/verlauf.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -54,9 +56,11 @@ void FlaggeZeigen(bool rot) {
 void FormStatusSetzen(bool geaendert) {
     Stand.FormGeaendert = geaendert;
     FlaggeZeigen(geaendert);
+    FormularstatusGesetzt(geaendert);
 }
 
 void EditorStatusSetzen(bool geaendert) {
     Stand.EditorGeaendert = geaendert;
     EditorLampenZeigen(geaendert);
+    EditorjournalFuehren(geaendert);
 }

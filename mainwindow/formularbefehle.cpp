@@ -4,6 +4,7 @@
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 #include "forms/formulare.h"
 #include "mainwindow/texte.h"
@@ -98,21 +99,25 @@ void HBDrucken() {
 
 void FKFragenLoeschen() {
     if (Bestaetigt(kerntexte::fkFragenLoeschen)) {
+        const Schritt schritt("Fragen löschen");
         FK_FragenLoeschen();
     }
 }
 
 void FKFragenEinfuegen() {
+    const Schritt schritt("Fragen einfügen");
     FK_FragenEinfuegen();
 }
 
 void FKSpezialLoeschen() {
     if (Bestaetigt(kerntexte::fkSpezialLoeschen)) {
+        const Schritt schritt("Spezialfelder löschen");
         FK_SpezialLoeschen();
     }
 }
 
 void FKSpezialEinfuegen() {
+    const Schritt schritt("Spezialfelder einfügen");
     FK_SpezialEinfuegen();
 }
 

@@ -10,8 +10,10 @@
 #include "editor/editor.h"
 #include "editor/frmEditor.h"
 #include "filetools/formularliste.h"
+#include "forms/formularjournal.h"
 #include "forms/oeffnen.h"
 #include "mainwindow/ablage.h"
+#include "mainwindow/extras.h"
 #include "mainwindow/fortschrittsbalken.h"
 #include "mainwindow/hilfepanel.h"
 #include "mainwindow/hinweistexte.h"
@@ -31,6 +33,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -76,6 +79,7 @@ frmMDI::frmMDI() {
 }
 
 frmMDI::~frmMDI() {
+    ExtrasAbbauen(*this);
     kindflaeche_->disconnect(this); // child windows that go with it have nobody to tell any more
 }
 
@@ -175,4 +179,5 @@ void HauptfensterZeigen() {
     FormularlisteOeffnetMit(FormularErsetzen);
     FormularlisteMitStartZeigen();
     NormalerZeiger();
+    QTimer::singleShot(0, fenster, JournaleMelden); // behind what the list says as it comes up
 }

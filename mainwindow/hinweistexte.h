@@ -106,6 +106,8 @@ inline constexpr std::array menuestatus{std::to_array<Menuestatus>({
     {"mInfos(1)", " Initiator"},
     {"mInfos(2)", " Programmierer"},
     {"mEditorKranz", " Editor für Fragensammlung"},
+    {"mExtra(1)", " Letzten Schritt zurücknehmen"},
+    {"mExtra(2)", " Zurückgenommenen Schritt wiederholen"},
     {"mHilfen(1)", hilfe},
     {"mHilfeFK", hilfe},
     {"mHilfeHB", hilfe},

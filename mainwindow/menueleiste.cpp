@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "forms/oeffnen.h"
 #include "mainwindow/befehle.h"
+#include "mainwindow/extras.h"
 #include "mainwindow/hinweistexte.h"
 #include "rules/spielwerte.h"
 
@@ -31,7 +32,8 @@ constexpr std::array menues{
     Menue{Fuer::FK, "mFormularFK", "&Formular"}, Menue{Fuer::HB, "mDateienHB", "&Datei"},
     Menue{Fuer::HB, "mFormularHB", "&Formular"}, Menue{Fuer::Alle, "mFragen", "&Ansicht"},
     Menue{Fuer::Alle, "mOptionen", "&Optionen"}, Menue{Fuer::Alle, "mInfo", "&Info"},
-    Menue{Fuer::Alle, "mEditor", "&Editor"},     Menue{Fuer::Alle, "mHilfe", "&Hilfe"},
+    Menue{Fuer::Alle, "mEditor", "&Editor"},     Menue{Fuer::Alle, "mExtras", "E&xtras"},
+    Menue{Fuer::Alle, "mHilfe", "&Hilfe"},
 };
 
 // The menus of one kind stand ahead of it.
@@ -112,6 +114,8 @@ constexpr std::array eintraege{
     Eintrag{"mInfo", "mInfos(1)", "&Tarvo"},
     Eintrag{"mInfo", "mInfos(2)", "&Brennek"},
     Eintrag{"mEditor", "mEditorKranz", "&Editor aufrufen"},
+    Eintrag{"mExtras", "mExtra(1)", "&Rückgängig", "Ctrl+Z"},
+    Eintrag{"mExtras", "mExtra(2)", "&Wiederholen", "Ctrl+Y; Ctrl+Shift+Z"},
     Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeHB", "&Hilfe"},
@@ -163,7 +167,7 @@ void EintragBauen(QMenu& menue, const Eintrag& zeile) {
     }
     eintrag->setCheckable(zeile.haken);
     eintrag->setStatusTip(Anzeige(Status(zeile.name)));
-    eintrag->setShortcut(QKeySequence(QLatin1String(zeile.tasten)));
+    eintrag->setShortcuts(QKeySequence::listFromString(QLatin1String(zeile.tasten)));
     BefehlVerbinden(eintrag);
 }
 
@@ -199,6 +203,7 @@ void MenueleisteBauen(QMainWindow& fenster) {
     auto* sicherung = fenster.findChild<QAction*>(QStringLiteral("mBackUpHB"));
     QObject::connect(fenster.findChild<QMenu*>(QStringLiteral("mOptionen")), &QMenu::aboutToShow, sicherung,
                      [sicherung] { sicherung->setChecked(Spiel.OptionDatei); });
+    ExtrasEinrichten(fenster);
     FormularmenueZeigen(fenster, Formart::Keine);
 }
 

@@ -2,6 +2,7 @@ feldkranz_quellen(modell mainwindow/dateihinweis.cpp mainwindow/schaltflaechen.c
 feldkranz_quellen(fenster
   mainwindow/ablage.cpp
   mainwindow/befehle.cpp
+  mainwindow/extras.cpp
   mainwindow/flaggen.cpp
   mainwindow/formularbefehle.cpp
   mainwindow/fortschrittsbalken.cpp

@@ -2,6 +2,7 @@
 
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 #include "forms/testformulare.h"
 #include "mainwindow/texte.h"
@@ -68,35 +69,41 @@ void HBNeuMitModus() {
 
 void HBFragenLoeschen() {
     if (Bestaetigt(kerntexte::hbFragenLoeschen)) {
+        const Schritt schritt("Fragen löschen");
         HB_FragenLoeschen();
         HB_FelderFaerben();
     }
 }
 
 void HBFragenEinfuegen() {
+    const Schritt schritt("Fragen einfügen");
     HB_FragenEinfuegen();
     HB_FelderFaerben();
 }
 
 void HBAntwortenLoeschen() {
     if (Bestaetigt(kerntexte::hbAntwortenLoeschen)) {
+        const Schritt schritt("Antworten löschen");
         HB_AntwortenLoeschen();
         HB_FelderFaerben();
     }
 }
 
 void HBAntwortenEinfuegen() {
+    const Schritt schritt("Antworten einfügen");
     HB_AntwortenEinfuegen();
     HB_FelderFaerben();
 }
 
 void HBPunkteLoeschen() {
     if (Bestaetigt(kerntexte::hbPunkteLoeschen)) {
+        const Schritt schritt("Punkte löschen");
         HB_PunkteLoeschen();
     }
 }
 
 void HBPunkteEinfuegen() {
+    const Schritt schritt("Punkte einfügen");
     HB_PunkteEinfuegen();
 }
 

@@ -4,6 +4,8 @@ feldkranz_quellen(modell
   persistence/einstellungsdatei.cpp
   persistence/formularabschnitte.cpp
   persistence/formulardatei.cpp
+  persistence/journalname.cpp
   persistence/rettungsname.cpp)
-feldkranz_quellen(rand persistence/dateiliste.cpp persistence/einstellungenladen.cpp)
+feldkranz_quellen(rand persistence/dateiliste.cpp persistence/einstellungenladen.cpp
+  persistence/journal.cpp persistence/journaltakt.cpp)
 feldkranz_quellen(fenster persistence/sicherung.cpp)

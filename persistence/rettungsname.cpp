@@ -1,6 +1,7 @@
 #include "persistence/rettungsname.h"
 
 #include "core/pfadname.h"
+#include "persistence/journalname.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,7 +14,8 @@ constexpr std::string_view endung = ".BAK";
 
 // The digits between the two; "" for none.
 std::string_view Nummer(std::string_view name) {
-    return name.substr(anfang.size(), name.size() - anfang.size() - endung.size());
+    return IstJournalname(name) ? std::string_view()
+                                : name.substr(anfang.size(), name.size() - anfang.size() - endung.size());
 }
 
 struct Rettung {
@@ -52,7 +54,7 @@ void RettungenVoranstellen(std::vector<std::string>& namen,
                            const std::function<std::int64_t(const std::string& name)>& geaendert) {
     std::vector<Rettung> rettungen;
     std::erase_if(namen, [&](const std::string& name) {
-        if (!IstRettungsname(name)) {
+        if (!IstRettungsname(name) && !IstJournalname(name)) {
             return false;
         }
         rettungen.push_back({geaendert(name), name});

@@ -1,6 +1,7 @@
 #include "persistence/sicherung.h"
 
 #include "core/datei.h"
+#include "core/hauptfenster.h"
 #include "core/pfadname.h"
 #include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
@@ -62,6 +63,18 @@ void SicherungAnlegenForm(const std::string& pfad) {
         Meldung(sicherungAngelegt, {NurDateiname(Sicherungspfad(pfad))});
     } else {
         KeineMelden(pfad, ergebnis == Sicherung::NichtsDa ? dateiWarNeu : "");
+    }
+}
+
+void SicherungVorLeerung(const std::string& pfad) {
+    if (Spiel.OptionDatei) {
+        return; // there is one anyway
+    }
+    const Sicherung ergebnis = Anlegen(pfad);
+    if (ergebnis == Sicherung::Angelegt) {
+        HilfeText(Einsetzen(geleertGesichert, {NurDateiname(Sicherungspfad(pfad))}));
+    } else if (ergebnis == Sicherung::Gescheitert) {
+        HilfeText(geleertVerloren);
     }
 }
 

@@ -63,6 +63,26 @@ inline constexpr std::string_view ortRettung = "DATEI : Ungesichertes_Retten";
 inline constexpr std::string_view rettungsort =
     " Ungesichertes liegt in [ {} ]; unter *.BAK hole ich es zurück.";
 
+// --- The journal of unsaved work, in the status help ---
+
+// {} the reason.
+inline constexpr std::string_view journalFehler =
+    " Nebenher sichern kann ich gerade nicht ({}) - speichere lieber bald selbst !";
+// {} the name of the first one, and how many more there are.
+inline constexpr std::string_view journalDa =
+    " Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in [ {} ].";
+inline constexpr std::string_view journaleDa =
+    " Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in [ {} ] und noch {} Dateien.";
+// The editor shows a text that was never saved.
+inline constexpr std::string_view journalText =
+    " Ich wurde abgewürgt - hier ist dein ungespeicherter Text von [ {} ].";
+// A form that was blanked took the place of a full one; {} is the backup's name.
+inline constexpr std::string_view geleertGesichert =
+    " Das Formular war geleert - das volle liegt unter *.BAK in [ {} ].";
+inline constexpr std::string_view geleertVerloren =
+    " Das Formular war geleert - vom vollen konnte ich keine Sicherung anlegen.";
+inline constexpr std::string_view katalogordner = "\\WISSEN";
+
 // --- Run-time errors while a form is read, in stock boxes ---
 
 inline constexpr std::string_view fehlerTitel = "Fehler beim Laden !";

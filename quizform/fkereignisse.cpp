@@ -3,6 +3,7 @@
 #include "core/hauptfenster.h"
 #include "core/klappliste.h"
 #include "core/oberflaeche.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
@@ -167,6 +168,7 @@ void SpezialGewaehlt(frmFKFragen& form, int eintrag) {
     if (form.AktuellesFeld < 1 || eintrag < 0) {
         return;
     }
+    const Schritt schritt("Spezialfeld wählen");
     const std::string buchstabe = SpezialBuchstabe(Modelltext(form.cmbSpezial->itemText(eintrag)));
     Panel* panel = form.pnlSpezial.at(Stelle(form.AktuellesFeld));
     panel->show();
@@ -197,6 +199,7 @@ void WissenGewaehlt(frmFKFragen& form, int eintrag) {
     if (form.AktuellesFeld < 1 || form.AktuellesFeld > anzahlGebiete || eintrag < 0) {
         return;
     }
+    const Schritt schritt("Titel wählen");
     Panel* panel = form.pnlWissen.at(Stelle(form.AktuellesFeld));
     panel->setCaption(form.cmbWissen->itemText(eintrag));
     panel->show();

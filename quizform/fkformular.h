@@ -43,6 +43,8 @@ void FK_Merken();
 void FK_KopfMerken();
 // What the form shows, as a value; the stored copy stays as it is. Without a form the stored copy.
 [[nodiscard]] Quizformular FK_Ablesen();
+// Shows a form that was read off this window once, and puts the stored copy of that moment back with it.
+void FK_StandZeigen(const Quizformular& gezeigt, const Quizformular& gemerkt);
 // Typed text of the cell that has the focus reaches the stored copy, as if the cell lost the focus.
 void FK_EingabeAbschliessen();
 // A command has set the texts: what the cell with the focus shows isn't typed, and leaving it merges nothing.

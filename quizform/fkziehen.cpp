@@ -1,6 +1,7 @@
 // Questions that leave a cell of the quiz form and questions that land in one.
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/schritt.h"
 #include "core/ziehen.h"
 #include "dialogs/meldung.h"
 #include "quizform/fkereignisse.h"
@@ -70,6 +71,7 @@ void FK_Ablegen(int n, const Ziehwert& wert) {
     if (form == nullptr || n < 1 || n > anzahlFelder) {
         return;
     }
+    const Schritt schritt(Schrittname(wert));
     // The visible text counts, so a Joker's marker is an occupied cell as well.
     if (!FK_Frage(n).empty() && !ErsetzenErlaubt(fktexte::feldBesetzt)) {
         return;

@@ -9,6 +9,7 @@ feldkranz_quellen(fenster
   quizform/fkfarben.cpp
   quizform/fkformular.cpp
   quizform/fkregeln.cpp
+  quizform/fkstand.cpp
   quizform/fkziehen.cpp
   quizform/fkzugriff.cpp
   quizform/frmFKFragen.cpp quizform/frmFKFragen.h)

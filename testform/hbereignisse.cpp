@@ -3,6 +3,7 @@
 #include "core/hauptfenster.h"
 #include "core/klappliste.h"
 #include "core/oberflaeche.h"
+#include "core/schritt.h"
 #include "testform/frmHBFragen.h"
 
 #include <QAbstractItemView>
@@ -61,6 +62,7 @@ void WahlVerbinden(frmHBFragen& form, const Kopfwahl& wahl, Lesen lesen, Setzen 
     QObject::connect(wahl.liste, &QComboBox::activated, &form, [wahl, setzen](int eintrag) {
         WahlSchliessen(wahl);
         wahl.taste->setFocus(Qt::OtherFocusReason);
+        const Schritt schritt("Kopf wählen");
         setzen(QLatin1Char(' ') + wahl.liste->itemText(eintrag));
         FormStatusSetzen(true);
     });

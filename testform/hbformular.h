@@ -41,6 +41,11 @@ void HB_FelderFaerben();
 // What the form shows, as a value; the stored copy stays as it is. Without a form the stored copy.
 [[nodiscard]] Testformular HB_Ablesen();
 
+// The points as they stand on the screen; none without a form.
+[[nodiscard]] Punktanzeige HB_PunkteAblesen();
+// Shows a form that was read off this window once, and puts the stored copy of that moment back with it.
+void HB_StandZeigen(const Testformular& gezeigt, const Punktanzeige& punkte, const Testformular& gemerkt);
+
 // Blanking on the screen and putting the stored copy back. The totals stay as they are.
 void HB_FragenLoeschen();
 void HB_FragenEinfuegen();

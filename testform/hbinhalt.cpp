@@ -76,6 +76,35 @@ Testformular HB_Ablesen() {
     return ziel;
 }
 
+Punktanzeige HB_PunkteAblesen() {
+    Punktanzeige anzeige;
+    if (const frmHBFragen* form = HBFragenOffen(); form != nullptr) {
+        for (std::size_t i = 1; i <= anzahlTestfragen; ++i) {
+            anzeige.punkte.at(i) = Modelltext(form->pnlPunkte.at(i)->caption());
+        }
+        anzeige.summe = form->pnlGesamtpunkte->caption() != Anzeige(hbtexte::gesamtpunkte);
+    }
+    return anzeige;
+}
+
+void HB_StandZeigen(const Testformular& gezeigt, const Punktanzeige& punkte, const Testformular& gemerkt) {
+    frmHBFragen* form = HBFragenOffen();
+    if (form == nullptr) {
+        return;
+    }
+    HBForm = gezeigt; // the window is filled from the stored copy
+    HB_FormularZeigen();
+    form->titel.panel->setCaption(Anzeige(gezeigt.HBKopf1));
+    form->fach.panel->setCaption(Anzeige(gezeigt.HBKopf2));
+    for (std::size_t i = 1; i <= anzahlTestfragen; ++i) {
+        form->pnlPunkte.at(i)->setCaption(Anzeige(punkte.punkte.at(i)));
+    }
+    if (!punkte.summe) {
+        SummeLeeren(form);
+    }
+    HBForm = gemerkt;
+}
+
 void HB_FelderFaerben() {
     JedeZeile([](frmHBFragen& form, std::size_t i) { ZeileFaerben(form, static_cast<int>(i)); });
 }

@@ -2,6 +2,7 @@
 #include "core/hauptfenster.h"
 #include "core/laufzeitfehler.h"
 #include "core/oberflaeche.h"
+#include "core/schritt.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
 #include "testform/punkte.h"
@@ -19,7 +20,8 @@ std::int16_t SummeDerZeilen(const frmHBFragen& form) {
     return PunkteSumme(aufschriften);
 }
 
-void Schritt(frmHBFragen& form, std::size_t i, int schritt) {
+void Stufe(frmHBFragen& form, std::size_t i, int schritt) {
+    const Schritt einer("Punkte ändern", static_cast<int>(i));
     Panel* punkte = form.pnlPunkte.at(i);
     try {
         punkte->setCaption(Anzeige(PunkteNachSchritt(Modelltext(punkte->caption()), schritt)));
@@ -44,9 +46,8 @@ void HauptfensterSumme(const QString& text) {
 
 void PunkteVerbinden(frmHBFragen& form) {
     for (std::size_t i = 1; i < form.spnPunkte.size(); ++i) {
-        QObject::connect(form.spnPunkte.at(i), &Drehfeld::hoch, &form, [&form, i] { Schritt(form, i, 1); });
-        QObject::connect(form.spnPunkte.at(i), &Drehfeld::runter, &form,
-                         [&form, i] { Schritt(form, i, -1); });
+        QObject::connect(form.spnPunkte.at(i), &Drehfeld::hoch, &form, [&form, i] { Stufe(form, i, 1); });
+        QObject::connect(form.spnPunkte.at(i), &Drehfeld::runter, &form, [&form, i] { Stufe(form, i, -1); });
     }
 }
 

@@ -1,6 +1,7 @@
 // Questions that leave a row of the test form and questions that land in one.
 #include "catalogue/auswahl.h"
 #include "core/hauptfenster.h"
+#include "core/schritt.h"
 #include "core/ziehen.h"
 #include "dialogs/meldung.h"
 #include "testform/frmHBFragen.h"
@@ -65,6 +66,7 @@ void HB_Ablegen(int n, const Ziehwert& wert) {
     if (form == nullptr || n < 1 || n > anzahlTestfragen) {
         return;
     }
+    const Schritt schritt(Schrittname(wert));
     const std::string bisher = HB_Frage(n);
     if (!bisher.empty() && bisher != hbtexte::platzhalter && !ErsetzenErlaubt(hbtexte::zeileBesetzt)) {
         return;

@@ -29,4 +29,13 @@ struct Testformular {
     friend bool operator==(const Testformular&, const Testformular&) = default;
 };
 
+// How the points stand on the screen, beyond what a form file has: captions, "" where they are blanked, and
+// whether the total shows.
+struct Punktanzeige {
+    std::array<std::string, anzahlTestfragen + 1> punkte;
+    bool summe = false;
+
+    friend bool operator==(const Punktanzeige&, const Punktanzeige&) = default;
+};
+
 inline Testformular HBForm;

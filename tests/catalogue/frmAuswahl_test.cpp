@@ -3,6 +3,7 @@
 #include "catalogue/auswahl.h"
 #include "catalogue/auswahltexte.h"
 #include "catalogue/themen.h"
+#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/programmstand.h"
 #include "core/ziehen.h"
@@ -117,7 +118,7 @@ private:
 void AuswahlTest::init() {
     Katalog.ThemenListe.fill({});
     Katalog.UnterthemenListe.fill({});
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     ordner_ = std::make_unique<Programmordner>();
     ordner_->schreiben(
         QStringLiteral("WISSEN/WISSEN.TXT"),
@@ -318,7 +319,7 @@ void AuswahlTest::theTrashAsksBeforeItThrowsAQuestionOfAFormAway() {
     for (const auto& [herkunft, typ] :
          {std::pair{Formart::Quiz, Formart::Quiz}, std::pair{Formart::Test, Formart::Test},
           std::pair{Formart::Quiz, Formart::Keine}}) {
-        Stand.FormGeaendert = false;
+        FormStatusSetzen(false);
         Stand.FormTyp = typ;
         Dialogfolge dialoge;
         dialoge.frage(muellTitel, muellText, 6);

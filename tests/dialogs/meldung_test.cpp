@@ -164,6 +164,7 @@ private Q_SLOTS:
             Dialogwarter warter;
             warter.dann(QStringLiteral("frmMeldung"), [taste](QDialog& dialog) {
                 QSignalSpy klick(&Kind<QPushButton>(dialog, "cmdKenntnis"), &QPushButton::clicked);
+                QTRY_VERIFY(QApplication::focusWidget() != nullptr); // the window manager takes its time
                 QTest::keyClick(QApplication::focusWidget(), taste);
                 QCOMPARE(klick.size(), 1);
                 QVERIFY(!dialog.isVisible());

@@ -40,7 +40,7 @@ public:
             programm_ = std::make_unique<Programm>(false);
         }
         EditorEntladen();
-        Stand.FormGeaendert = false;
+        FormStatusSetzen(false);
         FK_Entladen();
         HB_Entladen();
         ZustandZuruecksetzen();

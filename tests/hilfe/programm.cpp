@@ -56,7 +56,7 @@ Programm::Programm(bool mitEinstellungen) {
 }
 
 Programm::~Programm() {
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     FormulareEntladen();
     EditorEntladen();
     delete FensterOderNichts(QStringLiteral("frmAuswahl"));

@@ -21,7 +21,7 @@ void Formlauf::Vorbereiten() {
     if (programm_ == nullptr) {
         programm_ = std::make_unique<Programm>(false);
     }
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     FK_Entladen();
     HB_Entladen();
     ZustandZuruecksetzen();

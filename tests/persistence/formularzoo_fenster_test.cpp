@@ -5,6 +5,7 @@
 #include "core/programmstand.h"
 #include "formlauf.h"
 #include "forms/oeffnen.h"
+#include "forms/verlauf.h"
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "quizform/quizformular.h"
@@ -288,6 +289,7 @@ void FormularzooFensterTest::aRefusedFileLeavesTheOpenFormAlone() {
     const QByteArray gross = Kopf(QByteArray(9'000'000, '\n'));
     lauf.Schreiben(QStringLiteral("GROSS.FKR"), gross);
     lauf.Oeffnen(QStringLiteral("GUT.FKR"));
+    GespeichertVergessen(); // as after a save that failed
     FormStatusSetzen(true);
     Dialogfolge dialoge;
     FolgeErwarten(dialoge, {Folge::ZuGross});

@@ -3,6 +3,7 @@
 #include "core/programmstand.h"
 #include "formlauf.h"
 #include "forms/oeffnen.h"
+#include "forms/verlauf.h"
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
@@ -96,6 +97,7 @@ void OeffnenTest::aTestFileWhileAQuizFormIsOpenChangesNothing() {
     lauf.Schreiben(QStringLiteral("A.FKR"), Formlauf::Quiz("Eins"));
     lauf.Schreiben(QStringLiteral("T.FKR"), Formlauf::Test("Knoten"));
     lauf.Oeffnen(QStringLiteral("A.FKR"));
+    GespeichertVergessen(); // as after a save that failed
     FormStatusSetzen(true);
     Dialogfolge dialoge;
     dialoge.meldung(

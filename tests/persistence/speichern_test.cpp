@@ -5,6 +5,7 @@
 #include "formlauf.h"
 #include "forms/oeffnen.h"
 #include "forms/speichern.h"
+#include "forms/verlauf.h"
 #include "mainwindow/frmMDI.h"
 #include "persistence/sicherung.h"
 #include "quizform/fkformular.h"
@@ -249,6 +250,7 @@ void SpeichernTest::anOverwriteAnsweredJaReplacesTheFile() {
     DateidialogErwarten(dialoge, speichernUnter, QStringLiteral("ALT.FKR"), cmdSpeichern);
     UeberschreibenErwarten(dialoge, QStringLiteral("ALT.FKR"), 6);
     GespeichertErwarten(dialoge, QStringLiteral("ALT.FKR"));
+    GespeichertVergessen(); // as after a save that failed
     FormStatusSetzen(true);
     lauf.Druecken(unterTaste);
     QVERIFY(dialoge.fertig());

@@ -66,7 +66,7 @@ private Q_SLOTS:
 
 private:
     void Schliessen() {
-        Stand.FormGeaendert = false;
+        FormStatusSetzen(false);
         FK_Entladen();
         HB_Entladen();
         ModusHaupt();

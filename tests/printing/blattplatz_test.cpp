@@ -1,6 +1,7 @@
 // Where the sheets lie that become PDF files: what they replace and what they leave alone, for whom a name
 // from the printer dialog holds, and what that dialog says of itself. The system knows no printer here.
 #include "core/formularfenster.h"
+#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "core/programmstand.h"
@@ -54,7 +55,7 @@ void Oeffnen(Programm& programm, const std::string& name, const char* wort) {
                                 programm.ordner().lesen(QStringLiteral("KRANZ/Bibelabend.FKR")));
     FormularLaden(Stand.AppPfad + "\\KRANZ\\" + name);
     Beschriften(wort);
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
 }
 
 // The printer dialog, with that done to it.
@@ -140,7 +141,7 @@ void BlattplatzTest::eachFormWithoutANameHasASheetOfItsOwn() {
     Beschriften("Fidelio"); // still the same form
     Drucken(programm);
     QVERIFY(!programm.ordner().vorhanden(QStringLiteral("KRANZ/Feldkranz1.pdf")));
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     programm.NeuesQuizformular()->txtFrage.at(1)->setText("Freischütz");
     Drucken(programm);
     QVERIFY(Zeigt(programm, QStringLiteral("KRANZ/Feldkranz.pdf"), "Fidelio"));
@@ -178,7 +179,7 @@ void BlattplatzTest::aNameFromThePrinterDialogHoldsForItsFormOnly() {
     Beschriften("Fidelio");
     Drucken(programm);
     QVERIFY(Zeigt(programm, QStringLiteral("Mein Blatt.pdf"), "Fidelio"));
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     programm.NeuesQuizformular();
     Drucken(programm);
     QVERIFY(programm.ordner().vorhanden(QStringLiteral("KRANZ/Feldkranz.pdf")));

@@ -1,5 +1,6 @@
 // Printing a test by the command on the real main window: the checks, the questions in their order, what is
 // on the sheet, and that the form is left as it was. The system knows no printer here.
+#include "core/hauptfenster.h"
 #include "core/panel.h"
 #include "core/programmstand.h"
 #include "mainwindow/frmMDI.h"
@@ -101,7 +102,7 @@ void TestdruckenTest::withoutASubjectTheRoutineEndsWithAMessage() {
 void TestdruckenTest::anEmptyTestIsAskedAboutAndPrinted() {
     Programm programm;
     Formular(programm, 0, false);
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     Drucker().setPageOrientation(QPageLayout::Landscape);
     Dialogfolge dialoge;
     dialoge.frage(titel, leeresBlatt, 1);

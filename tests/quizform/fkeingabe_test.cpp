@@ -58,7 +58,7 @@ void Fuellen(frmFKFragen* form) {
     }
     FK_Merken();
     FK_FelderFaerben();
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
 }
 
 } // namespace
@@ -135,7 +135,7 @@ void FkEingabeTest::selectedTextIsntCarriedOffWhateverKeysAreHeld() {
     antwort->setText("eine lange Antwort, auf der man gut ziehen kann");
     antwort->setFocus(Qt::TabFocusReason);
     QTRY_VERIFY(antwort->textCursor().hasSelection());
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     maus::Ziehen(antwort, form->txtAntwort.at(4), tasten);
     maus::Ziehen(antwort, form->txtFrage.at(4), tasten);
     QCOMPARE(FK_Frage(1), std::string("Frage 1"));
@@ -279,7 +279,7 @@ void FkEingabeTest::openingAListedFileLeavesTheFormUnchangedWhenItsCellIsLeft() 
     FK_Merken();
     form->txtFrage.at(4)->setFocus();
     QTRY_VERIFY(form->txtFrage.at(4)->hasFocus());
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     ImMenue(programm, QStringLiteral("mDateienFK"), QStringLiteral("mDateiGeoeffnet(0)"), Qt::Key_Return);
     QTRY_COMPARE(FK_Frage(4), std::string("Frage 4"));
     form->txtFrage.at(5)->setFocus();

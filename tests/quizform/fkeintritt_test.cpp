@@ -1,5 +1,6 @@
 // Entering and leaving a cell without changing it, by mouse, by key and from another window: nothing is
 // merged, nothing counts as changed.
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "tests/hilfe/auswahlhilfe.h"
 #include "tests/quizform/formhilfe.h"
@@ -121,6 +122,8 @@ void FkEintrittTest::undoingToTheTextThatStoodThereMarksNothingMore() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     Fuellen(form);
+    FormularWechselt(); // as if it had been read like that: what stands there is no step
+    FormStatusSetzen(false);
     QTRY_VERIFY(form->isVisible());
     QSignalSpy anders(form->txtFrage.at(3), &Textfeld::textAnders);
     Tippen(form->txtFrage.at(3), QStringLiteral("x"));

@@ -1,4 +1,5 @@
 // The cells of the quiz form: special fields and their limits, titles, typing and merging, blanking, menus.
+#include "core/hauptfenster.h"
 #include "tests/quizform/formhilfe.h"
 
 #include <QClipboard>
@@ -118,7 +119,7 @@ void FkFelderTest::theSameLetterAgainMarksNothingAsChanged() {
     frmFKFragen* form = programm.NeuesQuizformular();
     SpezialWaehlen(form, 6, 2);
     QVERIFY(Stand.FormGeaendert);
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     SpezialWaehlen(form, 6, 2);
     QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(form->pnlSpezial.at(6)->caption(), QStringLiteral("G"));
@@ -184,7 +185,7 @@ void FkFelderTest::settingATextThatStandsThereMarksNothingAsChanged() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     form->txtFrage.at(1)->setText("a\r\nb");
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
     form->txtFrage.at(1)->setText("a\r\nb");
     form->txtNr->setWert("");
     QVERIFY(!Stand.FormGeaendert);

@@ -1,6 +1,7 @@
 // Dragging with a real mouse: from the selection dialog, from cell to cell, to and from the clipboard panels,
 // to the trash; the refusals, the questions and the pictures at the pointer.
 #include "catalogue/auswahl.h"
+#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
 #include "core/programmstand.h"
@@ -42,7 +43,7 @@ void Fuellen(frmFKFragen* form, int n, const char* frage, const char* antwort) {
     form->txtAntwort.at(Nr(n))->setText(antwort);
     FK_Merken();
     FK_FelderFaerben();
-    Stand.FormGeaendert = false;
+    FormStatusSetzen(false);
 }
 
 void BuchstabeSetzen(frmFKFragen* form, int n, const QString& buchstabe) {

@@ -4,6 +4,7 @@
 #include "formlauf.h"
 #include "forms/oeffnen.h"
 #include "forms/speichern.h"
+#include "forms/verlauf.h"
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
@@ -93,7 +94,10 @@ Speicherfall StoerungFormulareTest::Fall() {
         const bool rot = Finden(lauf.programm().haupt(), QStringLiteral("picEingabeFlagRot"))->isVisible();
         return rot && Stand.FormGeaendert;
     };
-    fall.aendern = [] { FormStatusSetzen(true); };
+    fall.aendern = [] {
+        GespeichertVergessen(); // as after a save that failed
+        FormStatusSetzen(true);
+    };
     fall.inhalt = [] { return Kasten()->toPlainText(); };
     fall.bedienen = [] { QTest::keyClicks(Kasten(), QStringLiteral("x")); };
     fall.gelungen = {QStringLiteral("Datei gespeichert unter  [ STOERUNG.FKR ]"), QStringLiteral("Schön")};

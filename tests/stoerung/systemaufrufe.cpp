@@ -15,7 +15,8 @@
 
 namespace {
 
-// What a rule does itself is let through and not asked about: the lock behind LaufendeStoerung is held already.
+// What a rule does itself is let through and not asked about: the lock behind LaufendeStoerung is held
+// already.
 thread_local bool inDerRegel = false;
 
 // Does the work with the Stoerung that lives; what there is without one is the result's default.

@@ -118,6 +118,8 @@ void FrmHBFragenTest::choosingTitleAndSubject() {
     Programm programm;
     const frmHBFragen* form = programm.NeuesTestformular();
     for (const bool mitTaste : {true, false}) {
+        form->titel.panel->setCaption(QString());
+        form->fach.panel->setCaption(QString());
         FormStatusSetzen(false);
         KopfWaehlen(form->titel, QStringLiteral("Späherprüfung"), mitTaste);
         QCOMPARE(form->titel.panel->caption(), QStringLiteral(" Späherprüfung"));

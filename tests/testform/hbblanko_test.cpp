@@ -76,7 +76,7 @@ void HbBlankoTest::eachContentIsBlankedAndPutBackByItsButtons() {
         dialoge.frage(inhalt.titel, inhalt.frage + wiederEinfuegen, 6);
         Druecken(programm, QLatin1String(inhalt.loeschen));
         QCOMPARE(Gezeigt(form), Ohne(vorher, spalte));
-        QCOMPARE(Stand.FormGeaendert, std::int16_t(spalte == 2 ? 0 : 1)); // a panel's caption marks nothing
+        QVERIFY(Stand.FormGeaendert); // it isn't what was saved
         QCOMPARE(HBForm.HBFrageText.at(1), std::string("Frage eins"));
         QCOMPARE(HBForm.HBAntwortText.at(10), std::string("Antwort zehn"));
         QCOMPARE(HBForm.HBPunkte.at(1), std::int16_t(5));

@@ -2,6 +2,7 @@
 #include "core/hauptfenster.h"
 #include "formlauf.h"
 #include "forms/oeffnen.h"
+#include "forms/verlauf.h"
 #include "persistence/formulardatei.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
@@ -100,6 +101,7 @@ void HbDateienTest::aQuizFileWhileATestFormIsOpenChangesNothing() {
     lauf.Schreiben(QStringLiteral("T.FKR"), Knoten());
     lauf.Schreiben(QStringLiteral("Q.FKR"), Formlauf::Quiz("Eins"));
     lauf.Oeffnen(QStringLiteral("T.FKR"));
+    GespeichertVergessen(); // as after a save that failed
     FormStatusSetzen(true);
     Dialogfolge dialoge;
     dialoge.meldung(

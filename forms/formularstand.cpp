@@ -1,0 +1,152 @@
+#include "forms/formularstand.h"
+
+namespace {
+
+// Points of the cells follow from the letters and the numbers in force, and no file has them.
+Quizformular OhnePunkte(Quizformular form) {
+    form.FeldPunkte = {};
+    return form;
+}
+
+bool Gleich(const Quizstand& a, const Quizstand& b) {
+    return OhnePunkte(a.gezeigt) == OhnePunkte(b.gezeigt);
+}
+
+bool Gleich(const Teststand& a, const Teststand& b) {
+    return a.gezeigt == b.gezeigt;
+}
+
+bool Textgleich(const Quizformular& a, const Quizformular& b) {
+    return a.FrageText == b.FrageText;
+}
+
+bool Textgleich(const Testformular& a, const Testformular& b) {
+    return a.HBFrageText == b.HBFrageText;
+}
+
+bool Antwortgleich(const Quizformular& a, const Quizformular& b) {
+    return a.AntwortText == b.AntwortText;
+}
+
+bool Antwortgleich(const Testformular& a, const Testformular& b) {
+    return a.HBAntwortText == b.HBAntwortText;
+}
+
+template <typename Stand>
+std::string_view Eingabe(const Stand& vorher, const Stand& nachher) {
+    if (!Textgleich(vorher.gezeigt, nachher.gezeigt)) {
+        return "Frage eingeben";
+    }
+    if (!Antwortgleich(vorher.gezeigt, nachher.gezeigt)) {
+        return "Antwort eingeben";
+    }
+    return Gleich(vorher, nachher) ? "" : "Kopf ausfüllen";
+}
+
+template <typename Werte>
+bool Weg(const Werte& vorher, const Werte& jetzt) {
+    const typename Werte::value_type leer{};
+    int da = 0;
+    int neue = 0;
+    for (std::size_t i = 0; i < vorher.size(); ++i) {
+        da += vorher.at(i) != leer ? 1 : 0;
+        neue += jetzt.at(i) != leer ? 1 : 0;
+        if (vorher.at(i) != leer && vorher.at(i) == jetzt.at(i)) {
+            return false;
+        }
+    }
+    return neue < da;
+}
+
+bool Geleert(const Quizformular& vorher, const Quizformular& jetzt) {
+    return Weg(vorher.FrageText, jetzt.FrageText) || Weg(vorher.FeldSpezial, jetzt.FeldSpezial);
+}
+
+bool Geleert(const Testformular& vorher, const Testformular& jetzt) {
+    return Weg(vorher.HBFrageText, jetzt.HBFrageText) || Weg(vorher.HBAntwortText, jetzt.HBAntwortText) ||
+           Weg(vorher.HBPunkte, jetzt.HBPunkte);
+}
+
+// A short text lies inside its string.
+std::size_t Aussen(const std::string& text) {
+    constexpr std::size_t innen = 15;
+    return text.capacity() > innen ? text.capacity() + 1 : 0;
+}
+
+template <typename Texte>
+std::size_t Aussensumme(const Texte& texte) {
+    std::size_t summe = 0;
+    for (const std::string& text : texte) {
+        summe += Aussen(text);
+    }
+    return summe;
+}
+
+std::size_t Texte(const Quizformular& form) {
+    return Aussensumme(form.WissenTitel) + Aussensumme(form.FrageText) + Aussensumme(form.AntwortText) +
+           Aussensumme(form.FeldSpezial) + Aussen(form.FormNr) + Aussen(form.FormDatum) +
+           Aussen(form.FormZeit);
+}
+
+std::size_t Texte(const Testformular& form) {
+    return Aussensumme(form.HBFrageText) + Aussensumme(form.HBAntwortText) + Aussen(form.HBFach) +
+           Aussen(form.HBKopf1) + Aussen(form.HBKopf2) + Aussen(form.HBKopf3);
+}
+
+} // namespace
+
+Spielwerte MitProgrammwerten(const Spielwerte& form, const Spielwerte& programm) {
+    Spielwerte werte = form;
+    werte.OptionDatei = programm.OptionDatei;
+    werte.Datei = programm.Datei;
+    werte.HilfeEintrag = programm.HilfeEintrag;
+    werte.OptionEreignis = programm.OptionEreignis;
+    return werte;
+}
+
+bool Gleichgespeichert(const Formularstand& a, const Formularstand& b) {
+    if (a.form.index() != b.form.index()) {
+        return false;
+    }
+    if (const auto* quiz = std::get_if<Quizstand>(&a.form); quiz != nullptr) {
+        return Gleich(*quiz, std::get<Quizstand>(b.form)) && MitProgrammwerten(a.spiel, b.spiel) == b.spiel;
+    }
+    return Gleich(std::get<Teststand>(a.form), std::get<Teststand>(b.form)); // its file has no numbers
+}
+
+bool Gleichgezeigt(const Formularstand& a, const Formularstand& b) {
+    if (!Gleichgespeichert(a, b) || !(MitProgrammwerten(a.spiel, b.spiel) == b.spiel)) {
+        return false;
+    }
+    const auto* links = std::get_if<Teststand>(&a.form);
+    const auto* rechts = std::get_if<Teststand>(&b.form);
+    return links == nullptr || links->punkte == rechts->punkte;
+}
+
+bool Leergeraeumt(const Formularstand& vorher, const Formularstand& jetzt) {
+    if (vorher.form.index() != jetzt.form.index()) {
+        return false;
+    }
+    if (const auto* quiz = std::get_if<Quizstand>(&vorher.form); quiz != nullptr) {
+        return Geleert(quiz->gezeigt, std::get<Quizstand>(jetzt.form).gezeigt);
+    }
+    return Geleert(std::get<Teststand>(vorher.form).gezeigt, std::get<Teststand>(jetzt.form).gezeigt);
+}
+
+std::string_view Eingabename(const Formularstand& vorher, const Formularstand& nachher) {
+    if (vorher.form.index() != nachher.form.index()) {
+        return {};
+    }
+    if (const auto* quiz = std::get_if<Quizstand>(&vorher.form); quiz != nullptr) {
+        return Eingabe(*quiz, std::get<Quizstand>(nachher.form));
+    }
+    return Eingabe(std::get<Teststand>(vorher.form), std::get<Teststand>(nachher.form));
+}
+
+std::size_t Speicherbedarf(const Formularstand& stand) {
+    std::size_t summe =
+        sizeof(Formularstand) + Aussensumme(stand.spiel.Datei) + Aussensumme(stand.spiel.HilfeEintrag);
+    std::visit([&summe](const auto& form) { summe += Texte(form.gezeigt) + Texte(form.gemerkt); },
+               stand.form);
+    return summe;
+}

@@ -1,0 +1,72 @@
+#include "mainwindow/extras.h"
+
+#include "core/formularfenster.h"
+#include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
+#include "core/textfeld.h"
+#include "forms/verlauf.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMdiArea>
+
+namespace {
+
+bool FormularVorn() {
+    Formularfenster* form = OffenesFormular();
+    return form != nullptr && AktivesKind() == form->fenster();
+}
+
+// The box with the focus where the form isn't in front: the editor's.
+Eigenverlauf* Kasten() {
+    const QWidget* haupt = Hauptfenster();
+    return haupt == nullptr ? nullptr : dynamic_cast<Eigenverlauf*>(haupt->focusWidget());
+}
+
+void EintragSetzen(QAction& eintrag, const QString& text, const std::string& schritt) {
+    eintrag.setText(schritt.empty() ? text : text + QStringLiteral(": ") + Anzeige(schritt));
+    eintrag.setEnabled(!schritt.empty() || (!FormularVorn() && Kasten() != nullptr));
+}
+
+void Zeigen(QMainWindow& fenster) {
+    auto* zurueck = fenster.findChild<QAction*>(QStringLiteral("mExtra(1)"));
+    auto* vor = fenster.findChild<QAction*>(QStringLiteral("mExtra(2)"));
+    if (zurueck != nullptr && vor != nullptr) {
+        EintragSetzen(*zurueck, QStringLiteral("&Rückgängig"), FormularVorn() ? Rueckschritt() : "");
+        EintragSetzen(*vor, QStringLiteral("&Wiederholen"), FormularVorn() ? Vorschritt() : "");
+    }
+}
+
+} // namespace
+
+void ExtrasEinrichten(QMainWindow& fenster) {
+    VerlaufEinrichten(fenster, [&fenster] { Zeigen(fenster); });
+    if (auto* flaeche = fenster.findChild<QMdiArea*>(); flaeche != nullptr) {
+        QObject::connect(flaeche, &QMdiArea::subWindowActivated, &fenster, [&fenster] { Zeigen(fenster); });
+    }
+    Zeigen(fenster);
+}
+
+void ExtrasAbbauen(QMainWindow& fenster) {
+    VerlaufAbmelden(fenster);
+}
+
+namespace befehle {
+
+void Rueckgaengig() {
+    if (FormularVorn()) {
+        RueckgaengigMachen();
+    } else if (Eigenverlauf* kasten = Kasten(); kasten != nullptr) {
+        kasten->EigenesZurueck();
+    }
+}
+
+void Wiederherstellen() {
+    if (FormularVorn()) {
+        Wiederholen();
+    } else if (Eigenverlauf* kasten = Kasten(); kasten != nullptr) {
+        kasten->EigenesVor();
+    }
+}
+
+} // namespace befehle
