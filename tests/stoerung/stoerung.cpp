@@ -25,8 +25,8 @@ void Setzen(Stoerung* stoerung) {
 
 LaufendeStoerung::LaufendeStoerung() : riegel_(laufende().schloss), stoerung_(laufende().stoerung) {}
 
-Stoerung::Stoerung(std::vector<std::string> orte, Regel regel)
-    : orte_(std::move(orte)), regel_(std::move(regel)) {
+Stoerung::Stoerung(std::vector<std::string> orte, Regel regel, Faeden faeden)
+    : orte_(std::move(orte)), regel_(std::move(regel)), faeden_(faeden) {
     Setzen(this);
 }
 
@@ -41,7 +41,7 @@ bool Stoerung::Betroffen(std::string_view pfad) const {
 }
 
 int Stoerung::Entscheiden(Aufruf aufruf) {
-    if (!Betroffen(aufruf.pfad)) {
+    if ((faeden_ == Faeden::Dieser && std::this_thread::get_id() != faden_) || !Betroffen(aufruf.pfad)) {
         return 0;
     }
     {

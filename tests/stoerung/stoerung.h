@@ -10,6 +10,7 @@
 #include <shared_mutex>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 struct Aufruf {
@@ -21,13 +22,16 @@ struct Aufruf {
     int fehlernummer = 0;    // what it was failed with
 };
 
+// Whose calls count. The journal writes when it likes, in a thread of its own.
+enum class Faeden { Dieser, Alle };
+
 // What a call comes to: 0 lets it do its work, else it fails with that errno.
 using Regel = std::function<int(const Aufruf&)>;
 
 class Stoerung {
 public:
     // orte: native paths; each counts with all beneath it. One object at a time.
-    explicit Stoerung(std::vector<std::string> orte, Regel regel = {});
+    explicit Stoerung(std::vector<std::string> orte, Regel regel = {}, Faeden faeden = Faeden::Dieser);
     ~Stoerung();
     Stoerung(const Stoerung&) = delete;
     Stoerung& operator=(const Stoerung&) = delete;
@@ -48,6 +52,8 @@ private:
 
     std::vector<std::string> orte_;
     Regel regel_;
+    Faeden faeden_;
+    std::thread::id faden_ = std::this_thread::get_id();
     std::vector<Aufruf> aufrufe_;
     std::map<int, std::string> offene_;
     std::mutex schloss_; // the journal and the toolkit have threads of their own
