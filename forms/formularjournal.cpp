@@ -6,6 +6,7 @@
 #include "core/pfad.h"
 #include "core/programmstand.h"
 #include "forms/formulare.h"
+#include "forms/formularpfad.h"
 #include "forms/verlauf.h"
 #include "persistence/formulardatei.h"
 #include "persistence/journal.h"
@@ -83,11 +84,11 @@ void Melden(const std::vector<QString>& pfade) {
 
 void FormularjournalEinrichten() {
     const Formart art = OffeneArt();
-    const std::string& pfad = Formulardatei(art);
-    if (pfad.empty()) {
+    const QString pfad = NativesFormular(art);
+    if (pfad.isEmpty()) {
         ort = {NativerPfad(Stand.AppPfad + std::string(Formularordner(art))), ""};
     } else {
-        const QFileInfo datei(NativerPfad(pfad));
+        const QFileInfo datei(pfad);
         ort = {datei.path(), datei.fileName().toStdString()};
     }
 }

@@ -63,6 +63,14 @@ std::string Formularpfad(Formart art) {
     return pfad;
 }
 
+QString NativesFormular(Formart art) {
+    const std::string& pfad = Formulardatei(art);
+    if (pfad.empty()) {
+        return QString();
+    }
+    return pfad == gemerkt.pfad ? gemerkt.nativ : NativerPfad(pfad);
+}
+
 std::string Startordner(Formart art) {
     const auto gewaehlt = gewaehlteOrdner.find(art);
     return gewaehlt != gewaehlteOrdner.end() && OrdnerDa(gewaehlt->second)

@@ -4,6 +4,8 @@
 
 #include "core/formart.h"
 
+#include <QString>
+
 #include <string>
 
 // The open form's file is that path, exactly as it is found now.
@@ -21,5 +23,8 @@ void NamenVorschlagen(const std::string& pfad);
 [[nodiscard]] std::string Formularpfad(Formart art);
 
 // Folder in which the save dialog of a form of that kind without a file starts: the one that the person chose
+// The open form's file as it was noted, as the file system names it; "" for none. Asks no disk where it was
+// noted.
+[[nodiscard]] QString NativesFormular(Formart art);
 // for the kind by opening or saving such a form there in the file dialog, or else the kind's own.
 [[nodiscard]] std::string Startordner(Formart art);
