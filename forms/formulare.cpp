@@ -3,6 +3,7 @@
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 #include "forms/quizformulare.h"
 #include "forms/speichern.h"
@@ -72,6 +73,7 @@ void GelesenesZeigen(Formart art, std::string_view titel) {
 }
 
 bool MitGemerktem(bool (*speichern)()) {
+    const Schritt schritt("Speichern"); // nothing is compared while the stored copy isn't what it will be
     const Quizformular quiz = FKForm;
     const Testformular test = HBForm;
     if (Formularfenster* form = OffenesFormular(); form != nullptr) {

@@ -109,6 +109,12 @@ void FormularjournalBeenden() {
     }
 }
 
+void FormularjournalAbwarten() {
+    if (fuehrung != nullptr) {
+        fuehrung->journal.Abwarten();
+    }
+}
+
 void FormularjournalSchliessen() {
     geschrieben.reset();
     fuehrung.reset();

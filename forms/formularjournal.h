@@ -14,6 +14,8 @@ void FormularjournalEinrichten();
 void FormularjournalFuehren(bool geaendert);
 // The form has gone, or another one took its place.
 void FormularjournalBeenden();
+// Waits until what was given to be written is written.
+void FormularjournalAbwarten();
 // Waits for the thread that writes, and ends it; when the main window goes.
 void FormularjournalSchliessen();
 // The open form came out of this journal, which goes with it as soon as it is saved or discarded.

@@ -43,6 +43,18 @@ std::string_view Eingabe(const Stand& vorher, const Stand& nachher) {
     return Gleich(vorher, nachher) ? "" : "Kopf ausfüllen";
 }
 
+// A place that shows nothing keeps something back that wasn't saved.
+template <typename Werte>
+bool Wartet(const Werte& gespeichert, const Werte& gezeigt, const Werte& gemerkt) {
+    const typename Werte::value_type leer{};
+    for (std::size_t i = 0; i < gezeigt.size(); ++i) {
+        if (gezeigt.at(i) == leer && gemerkt.at(i) != leer && gemerkt.at(i) != gespeichert.at(i)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 template <typename Werte>
 bool Weg(const Werte& vorher, const Werte& jetzt) {
     const typename Werte::value_type leer{};
@@ -121,6 +133,23 @@ bool Gleichgezeigt(const Formularstand& a, const Formularstand& b) {
     const auto* links = std::get_if<Teststand>(&a.form);
     const auto* rechts = std::get_if<Teststand>(&b.form);
     return links == nullptr || links->punkte == rechts->punkte;
+}
+
+bool Ungesichert(const Formularstand& gespeichert, const Formularstand& jetzt) {
+    if (!Gleichgespeichert(gespeichert, jetzt)) {
+        return true;
+    }
+    if (const auto* quiz = std::get_if<Quizstand>(&jetzt.form); quiz != nullptr) {
+        const Quizformular& alt = std::get<Quizstand>(gespeichert.form).gezeigt;
+        return Wartet(alt.FrageText, quiz->gezeigt.FrageText, quiz->gemerkt.FrageText) ||
+               Wartet(alt.AntwortText, quiz->gezeigt.AntwortText, quiz->gemerkt.AntwortText) ||
+               Wartet(alt.FeldSpezial, quiz->gezeigt.FeldSpezial, quiz->gemerkt.FeldSpezial);
+    }
+    const auto& test = std::get<Teststand>(jetzt.form);
+    const Testformular& alt = std::get<Teststand>(gespeichert.form).gezeigt;
+    return Wartet(alt.HBFrageText, test.gezeigt.HBFrageText, test.gemerkt.HBFrageText) ||
+           Wartet(alt.HBAntwortText, test.gezeigt.HBAntwortText, test.gemerkt.HBAntwortText) ||
+           Wartet(alt.HBPunkte, test.gezeigt.HBPunkte, test.gemerkt.HBPunkte);
 }
 
 bool Leergeraeumt(const Formularstand& vorher, const Formularstand& jetzt) {

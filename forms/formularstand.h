@@ -32,6 +32,10 @@ struct Formularstand {
 // doesn't count.
 [[nodiscard]] bool Gleichgespeichert(const Formularstand& a, const Formularstand& b);
 
+// What would be lost if the form went now: it shows something else than was saved, or blanked texts wait in
+// its stored copy that were never saved.
+[[nodiscard]] bool Ungesichert(const Formularstand& gespeichert, const Formularstand& jetzt);
+
 // Of all questions, all answers, all letters or all points that were there none is left in its place, and
 // there are fewer now.
 [[nodiscard]] bool Leergeraeumt(const Formularstand& vorher, const Formularstand& jetzt);

@@ -45,7 +45,7 @@ void Melden() {
 }
 
 void FlaggeAngleichen(const Formularstand& jetzt) {
-    const bool geaendert = !gespeichert || !Gleichgespeichert(*gespeichert, jetzt);
+    const bool geaendert = !gespeichert || Ungesichert(*gespeichert, jetzt);
     if (geaendert != Stand.FormGeaendert) {
         Stand.FormGeaendert = geaendert;
         FlaggeZeigen(geaendert);

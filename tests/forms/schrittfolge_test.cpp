@@ -203,6 +203,35 @@ TEST(Formularstand, BlankedPointsShowButAreNoOtherFormWhereTheyWereNone) {
     EXPECT_FALSE(Gleichgespeichert(Pruefung("0"), Quiz("")));
 }
 
+TEST(Formularstand, BlankedTextsThatWereNeverSavedAreUnsavedThoughTheFormShowsWhatWas) {
+    EXPECT_TRUE(Ungesichert(Quiz(""), Quiz("", "getippt")));
+    EXPECT_FALSE(Ungesichert(Quiz(""), Quiz("", "")));
+    EXPECT_FALSE(Ungesichert(Quiz("a"), Quiz("a", "b"))); // what shows is saved
+    EXPECT_TRUE(Ungesichert(Quiz("a"), Quiz("")));
+    Formularstand punkte = Pruefung("");
+    std::get<Teststand>(punkte.form).gemerkt.HBPunkte[1] = 5;
+    EXPECT_TRUE(Ungesichert(Pruefung(""), punkte));
+}
+
+TEST(Formularstand, AFormIsBlankedWhenNothingOfAKindIsLeftAndLessIsThere) {
+    const auto mit = [](std::vector<std::string> fragen) {
+        Quizstand form;
+        for (std::size_t n = 0; n < fragen.size(); ++n) {
+            form.gezeigt.FrageText.at(n + 1) = fragen.at(n);
+        }
+        return Formularstand{form, {}};
+    };
+    EXPECT_TRUE(Leergeraeumt(mit({"a", "b"}), mit({})));
+    EXPECT_TRUE(Leergeraeumt(mit({"a", "b"}), mit({"", "", "neu"})));
+    EXPECT_FALSE(Leergeraeumt(mit({"a", "b"}), mit({"a"})));
+    EXPECT_FALSE(Leergeraeumt(mit({"a", "b"}), mit({"c", "d"}))); // filled anew
+    EXPECT_FALSE(Leergeraeumt(mit({}), mit({})));
+    EXPECT_FALSE(Leergeraeumt(mit({"a"}), Pruefung("")));
+    Formularstand letter = mit({"a"});
+    std::get<Quizstand>(letter.form).gezeigt.FeldSpezial[4] = "J";
+    EXPECT_TRUE(Leergeraeumt(letter, mit({"a"})));
+}
+
 TEST(Formularstand, WhatWasTypedHasAName) {
     struct Zeile {
         void (*tippen)(Quizformular& form);

@@ -1,5 +1,7 @@
 #include "tests/stoerung/speicherprobe.h"
 
+#include "forms/formularjournal.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -166,6 +168,7 @@ QString Speicherprobe::Fensterklage(bool gelungen, const QString& inhalt) const 
 // What lies about counts where nothing hindered its removal. The copy of a file that is not whole is meant,
 // and so is one where the disk can't be asked any more whether it is.
 QString Speicherprobe::Restklage() const {
+    FormularjournalAbwarten(); // it writes with scraps of its own
     const QByteArray bytes = Dateibytes(fall_.pfad());
     const bool gebraucht = endgueltig_ || (bytes != neu_ && bytes != fall_.alt);
     const bool verhindert = std::ranges::any_of(aufrufe_, [](const Aufruf& aufruf) {
