@@ -93,6 +93,15 @@ bool NameBrauchbar(std::string_view name) {
     return !name.starts_with('.') && !Getrimmt(name.substr(0, name.rfind('.'))).empty();
 }
 
+std::string FreierPfad(const std::string& pfad, const std::function<bool(const std::string&)>& darf) {
+    const std::size_t endung = pfad.size() - Dateiendung(NurDateiname(pfad)).size();
+    std::string versuch = pfad;
+    for (int nummer = 1; !darf(versuch); ++nummer) {
+        versuch = pfad.substr(0, endung) + std::to_string(nummer) + pfad.substr(endung);
+    }
+    return versuch;
+}
+
 PfadTeile PfadZerlegen(std::string_view pfad) {
     PfadTeile teile{"?", "?", "?", "?"};
     // The second character, not byte: the first one may take several.

@@ -14,6 +14,10 @@
 // front.
 [[nodiscard]] bool NameBrauchbar(std::string_view name);
 
+// The first of X.pdf, X1.pdf, X2.pdf and so on that may be used, asked in turn.
+[[nodiscard]] std::string FreierPfad(const std::string& pfad,
+                                     const std::function<bool(const std::string&)>& darf);
+
 struct PfadTeile {
     std::string laufwerk, ordner, name, endung;
 };

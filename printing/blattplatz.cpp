@@ -4,6 +4,7 @@
 #include "core/formularfenster.h"
 #include "core/laufzeitfehler.h"
 #include "core/pfad.h"
+#include "core/pfadname.h"
 #include "core/programmstand.h"
 #include "printing/pdfpfad.h"
 #include "printing/pdftitel.h"
@@ -22,9 +23,9 @@ struct Gemerkt {
 Gemerkt gemerkt;
 
 // What can't be read is none of ours.
-bool TraegtTitel(const std::string& pfad, const std::string& titel) {
+bool IstBlattVon(const std::string& pfad, const std::string& titel) {
     try {
-        return PdfTitel(DateiLesen(pfad, groesstesBlatt)) == titel;
+        return IstUnserBlatt(DateiLesen(pfad, groesstesBlatt), titel);
     } catch (const Laufzeitfehler&) {
         return false;
     }
@@ -40,12 +41,12 @@ std::string Blatttitel(Formart art, const std::string& datei) {
 }
 
 std::string Blattplatz(Formart art, const std::string& datei) {
-    return FreierPdfPfad(PdfPfad(art, datei, Stand.AppPfad), [&](const std::string& pfad) {
+    return FreierPfad(PdfPfad(art, datei, Stand.AppPfad), [&](const std::string& pfad) {
         if (!DateiDa(pfad)) {
             return true; // a folder in the way is reported when the sheet is written
         }
         const bool gemeint = !datei.empty() || gemerkt == Gemerkt{Formularnummer(), pfad};
-        return gemeint && TraegtTitel(pfad, Blatttitel(art, datei));
+        return gemeint && IstBlattVon(pfad, Blatttitel(art, datei));
     });
 }
 

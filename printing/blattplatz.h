@@ -10,9 +10,9 @@
 [[nodiscard]] std::string Blatttitel(Formart art, const std::string& datei);
 
 // Path for the sheet of the open form, which lies in that file, "" for none: beside the form, under its name.
-// A file there is replaced only if it is a sheet of the same form, which its title tells; the title of a form
-// without a file is everybody's, so that it replaces only what was noted for it. Otherwise the next free
-// number is taken.
+// A file there is replaced only if it is a sheet that this program made for the same form, which it says of
+// itself; the title of a form without a file is everybody's, so that it replaces only what was noted for it.
+// Otherwise the next free number is taken.
 [[nodiscard]] std::string Blattplatz(Formart art, const std::string& datei);
 
 // Notes that the open form's sheet lies there.

@@ -4,6 +4,7 @@
 #include "core/meldungstext.h"
 #include "core/pfad.h"
 #include "core/programmstand.h"
+#include "printing/pdftitel.h"
 #include "printing/texte.h"
 
 #include <QCoreApplication>
@@ -50,7 +51,7 @@ std::unique_ptr<QPrinter> NeuerDrucker() {
     auto drucker = std::make_unique<QPrinter>(QPrinter::HighResolution);
     drucker->setPageSize(QPageSize(QPageSize::A4));
     drucker->setFullPage(true);
-    drucker->setCreator(QStringLiteral("Feldkranz!"));
+    drucker->setCreator(QLatin1String(blattersteller.data(), blattersteller.size())); // known by it again
     return drucker;
 }
 

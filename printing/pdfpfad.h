@@ -4,7 +4,6 @@
 
 #include "core/formart.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +13,3 @@
 
 // For a form of that kind; one without a path lies in the folder of its kind under appPfad.
 [[nodiscard]] std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad);
-
-// The first of X.pdf, X1.pdf, X2.pdf and so on that may be written: nothing stands there, or a sheet of the
-// same form.
-[[nodiscard]] std::string FreierPdfPfad(const std::string& pfad,
-                                        const std::function<bool(const std::string&)>& darf);

@@ -56,8 +56,8 @@ void ZeichenAnhaengen(std::string_view text, std::size_t& i, std::string& bytes)
     bytes += art == std::string_view::npos ? text[i] : zeichen[art];
 }
 
-// The bytes of a string in round brackets, from behind the first one on.
-std::optional<std::string> Klammertext(std::string_view text) {
+// The bytes of a string in round brackets, from behind the first one on; the text goes on behind the last.
+std::optional<std::string> Klammertext(std::string_view& text) {
     std::string bytes;
     int tiefe = 1;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -67,6 +67,7 @@ std::optional<std::string> Klammertext(std::string_view text) {
         }
         tiefe += text[i] == '(' ? 1 : text[i] == ')' ? -1 : 0;
         if (tiefe == 0) {
+            text.remove_prefix(i + 1);
             return bytes;
         }
         bytes += text[i];
@@ -117,21 +118,40 @@ std::string AlsUtf8(std::string_view bytes) {
     return text;
 }
 
+// The text behind a name, which doesn't count where it stands inside another text.
+std::optional<std::string> Angabe(std::string_view angaben, std::string_view name) {
+    while (!angaben.empty()) {
+        if (angaben.starts_with(name)) {
+            angaben = OhneLeeresVorn(angaben.substr(name.size()));
+            if (!angaben.starts_with('(')) {
+                return std::nullopt;
+            }
+            angaben.remove_prefix(1);
+            const auto text = Klammertext(angaben);
+            return text ? std::optional(AlsUtf8(*text)) : std::nullopt;
+        }
+        const bool klammer = angaben.front() == '(';
+        angaben.remove_prefix(1);
+        if (klammer && !Klammertext(angaben)) {
+            return std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
-std::optional<std::string> PdfTitel(std::string_view bytes) {
+PdfAngaben PdfAngabenLesen(std::string_view bytes) {
     const auto angaben = Angaben(bytes);
     if (!angaben) {
-        return std::nullopt;
+        return {};
     }
-    const std::size_t stelle = angaben->find("/Title");
-    if (stelle == std::string_view::npos) {
-        return std::nullopt;
-    }
-    const std::string_view wert = OhneLeeresVorn(angaben->substr(stelle + std::string_view("/Title").size()));
-    if (!wert.starts_with('(')) {
-        return std::nullopt;
-    }
-    const auto text = Klammertext(wert.substr(1));
-    return text ? std::optional(AlsUtf8(*text)) : std::nullopt;
+    return {Angabe(*angaben, "/Title"), Angabe(*angaben, "/Creator"), Angabe(*angaben, "/Producer")};
+}
+
+bool IstUnserBlatt(std::string_view bytes, std::string_view titel) {
+    const PdfAngaben angaben = PdfAngabenLesen(bytes);
+    const bool angehaengt = bytes.find("%%EOF") != bytes.rfind("%%EOF"); // notes that a viewer has put in
+    return angaben.titel == titel && angaben.ersteller == blattersteller &&
+           angaben.hersteller.value_or("").starts_with(blatthersteller) && !angehaengt;
 }

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-
 #include <array>
+#include <initializer_list>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -96,6 +98,17 @@ TEST(Dateiname, IsUsableWhenTheListsShowItAndSomethingNamesIt) {
     for (const char* name : {"", " ", "   ", ".", "..", ".FKR", ".TXT", "  .FKR", ".abend.FKR", " .x"}) {
         EXPECT_FALSE(NameBrauchbar(name)) << name;
     }
+}
+
+TEST(Dateiname, ANumberGoesBeforeTheExtensionUntilAPlaceIsFree) {
+    const auto ausser = [](std::initializer_list<std::string> besetzt) {
+        return [liste = std::vector<std::string>(besetzt)](const std::string& pfad) {
+            return std::ranges::find(liste, pfad) == liste.end();
+        };
+    };
+    EXPECT_EQ(FreierPfad("C\\K\\A.pdf", ausser({})), "C\\K\\A.pdf");
+    EXPECT_EQ(FreierPfad("C\\K.x\\A.b.pdf", ausser({"C\\K.x\\A.b.pdf"})), "C\\K.x\\A.b1.pdf");
+    EXPECT_EQ(FreierPfad("A.pdf", ausser({"A.pdf", "A1.pdf", "A2.pdf"})), "A3.pdf");
 }
 
 } // namespace

@@ -82,6 +82,8 @@ class BlattplatzTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { qputenv("CUPS_SERVER", "/gibt/es/nicht.sock"); }
     void aForeignFileOfTheSheetsNameStaysAndTheNextNumberIsTaken();
+    void aForeignFileOfTheSheetsTitleStaysToo();
+    void aSheetWithSomebodysNotesInItStays();
     void theSheetOfTheSameFormIsReplacedAlsoUnderItsNumber();
     void twoFormsOfOneNameHaveASheetEach();
     void eachFormWithoutANameHasASheetOfItsOwn();
@@ -104,6 +106,37 @@ void BlattplatzTest::aForeignFileOfTheSheetsNameStaysAndTheNextNumberIsTaken() {
     Drucken(programm);
     QCOMPARE(programm.ordner().lesen(fremd), QByteArray("kein PDF"));
     QVERIFY(Zeigt(programm, QStringLiteral("KRANZ/Runde2.pdf"), "Zauberflöte"));
+}
+
+// A file that a word processor made of the same form, named after it.
+void BlattplatzTest::aForeignFileOfTheSheetsTitleStaysToo() {
+    Programm programm;
+    Oeffnen(programm, "Runde.FKR", "Zauberflöte");
+    const QByteArray gleichnamig = QByteArray(fremdeBytes).replace("(Einladung)", "(Runde.FKR)");
+    const QByteArray fremdesProgramm =
+        QByteArray(gleichnamig)
+            .replace("(Runde.FKR)", "(Runde.FKR)\n/Creator (Schreiber)\n/Producer (Qt 6.4.2)");
+    for (const QByteArray& bytes : {gleichnamig, fremdesProgramm}) {
+        programm.ordner().schreiben(fremd, bytes);
+        Drucken(programm);
+        QCOMPARE(programm.ordner().lesen(fremd), bytes);
+        QVERIFY(Zeigt(programm, QStringLiteral("KRANZ/Runde1.pdf"), "Zauberflöte"));
+    }
+    QVERIFY(
+        !programm.ordner().vorhanden(QStringLiteral("KRANZ/Runde2.pdf"))); // that one was the program's own
+}
+
+// A viewer puts them behind what was there.
+void BlattplatzTest::aSheetWithSomebodysNotesInItStays() {
+    Programm programm;
+    Oeffnen(programm, "Runde.FKR", "Zauberflöte");
+    Drucken(programm);
+    const QByteArray benotet =
+        programm.ordner().lesen(fremd) + "9 0 obj\n<< /Contents (Notiz) >>\nendobj\n%%EOF\n";
+    programm.ordner().schreiben(fremd, benotet);
+    Drucken(programm);
+    QCOMPARE(programm.ordner().lesen(fremd), benotet);
+    QVERIFY(Zeigt(programm, QStringLiteral("KRANZ/Runde1.pdf"), "Zauberflöte"));
 }
 
 void BlattplatzTest::theSheetOfTheSameFormIsReplacedAlsoUnderItsNumber() {

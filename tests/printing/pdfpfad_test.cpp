@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <initializer_list>
 #include <string>
-#include <vector>
 
 TEST(PdfPfad, LiesBesideTheFormUnderItsName) {
     EXPECT_EQ(PdfPfadZu("C\\KRANZ\\Runde 1.FKR", "ohne"), "C\\KRANZ\\Runde 1.pdf");
@@ -24,15 +21,4 @@ TEST(PdfPfad, AFormWithoutANameHasAFixedOne) {
     EXPECT_EQ(PdfPfad(Formart::Test, "", app), "\\opt\\Feldkranz\\TEST\\Test.pdf");
     EXPECT_EQ(PdfPfad(Formart::Quiz, app + "\\KRANZ\\A.FKR", app), "\\opt\\Feldkranz\\KRANZ\\A.pdf");
     EXPECT_EQ(PdfPfad(Formart::Test, "\\home\\B.FKR", app), "\\home\\B.pdf");
-}
-
-TEST(PdfPfad, ANumberGoesBeforeTheExtensionUntilAPlaceIsFree) {
-    const auto ausser = [](std::initializer_list<std::string> besetzt) {
-        return [liste = std::vector<std::string>(besetzt)](const std::string& pfad) {
-            return std::ranges::find(liste, pfad) == liste.end();
-        };
-    };
-    EXPECT_EQ(FreierPdfPfad("C\\K\\A.pdf", ausser({})), "C\\K\\A.pdf");
-    EXPECT_EQ(FreierPdfPfad("C\\K.x\\A.b.pdf", ausser({"C\\K.x\\A.b.pdf"})), "C\\K.x\\A.b1.pdf");
-    EXPECT_EQ(FreierPdfPfad("A.pdf", ausser({"A.pdf", "A1.pdf", "A2.pdf"})), "A3.pdf");
 }

@@ -6,6 +6,10 @@
 
 namespace {
 
+std::optional<std::string> PdfTitel(std::string_view bytes) {
+    return PdfAngabenLesen(bytes).titel;
+}
+
 // A file with that title, written as the format wants it.
 std::string Datei(const std::string& titel) {
     return "%PDF-1.4\n1 0 obj\n<<\n/Title " + titel + "\n/Creator (Feldkranz!)\n>>\nendobj\n" +
@@ -52,4 +56,39 @@ TEST(PdfTitel, OfAnythingElseIsNone) {
     for (std::size_t laenge = 0; laenge + 20 < ganz.size(); ++laenge) {
         EXPECT_EQ(PdfTitel(ganz.substr(0, laenge)), std::nullopt) << laenge;
     }
+}
+
+namespace {
+
+// A file that says that of itself.
+std::string Blatt(const std::string& titel, const std::string& ersteller, const std::string& hersteller) {
+    return "%PDF-1.4\n1 0 obj\n<<\n/Title (" + titel + ")\n/Creator (" + ersteller + ")\n/Producer (" +
+           hersteller + ")\n>>\nendobj\ntrailer\n<<\n/Info 1 0 R\n>>\n%%EOF\n";
+}
+
+} // namespace
+
+TEST(PdfAngaben, AreEachTheirOwn) {
+    EXPECT_EQ(PdfAngabenLesen(Blatt("a", "b", "c")), (PdfAngaben{"a", "b", "c"}));
+    EXPECT_EQ(PdfAngabenLesen(Blatt("/Creator (x\\) /Producer)", "b", "c")),
+              (PdfAngaben{"/Creator (x) /Producer)", "b", "c"}));
+    EXPECT_EQ(PdfAngabenLesen(Datei("(a)")), (PdfAngaben{"a", "Feldkranz!", std::nullopt}));
+    EXPECT_EQ(PdfAngabenLesen("kein PDF"), PdfAngaben{});
+}
+
+TEST(UnserBlatt, IsKnownByTitleAndProgram) {
+    EXPECT_TRUE(IstUnserBlatt(Blatt("A.FKR", "Feldkranz!", "Qt 6.4.2"), "A.FKR"));
+    EXPECT_TRUE(IstUnserBlatt(Blatt("A.FKR", "Feldkranz!", "Qt 6.10.0"), "A.FKR")); // a newer toolkit since
+    EXPECT_FALSE(IstUnserBlatt(Blatt("B.FKR", "Feldkranz!", "Qt 6.4.2"), "A.FKR"));
+    EXPECT_FALSE(IstUnserBlatt(Blatt("A.FKR", "Schreiber 7", "Qt 6.4.2"), "A.FKR"));
+    EXPECT_FALSE(IstUnserBlatt(Blatt("A.FKR", "Feldkranz!", "Leser 2"), "A.FKR")); // saved anew by a viewer
+    EXPECT_FALSE(IstUnserBlatt(Blatt("A.FKR", "", "Qt 6.4.2"), "A.FKR"));
+    EXPECT_FALSE(IstUnserBlatt(Datei("(A.FKR)"), "A.FKR"));
+    EXPECT_FALSE(IstUnserBlatt("", ""));
+}
+
+TEST(UnserBlatt, WithNotesThatAViewerPutInIsNoLongerOnlyOurs) {
+    const std::string blatt = Blatt("A.FKR", "Feldkranz!", "Qt 6.4.2");
+    EXPECT_FALSE(IstUnserBlatt(
+        blatt + "9 0 obj\n<< /Contents (Notiz) >>\nendobj\ntrailer\n<<\n/Info 1 0 R\n>>\n%%EOF\n", "A.FKR"));
 }
