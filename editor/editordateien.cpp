@@ -14,6 +14,8 @@
 #include "editor/katalogtext.h"
 #include "editor/texte.h"
 #include "filetools/dateidialog.h"
+#include "persistence/dateiblick.h"
+#include "persistence/fremdfrage.h"
 #include "persistence/journal.h"
 #include "persistence/journalname.h"
 #include "persistence/sicherung.h"
@@ -66,16 +68,21 @@ std::string GewaehlteDatei() {
     return DateidialogZeigen(auswahl).value_or("");
 }
 
+struct Gelesenes {
+    Katalogtext katalog;
+    Dateistand stand;
+};
+
 // The text of a file, or nothing after the user was told why not.
-std::optional<Katalogtext> Gelesen(const std::string& pfad) {
-    std::optional<Katalogtext> gelesen;
+std::optional<Gelesenes> Gelesen(const std::string& pfad) {
+    std::optional<Gelesenes> gelesen;
     bool istText = true;
     Gelungen(ortLaden, [&] {
         const Wartezeiger warten;
         const std::string bytes = DateiLesen(pfad, groessterKatalogtext);
         istText = IstTextdatei(bytes);
         if (istText) {
-            gelesen = KatalogtextLesen(bytes);
+            gelesen = Gelesenes{KatalogtextLesen(bytes), StandVon(bytes)};
         }
     });
     if (!istText) {
@@ -85,13 +92,23 @@ std::optional<Katalogtext> Gelesen(const std::string& pfad) {
 }
 
 // While a part of the text stands in the field, it belongs to no file: nothing could be saved over the whole.
-void Zeigen(frmEditor& editor, const std::string& pfad, Katalogtext gelesen) {
+void Zeigen(frmEditor& editor, const std::string& pfad, Gelesenes gelesen) {
     const Wartezeiger warten;
     EditorpfadVergessen();
-    Editor.BemerkungMarke = std::move(gelesen.marke);
-    Editor.Bemerkung = std::move(gelesen.text);
+    Editor.BemerkungMarke = std::move(gelesen.katalog.marke);
+    Editor.Bemerkung = std::move(gelesen.katalog.text);
     editor.TextZeigen(Editor.Bemerkung, pfad);
     EditorpfadMerken(pfad);
+    Editor.Kenntnis = Dateikenntnis(std::move(gelesen.stand));
+    EditorStatusSetzen(false);
+}
+
+// A part of a text under the name of its file would be taken for the whole.
+void Leeren(frmEditor& editor) {
+    Editor.BemerkungMarke.clear();
+    Editor.Bemerkung.clear();
+    editor.txtNotiz->clear();
+    editor.NamenZeigen("");
     EditorStatusSetzen(false);
 }
 
@@ -110,23 +127,20 @@ void UngesichertesHolen(frmEditor& editor, const std::string& pfad) {
         return;
     }
     if (!selbst) {
-        std::optional<Katalogtext> text = Gelesen(EigenerPfad(*journal));
-        if (!text || !Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*text)); })) {
+        const Dateikenntnis datei = Editor.Kenntnis; // the text comes from elsewhere
+        std::optional<Gelesenes> text = Gelesen(EigenerPfad(*journal));
+        if (!text) {
             return;
         }
+        if (!Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*text)); })) {
+            Leeren(editor);
+            return;
+        }
+        Editor.Kenntnis = datei;
     }
     EditorStatusSetzen(true);
     EditorjournalUebernehmen(*journal);
     HilfeText(Einsetzen(persistenztexte::journalText, {NurDateiname(pfad)}));
-}
-
-// A part of a text under the name of its file would be taken for the whole.
-void Leeren(frmEditor& editor) {
-    Editor.BemerkungMarke.clear();
-    Editor.Bemerkung.clear();
-    editor.txtNotiz->clear();
-    editor.NamenZeigen("");
-    EditorStatusSetzen(false);
 }
 
 // --- Saving ---
@@ -140,13 +154,23 @@ std::optional<std::string> ErfragterName(const std::string& bisher) {
     return DateidialogZeigen(auswahl);
 }
 
-// False when the existing file is to stay.
-bool DarfUeberschreiben(const std::string& pfad) {
-    if (!DateiDa(pfad) || NachrichtJaNein(ueberschreiben, {NurDateiname(pfad)})) {
-        return true;
+// Where a text goes, and the content there that may be replaced without a question.
+struct Ziel {
+    std::string pfad;
+    Dateikenntnis bekannt;
+};
+
+// Nothing when the existing file is to stay.
+std::optional<Ziel> DarfUeberschreiben(const std::string& pfad) {
+    if (!DateiDa(pfad)) {
+        return Ziel{pfad, {}};
+    }
+    Ziel ziel{pfad, Angesehen(pfad)};
+    if (NachrichtJaNein(ueberschreiben, {NurDateiname(pfad)})) {
+        return ziel;
     }
     Meldung(abgebrochen);
-    return false;
+    return std::nullopt;
 }
 
 // The path of the editor's file. A slow disk is waited for here already.
@@ -155,11 +179,11 @@ std::string EigenerPfad() {
     return Editorpfad();
 }
 
-// A path for the text, or nothing, which the user knows.
-std::optional<std::string> Speicherpfad(Namensfrage wann) {
+// A place for the text, or nothing, which the user knows.
+std::optional<Ziel> Speicherziel(Namensfrage wann) {
     const std::string eigener = EigenerPfad();
     if (wann == Namensfrage::NurOhneDatei && !eigener.empty()) {
-        return eigener;
+        return Ziel{eigener, Editor.Kenntnis};
     }
     std::optional<std::string> pfad = ErfragterName(eigener);
     if (!pfad) {
@@ -176,15 +200,29 @@ std::optional<std::string> Speicherpfad(Namensfrage wann) {
     if (!Grossschreiben(*pfad).ends_with(".TXT")) {
         *pfad += ".TXT";
     }
-    return DarfUeberschreiben(*pfad) ? pfad : std::nullopt;
+    return DarfUeberschreiben(*pfad);
+}
+
+// The path that the text is going to be written to, its backup made; or nothing, which the user knows.
+std::optional<std::string> Schreibpfad(Namensfrage wann) {
+    const Fremdworte worte{persistenztexte::dieFragendatei, persistenztexte::neinAndererName};
+    for (;;) {
+        const std::optional<Ziel> ziel = Speicherziel(wann);
+        const Antwort antwort = ziel
+                                    ? FremdesFragen(ziel->pfad, worte, ziel->bekannt, SicherungAnlegenKatalog)
+                                    : Antwort::Abbrechen;
+        if (antwort != Antwort::Nein) {
+            return antwort == Antwort::Ja ? std::optional(ziel->pfad) : std::nullopt;
+        }
+        wann = Namensfrage::Immer;
+    }
 }
 
 // Writes mark and text. The old file is whole until the new one is. False after a failure, which is told.
 bool Geschrieben(const std::string& pfad) {
-    SicherungAnlegenKatalog(pfad);
     return Gelungen(ortDatei, [&pfad] {
         const Wartezeiger warten;
-        DateiSchreiben(pfad, KatalogtextBytes(Editor.BemerkungMarke, Editor.Bemerkung));
+        BekanntSchreiben(pfad, KatalogtextBytes(Editor.BemerkungMarke, Editor.Bemerkung), Editor.Kenntnis);
     });
 }
 
@@ -199,7 +237,7 @@ void KatalogLaden(frmEditor& editor) {
         Meldung(keineDatei);
         return;
     }
-    std::optional<Katalogtext> gelesen = Gelesen(pfad);
+    std::optional<Gelesenes> gelesen = Gelesen(pfad);
     if (gelesen && !Gelungen(ortLaden, [&] { Zeigen(editor, pfad, std::move(*gelesen)); })) {
         Leeren(editor);
     } else if (gelesen) {
@@ -212,7 +250,7 @@ bool KatalogSpeichern(frmEditor& editor, Namensfrage wann) {
         return false;
     }
     std::erase(Editor.Bemerkung, '\0'); // one pasted just now: the file wouldn't be opened again
-    const std::optional<std::string> pfad = Speicherpfad(wann);
+    const std::optional<std::string> pfad = Schreibpfad(wann);
     if (!pfad) {
         EditorpfadEinsetzen(); // the editor keeps the file it had
         return false;

@@ -2,6 +2,8 @@
 // files and the field, and the file that it belongs to. Lives as long as the process.
 #pragma once
 
+#include "persistence/dateistand.h"
+
 #include <string>
 
 struct Editordaten {
@@ -16,6 +18,9 @@ struct Editordaten {
     // Path of the editor's file in the program's own notation, "" for none, and the file that it meant when
     // it was noted, as the file system names it. Written by editor/editorpfad.
     std::string Pfad, Nativ;
+
+    // What is known of that file's content. Set by the editor's load and save.
+    Dateikenntnis Kenntnis;
 
     friend bool operator==(const Editordaten&, const Editordaten&) = default;
 };

@@ -22,6 +22,7 @@ void EditorpfadMerken(const std::string& pfad) {
 void EditorpfadVergessen() {
     Editor.Pfad.clear();
     Editor.Nativ.clear();
+    Editor.Kenntnis = {};
 }
 
 void EditorpfadEinsetzen() {

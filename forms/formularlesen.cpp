@@ -9,6 +9,7 @@
 #include "filetools/formularliste.h"
 #include "forms/formulare.h"
 #include "forms/oeffnen.h"
+#include "persistence/dateiblick.h"
 #include "persistence/formulardatei.h"
 #include "persistence/texte.h"
 #include "rules/wertebereiche.h"
@@ -22,6 +23,8 @@ using namespace persistenztexte;
 
 // A damaged file may hold any number of bad values: each costs a box, so the later ones go without.
 constexpr int hoechstensKaesten = 10;
+
+Dateistand gelesenerStand;
 
 void Fehlerkasten(const Laufzeitfehler& fehler) {
     Systemkasten(Kastenart::Schlicht, fehlerTitel,
@@ -78,7 +81,9 @@ std::optional<std::string> Bytes(const std::string& pfad) {
     while (danach == Danach::NochEinmal) {
         try {
             const Wartezeiger warten;
-            return FormularDatei(pfad);
+            std::string bytes = FormularDatei(pfad);
+            gelesenerStand = StandVon(bytes);
+            return bytes;
         } catch (const Laufzeitfehler& fehler) {
             danach = OeffnenGescheitert(fehler);
         }
@@ -161,4 +166,8 @@ Lesung FormularEinlesen(const std::string& pfad, const std::function<bool()>& vo
         return Lesung::Teilweise;
     }
     return bytes->empty() ? Lesung::Leer : Lesung::Ganz;
+}
+
+const Dateistand& GelesenerStand() {
+    return gelesenerStand;
 }

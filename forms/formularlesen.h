@@ -2,6 +2,8 @@
 // no window: that is FormularLaden in oeffnen.h.
 #pragma once
 
+#include "persistence/dateistand.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -17,3 +19,6 @@ enum class Lesung : std::uint8_t {
 
 // vorDemErsatz runs when the file is going to be taken and before it changes anything; false keeps it out.
 Lesung FormularEinlesen(const std::string& pfad, const std::function<bool()>& vorDemErsatz = {});
+
+// Content of the file that was read last, taken or not.
+[[nodiscard]] const Dateistand& GelesenerStand();

@@ -17,6 +17,7 @@ struct Gemerkt {
     QString nativ;
 };
 Gemerkt gemerkt;
+Dateikenntnis kenntnis;
 std::string vorschlag;
 
 std::map<Formart, std::string> gewaehlteOrdner;
@@ -38,8 +39,13 @@ void FormularpfadMerken(Formart art, const std::string& pfad) {
     OrdnerwahlMerken(art, gemerkt.nativ);
 }
 
+Dateikenntnis& Formularkenntnis() {
+    return kenntnis;
+}
+
 void FormularpfadVergessen(Formart art) {
     Formulardatei(art).clear();
+    kenntnis = {};
     vorschlag.clear();
 }
 

@@ -1,8 +1,9 @@
-// The path of the open form itself, together with the very file that it means, and where a form without one
-// goes.
+// The path of the open form itself, together with the very file that it means and what is known of its
+// content, and where a form without one goes.
 #pragma once
 
 #include "core/formart.h"
+#include "persistence/dateistand.h"
 
 #include <QString>
 
@@ -10,6 +11,9 @@
 
 // The open form's file is that path, exactly as it is found now.
 void FormularpfadMerken(Formart art, const std::string& pfad);
+
+// What the program has read from that file or written to it; who does either sets it.
+[[nodiscard]] Dateikenntnis& Formularkenntnis();
 
 // The open form has no file of its own: the next save asks for a name.
 void FormularpfadVergessen(Formart art);

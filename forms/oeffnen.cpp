@@ -36,6 +36,7 @@ void PfadUebernehmen(Formart art, const std::string& pfad, bool ganz) {
         NamenVorschlagen(pfad);
     } else {
         FormularpfadMerken(art, pfad);
+        Formularkenntnis() = Dateikenntnis(GelesenerStand());
     }
 }
 

@@ -13,7 +13,9 @@
 #include "forms/formularpfad.h"
 #include "forms/verlauf.h"
 #include "persistence/anfuehrungsorte.h"
+#include "persistence/dateiblick.h"
 #include "persistence/formulardatei.h"
+#include "persistence/fremdfrage.h"
 #include "persistence/sicherung.h"
 #include "persistence/texte.h"
 
@@ -39,7 +41,8 @@ Formularfenster* FormularVorbereiten() {
 void FormularSchreiben(Formularfenster& form, const std::string& pfad) {
     const Wartezeiger warten;
     form.KopfMerken();
-    DateiSchreiben(pfad, form.art() == Formart::Quiz ? FormularBytes(FKForm, Spiel) : FormularBytes(HBForm));
+    BekanntSchreiben(pfad, form.art() == Formart::Quiz ? FormularBytes(FKForm, Spiel) : FormularBytes(HBForm),
+                     Formularkenntnis());
     FormularpfadMerken(form.art(), pfad);
 }
 
@@ -58,13 +61,18 @@ std::string EigenerPfadVon(const Formularfenster& form) {
     return Formularpfad(form.art());
 }
 
-// True when the form stands in its file; everything else was told.
-bool FormularSpeichern(Formularfenster* form, const std::string& pfad) {
+// True when the form stands in its file or in another one; everything else was told. bekannt: the content
+// that may be replaced without a question.
+bool FormularSpeichern(Formularfenster* form, const std::string& pfad, const Dateikenntnis& bekannt = {}) {
     if (form == nullptr || NurDateiname(pfad).empty()) {
         Meldung(nameFehlt);
         return false;
     }
-    SicherungAnlegenForm(pfad);
+    const Antwort antwort =
+        FremdesFragen(pfad, {dieFormulardatei, neinAndererName}, bekannt, SicherungAnlegenForm);
+    if (antwort != Antwort::Ja) {
+        return antwort == Antwort::Nein && SpeichernUnter(Speicherart::Formular);
+    }
     if (IstGeleert() && pfad == Formulardatei(form->art())) {
         SicherungVorLeerung(pfad);
     }
@@ -99,21 +107,28 @@ std::string MitEndung(std::string pfad, std::string_view endung) {
     return pfad;
 }
 
-// Asks until the answer is Ja. False when the existing file is to stay.
-bool DarfUeberschreiben(const std::string& pfad, Speicherart art) {
+// Asks until the answer is Ja. The content that may be replaced, or nothing when the existing file is to
+// stay.
+std::optional<Dateikenntnis> DarfUeberschreiben(const std::string& pfad, Speicherart art) {
     if (!DateiDa(pfad)) {
-        return true;
+        return Dateikenntnis();
     }
+    const Dateikenntnis gefragt = Angesehen(pfad);
     const std::string_view wasDa = art == Speicherart::Ini ? dieIniDatei : dieAuswertung;
     Antwort antwort = Antwort::Nein;
     while (antwort != Antwort::Ja) {
         antwort = Nachricht(ueberschreiben, {wasDa, NurDateiname(pfad)});
         if (antwort == Antwort::Abbrechen) {
             Meldung(abgebrochen);
-            return false;
+            return std::nullopt;
         }
     }
-    return true;
+    return gefragt;
+}
+
+bool UnterNamenSpeichern(Formularfenster* form, const std::string& pfad, Speicherart art) {
+    const std::optional<Dateikenntnis> bekannt = DarfUeberschreiben(pfad, art);
+    return bekannt && FormularSpeichern(form, pfad, *bekannt);
 }
 
 // Where the dialog starts: a form without a file in the folder of its kind, one whose name is only proposed
@@ -156,7 +171,8 @@ bool Speichern() {
         return FormularSpeichern(form, {}); // which says that there is nothing to save
     }
     const std::string pfad = EigenerPfadVon(*form);
-    return pfad.empty() ? SpeichernUnter(Speicherart::Formular) : FormularSpeichern(form, pfad);
+    return pfad.empty() ? SpeichernUnter(Speicherart::Formular)
+                        : FormularSpeichern(form, pfad, Formularkenntnis());
 }
 
 bool SpeichernUnter(Speicherart art) {
@@ -167,12 +183,12 @@ bool SpeichernUnter(Speicherart art) {
     SoundSpielen("freiz_2");
     const std::optional<std::string> gewaehlt = NameErfragen(form->art(), Namensvorschlag(form->art()));
     const std::string pfad = MitEndung(gewaehlt.value_or(""), art == Speicherart::Ini ? ".INI" : ".FKR");
-    if (!gewaehlt || !NameErlaubt(*gewaehlt) || !DarfUeberschreiben(pfad, art) ||
-        !FormularSpeichern(form, pfad)) {
+    if (!gewaehlt || !NameErlaubt(*gewaehlt) || !UnterNamenSpeichern(form, pfad, art)) {
         static_cast<void>(Formularpfad(form->art())); // the form keeps the file it had
         return false;
     }
-    form->TitelSetzen(NurDateiname(pfad) + " ");
+    form->TitelSetzen(NurDateiname(Formulardatei(form->art())) +
+                      " "); // the name may have been asked for again
     return true;
 }
 

@@ -34,6 +34,7 @@ bool EinstellungenErledigt() {
     if (antwort == Antwort::Ja) {
         try {
             const Wartezeiger warten;
+            FremdeEinstellungenAufheben(); // one question more would only be in the way here
             EinstellungenSchreiben();
         } catch (const Laufzeitfehler& fehler) {
             Meldung(persistenztexte::iniFehler, {fehler.text()});

@@ -20,6 +20,21 @@ inline constexpr std::string_view dieAuswertung = "Die Auswertung"; // also for 
 inline constexpr std::string_view dieIniDatei = "Die Ini-Datei";
 inline constexpr std::string_view speichernUnter = "Speichern unter ...";
 
+// --- What others have written meanwhile; {} is the file, its name, and what Nein means ---
+
+inline constexpr NachrichtText fremdGeaendert{
+    7, "Da war jemand dran !",
+    "{}\r\n[ {} ]\r\nist nicht mehr so, wie ich sie kenne !\r\nSoll ich sie überschreiben ?\r\n{}", 2, 1111};
+inline constexpr NachrichtText fremdUnlesbar{
+    7, "Da komme ich nicht dran !",
+    "{}\r\n[ {} ]\r\nkann ich gerade nicht nachlesen !\r\nSoll ich sie überschreiben ?\r\n{}", 2, 1111};
+inline constexpr MeldungsText fremdesBleibt{7, "Nichts gespeichert !\r\n[ {} ]\r\nbleibt, wie sie ist.", "1",
+                                            "Vorsicht ist besser"};
+inline constexpr std::string_view dieFormulardatei = "Die Formulardatei";
+inline constexpr std::string_view dieFragendatei = "Die Fragendatei";
+inline constexpr std::string_view neinAndererName = "( Nein : Du nennst mir einen anderen Namen )";
+inline constexpr std::string_view neinBleibt = "( Nein : Ich lasse sie in Ruhe )";
+
 // --- Backup ---
 
 inline constexpr MeldungsText sicherungAngelegt{7, "BackUp angelegt :   [ {} ]", "994", "Schön"};

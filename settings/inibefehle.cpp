@@ -1,9 +1,11 @@
 // The commands of the settings dialog: presets, loading and saving them, applying and cancelling.
 #include "core/hauptfenster.h"
+#include "core/pfadname.h"
 #include "core/schritt.h"
 #include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "persistence/einstellungenladen.h"
+#include "persistence/fremdfrage.h"
 #include "persistence/texte.h"
 #include "quizform/fkformular.h"
 #include "rules/spezialarten.h"
@@ -18,6 +20,17 @@ namespace {
 
 constexpr int tabSpezial = 0;
 constexpr int vollesBrett = 30;
+
+// The settings have one file and no other name: Nein leaves it as Abbrechen does, and is told the same.
+bool IniUeberschreibbar() {
+    using namespace persistenztexte;
+    const std::string pfad = Einstellungspfad();
+    const Antwort antwort = FremdesFragen(pfad, {dieIniDatei, neinBleibt}, Einstellungskenntnis());
+    if (antwort == Antwort::Nein) {
+        Meldung(fremdesBleibt, {NurDateiname(pfad)});
+    }
+    return antwort == Antwort::Ja;
+}
 
 } // namespace
 
@@ -96,7 +109,7 @@ void frmIni::EinstellungenLaden() {
 }
 
 void frmIni::EinstellungenSpeichern() {
-    if (!Bestaetigt(initexte::standardSpeichern)) {
+    if (!Bestaetigt(initexte::standardSpeichern) || !IniUeberschreibbar()) {
         return;
     }
     StandardUebernehmen(vorgaben_, Spiel);

@@ -1,6 +1,8 @@
 // Saving the settings while the disk fails: from their dialog, and at the end of the program.
 #include "core/hauptfenster.h"
 #include "mainwindow/frmMDI.h"
+#include "mainwindow/programmende.h"
+#include "persistence/einstellungenladen.h"
 #include "tests/settings/inihilfe.h"
 #include "tests/stoerung/platte.h"
 
@@ -21,12 +23,14 @@ class StoerungEinstellungenTest : public QObject {
 private Q_SLOTS:
     void whicheverCallFailsTheFileIsWholeAndTheWindowSaysWhatHappened();
     void whicheverCallFailsWhileTheFileIsWrittenInPlaceNothingIsLost();
+    void whicheverCallFailsAnotherProgramsWorkStays();
     void aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing();
     void aDiskLosesNothingAndIsToldAsItIs_data() { PlattenEintragen(); }
     void aDiskLosesNothingAndIsToldAsItIs();
     void aSlowDiskIsWaitedForUnderTheHourglass();
     void anEndOfTheProgramWaitsForASlowDiskUnderTheHourglass();
     void anEndOfTheProgramTellsThatTheSettingsWereNotSaved();
+    void whicheverCallFailsAtTheEndAnotherProgramsSettingsAreKept();
 
 private:
     static Speicherfall Fall(const Programm& programm, QDialog& dialog);
@@ -41,6 +45,8 @@ Speicherfall StoerungEinstellungenTest::Fall(const Programm& programm, QDialog& 
     fall.speichern = [&dialog] { Druecke(dialog, "cmdIniSpeichern"); };
     fall.frage = [](Dialogfolge& dialoge) { dialoge.frage(frageTitel, frageText, 1); };
     fall.aendern = [] {};
+    fall.kennen = EinstellungenLesen;
+    fall.fremdfrage = {QStringLiteral("Die Ini-Datei"), fall.name, neinBleibt};
     fall.inhalt = [&dialog] { return Zahlen(dialog, QStringLiteral("pnlPunkteV")).join(QLatin1Char(' ')); };
     fall.bedienen = [&dialog] { Drehe(dialog, QStringLiteral("spnPunkteV"), 0, true); };
     fall.gescheitert = [](const Fehlgrund& grund) -> Meldungserwartung {
@@ -79,6 +85,14 @@ void StoerungEinstellungenTest::whicheverCallFailsWhileTheFileIsWrittenInPlaceNo
             probe.JederVersagt({ENOSPC, EACCES, EIO}, Verschlossen(fall.ordner.toStdString()));
         QVERIFY2(klagen.isEmpty(), qPrintable(klagen));
         QVERIFY2(probe.gerufen("ftruncate"), "no file was written in place");
+    });
+}
+
+void StoerungEinstellungenTest::whicheverCallFailsAnotherProgramsWorkStays() {
+    ImFall([](const Speicherfall& fall) {
+        Speicherprobe probe(fall);
+        const QString klage = probe.FremdesBleibt({EIO, EACCES, ENODEV, ENOMEM});
+        QVERIFY2(klage.isEmpty(), qPrintable(klage));
     });
 }
 
@@ -151,6 +165,39 @@ void StoerungEinstellungenTest::anEndOfTheProgramTellsThatTheSettingsWereNotSave
     QVERIFY(programm.haupt()->isVisible());
     QCOMPARE(programm.ordner().lesen(ini), vorher);
     QCOMPARE(Lebensklage(), QString());
+}
+
+// In its place or beside it, whether one call fails or all from one on.
+void StoerungEinstellungenTest::whicheverCallFailsAtTheEndAnotherProgramsSettingsAreKept() {
+    const Programm programm;
+    const QByteArray fremd = "von jemand anderem";
+    const QDir ordner(programm.ordner().nativ(QStringLiteral("CONFIG")));
+    Mitschrift mitschrift;
+    int aufrufe = 1;
+    for (const bool fuerImmer : {false, true}) {
+        for (int nummer = 0; nummer <= aufrufe; ++nummer) {
+            for (const QString& name : ordner.entryList({QStringLiteral("*.BAK")}, QDir::Files)) {
+                QVERIFY(QFile::remove(ordner.filePath(name)));
+            }
+            programm.ordner().schreiben(QStringLiteral("CONFIG/Feldkranz.INI"), fremd);
+            ProgrammBeendenDurch([] {});
+            {
+                const Stoerung stoerung({ordner.path().toStdString()}, [=](const Aufruf& aufruf) {
+                    return aufruf.nummer == nummer || (fuerImmer && aufruf.nummer > nummer) ? EIO : 0;
+                });
+                ProgrammEnde();
+                aufrufe = qMax(aufrufe, fuerImmer ? 0 : static_cast<int>(stoerung.aufrufe().size()));
+            }
+            const QStringList texte = mitschrift.Holen();
+            QVERIFY(texte.size() <= 1 && (nummer > 0 || fuerImmer || texte.isEmpty()));
+            const QStringList namen = ordner.entryList({QStringLiteral("Feldkranz*")}, QDir::Files);
+            QVERIFY(std::ranges::any_of(
+                namen, [&](const QString& name) { return Dateibytes(ordner.filePath(name)) == fremd; }));
+            QCOMPARE(Lebensklage(), QString());
+        }
+    }
+    ProgrammBeendenDurch({});
+    QVERIFY(aufrufe > 20);
 }
 
 QTEST_MAIN(StoerungEinstellungenTest)

@@ -2,10 +2,12 @@
 #include "core/hauptfenster.h"
 #include "core/programmstand.h"
 #include "formlauf.h"
+#include "forms/formularpfad.h"
 #include "forms/oeffnen.h"
 #include "forms/speichern.h"
 #include "forms/verlauf.h"
 #include "mainwindow/frmMDI.h"
+#include "persistence/dateiblick.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
 #include "testform/frmHBFragen.h"
@@ -42,6 +44,8 @@ private Q_SLOTS:
     void whicheverCallFailsTheFileIsWholeAndTheWindowSaysWhatHappened();
     void whicheverCallFailsWhileTheFileIsWrittenInPlaceNothingIsLost_data() { Arten(); }
     void whicheverCallFailsWhileTheFileIsWrittenInPlaceNothingIsLost();
+    void whicheverCallFailsAnotherProgramsWorkStays_data() { Arten(); }
+    void whicheverCallFailsAnotherProgramsWorkStays();
     void aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing_data() { Arten(); }
     void aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing();
     void aDiskLosesNothingAndIsToldAsItIs_data();
@@ -98,6 +102,11 @@ Speicherfall StoerungFormulareTest::Fall() {
         GespeichertVergessen(); // as after a save that failed
         FormStatusSetzen(true);
     };
+    fall.kennen = [alt = fall.alt] {
+        Formularkenntnis() =
+            Dateikenntnis(StandVon(std::string_view(alt.data(), static_cast<std::size_t>(alt.size()))));
+    };
+    fall.fremdfrage = {QStringLiteral("Die Formulardatei"), QStringLiteral("STOERUNG.FKR")};
     fall.inhalt = [] { return Kasten()->toPlainText(); };
     fall.bedienen = [] { QTest::keyClicks(Kasten(), QStringLiteral("x")); };
     fall.gelungen = {QStringLiteral("Datei gespeichert unter  [ STOERUNG.FKR ]"), QStringLiteral("Schön")};
@@ -121,6 +130,12 @@ void StoerungFormulareTest::whicheverCallFailsWhileTheFileIsWrittenInPlaceNothin
     const QString klagen = probe.JederVersagt({ENOSPC, EACCES, EIO}, Verschlossen(fall.ordner.toStdString()));
     QVERIFY2(klagen.isEmpty(), qPrintable(klagen));
     QVERIFY2(probe.gerufen("ftruncate"), "no file was written in place");
+}
+
+void StoerungFormulareTest::whicheverCallFailsAnotherProgramsWorkStays() {
+    Speicherprobe probe(Fall());
+    const QString klage = probe.FremdesBleibt({EIO, EACCES, ENODEV, ENOMEM});
+    QVERIFY2(klage.isEmpty(), qPrintable(klage));
 }
 
 void StoerungFormulareTest::aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing() {

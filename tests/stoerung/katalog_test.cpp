@@ -1,4 +1,5 @@
 // Saving a catalogue file from the editor while the disk fails, in the editor's real window.
+#include "persistence/dateiblick.h"
 #include "tests/editor/editorlauf.h"
 #include "tests/stoerung/platte.h"
 
@@ -14,6 +15,7 @@ private Q_SLOTS:
 
     void whicheverCallFailsTheFileIsWholeAndTheWindowSaysWhatHappened();
     void whicheverCallFailsWhileTheFileIsWrittenInPlaceNothingIsLost();
+    void whicheverCallFailsAnotherProgramsWorkStays();
     void aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing();
     void aDiskLosesNothingAndIsToldAsItIs_data() { PlattenEintragen(); }
     void aDiskLosesNothingAndIsToldAsItIs();
@@ -40,6 +42,11 @@ Speicherfall StoerungKatalogTest::Fall() {
     fall.speichern = [this] { Druecken(editor, cmdDatei0); };
     fall.ungesichert = [this] { return IstRot(editor) && Stand.EditorGeaendert; };
     fall.aendern = [] { EditorStatusSetzen(true); };
+    fall.kennen = [] {
+        Editor.Kenntnis =
+            Dateikenntnis(StandVon(std::string_view(knoten.data(), static_cast<std::size_t>(knoten.size()))));
+    };
+    fall.fremdfrage = {QStringLiteral("Die Fragendatei"), fall.name};
     fall.inhalt = [this] { return Text(editor); };
     fall.bedienen = [this] { Tippen(editor, QStringLiteral("x")); };
     fall.gelungen = {QStringLiteral("Fragen sind gespeichert unter\n[ KN.TXT ] !"),
@@ -64,6 +71,12 @@ void StoerungKatalogTest::whicheverCallFailsWhileTheFileIsWrittenInPlaceNothingI
     const QString klagen = probe.JederVersagt({ENOSPC, EACCES, EIO}, Verschlossen(fall.ordner.toStdString()));
     QVERIFY2(klagen.isEmpty(), qPrintable(klagen));
     QVERIFY2(probe.gerufen("ftruncate"), "no file was written in place");
+}
+
+void StoerungKatalogTest::whicheverCallFailsAnotherProgramsWorkStays() {
+    Speicherprobe probe(Fall());
+    const QString klage = probe.FremdesBleibt({EIO, EACCES, ENODEV, ENOMEM});
+    QVERIFY2(klage.isEmpty(), qPrintable(klage));
 }
 
 void StoerungKatalogTest::aDiskThatGoesForGoodInTheMiddleOfASaveLosesNothing() {

@@ -28,20 +28,27 @@ Mitschrift::~Mitschrift() {
 }
 
 QStringList Mitschrift::Holen() {
+    seitHolen_ = 0;
     return std::exchange(texte_, {});
+}
+
+QStringList Mitschrift::Fragen() {
+    return std::exchange(fragen_, {});
 }
 
 void Mitschrift::Beantworten(QDialog& dialog) {
     const QString name = dialog.objectName();
     const bool meldung = name == QStringLiteral("frmMeldung");
-    if (name != QStringLiteral("frmNachricht")) {
+    if (name == QStringLiteral("frmNachricht")) {
+        fragen_ << Dialogtext(dialog);
+    } else {
         texte_ << (meldung ? QString() : name + QStringLiteral(": ")) + Dialogtext(dialog);
     }
-    if (texte_.size() > hoechstens) {
-        qFatal("The dialogs have no end, the last was %s", qPrintable(texte_.last()));
+    if (++seitHolen_ > hoechstens) {
+        qFatal("The dialogs have no end, the last was %s", qPrintable(Dialogtext(dialog)));
     }
     const QStringList tasten{QStringLiteral("cmdKenntnis"), QStringLiteral("cmdAntwort(4)"),
-                             QStringLiteral("cmdAntwort(0)")};
+                             ablehnen_ ? QStringLiteral("cmdAntwort(2)") : QStringLiteral("cmdAntwort(0)")};
     for (const QString& taste : tasten) {
         auto* knopf = dialog.findChild<QAbstractButton*>(taste);
         if (knopf != nullptr && knopf->isVisible() && knopf->isEnabled()) {

@@ -111,9 +111,13 @@ void Freigeben(const Speicherfall& /*fall*/) {
     QCOMPARE(::waitpid(sperrer, nullptr, 0), sperrer);
 }
 
-void Erwarten(Dialogfolge& dialoge, const Speicherfall& fall, const Meldungserwartung& meldung) {
+void Erwarten(Dialogfolge& dialoge, const Speicherfall& fall, const Meldungserwartung& meldung,
+              bool unlesbar = false) {
     if (fall.frage) {
         fall.frage(dialoge);
+    }
+    if (unlesbar) {
+        dialoge.frage(unlesbarTitel, fall.fremdfrage.unlesbar(), 6);
     }
     if (!meldung.text.isEmpty()) {
         dialoge.meldung(meldung.text, meldung.taste);
@@ -146,8 +150,8 @@ const std::vector<Platte>& Platten() {
         {"with a folder that takes nothing", 0, Verschlossen},
         {"with a file that is executed", ETXTBSY, Immer(OeffnetAltes, ETXTBSY)},
         {"busy", EBUSY, Immer(Aendert, EBUSY)},
-        {"pulled out", ENODEV, Immer(Jeder, ENODEV)},
-        {"broken", EIO, Immer(Jeder, EIO)},
+        {.name = "pulled out", .fehlernummer = ENODEV, .regel = Immer(Jeder, ENODEV), .unlesbar = true},
+        {.name = "broken", .fehlernummer = EIO, .regel = Immer(Jeder, EIO), .unlesbar = true},
         {"that locks every new file", 0, Immer(Sperrt, EWOULDBLOCK)},
         {"with the file locked by another process", 0, {}, Sperren, Freigeben},
         {"without the folder", ENOENT, {}, OrdnerWeg, OrdnerZurueck, ImOrdnerBeiseite},
@@ -176,7 +180,8 @@ void PlatteErproben(const Speicherfall& fall, const Platte& platte) {
         Dialogfolge dialoge;
         Erwarten(dialoge, fall,
                  platte.fehlernummer == 0 ? fall.gelungen
-                                          : fall.gescheitert(Schreibgrund(platte.fehlernummer)));
+                                          : fall.gescheitert(Schreibgrund(platte.fehlernummer)),
+                 platte.unlesbar);
         fall.speichern();
         QVERIFY(dialoge.fertig());
     }

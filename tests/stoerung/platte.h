@@ -14,6 +14,8 @@ struct Platte {
     std::function<void(const Speicherfall&)> heilen{};
     // Where the old file lies meanwhile, if not in its place.
     std::function<QString(const Speicherfall&)> alterOrt{};
+    // Not even the look at the old file comes about, so that it is asked about.
+    bool unlesbar = false;
 };
 
 [[nodiscard]] const std::vector<Platte>& Platten();

@@ -69,12 +69,17 @@ Meldungserwartung Fehlerbericht(const QString& ort, const Fehlgrund& grund) {
     return {ort + QStringLiteral(" :\n") + was, QStringLiteral("Grrr.. *~§§°")};
 }
 
-void Speicherfall::Anfang() const {
+void Speicherfall::Ablegen(const QByteArray& bytes) const {
     QFile::remove(pfad());
     QFile datei(pfad());
-    if (!datei.open(QIODevice::WriteOnly) || datei.write(alt) != alt.size()) {
+    if (!datei.open(QIODevice::WriteOnly) || datei.write(bytes) != bytes.size()) {
         VersagenUndEnde(QStringLiteral("The old file can't be put there"), Stelle::hier());
     }
+}
+
+void Speicherfall::Anfang() const {
+    Ablegen(alt);
+    kennen();
     aendern();
 }
 
@@ -194,13 +199,52 @@ QString Speicherprobe::Speichern(const Regel& regel, int fehlernummer) {
     if (!klage.isEmpty()) {
         return klage;
     }
+    const QByteArray vorher = Dateibytes(fall_.pfad());
+    const bool eigen = vorher.isNull() || vorher == fall_.alt || vorher == neu_;
     fall_.aendern();
+    (void)mitschrift_.Fragen();
     fall_.speichern();
     const QString gesagt = mitschrift_.Holen().join(QStringLiteral(" / "));
     const bool rot = fall_.ungesichert && fall_.ungesichert();
-    return gesagt == fall_.gelungen.text && !rot && Dateibytes(fall_.pfad()) == neu_
+    if (gesagt != fall_.gelungen.text || rot || Dateibytes(fall_.pfad()) != neu_) {
+        return QStringLiteral("the next save doesn't come about: ") + gesagt;
+    }
+    return mitschrift_.Fragen().size() == (fall_.frage ? 1 : 0) || !eigen
                ? QString()
-               : QStringLiteral("the next save doesn't come about: ") + gesagt;
+               : QStringLiteral("the program takes its own file for another one's");
+}
+
+QString Speicherprobe::FremdesBleibt(const std::vector<int>& fehlernummern) {
+    const QByteArray fremd = "von jemand anderem";
+    const QString inhalt = fall_.inhalt();
+    mitschrift_.Ablehnen(true);
+    QString klage;
+    for (const int fehlernummer : fehlernummern) {
+        int aufrufe = 1;
+        for (int nummer = 0; nummer <= aufrufe && klage.isEmpty(); ++nummer) {
+            fall_.Anfang();
+            fall_.Ablegen(fremd);
+            (void)mitschrift_.Fragen();
+            {
+                const Stoerung stoerung({fall_.ordner.toStdString()}, [=](const Aufruf& aufruf) {
+                    return aufruf.nummer == nummer ? fehlernummer : 0;
+                });
+                fall_.speichern();
+                aufrufe = qMax(aufrufe, static_cast<int>(stoerung.aufrufe().size()));
+            }
+            (void)mitschrift_.Holen();
+            const QString frage = mitschrift_.Fragen().value(fall_.frage ? 1 : 0);
+            const bool gefragt =
+                frage == fall_.fremdfrage.geaendert() || frage == fall_.fremdfrage.unlesbar();
+            klage = Dateibytes(fall_.pfad()) != fremd ? QStringLiteral("it is gone; ")
+                    : gefragt                         ? Fensterklage(false, inhalt)
+                                                      : QStringLiteral("nobody was asked; ");
+            klage += klage.isEmpty() ? QString()
+                                     : QStringLiteral("errno %1 at call %2").arg(fehlernummer).arg(nummer);
+        }
+    }
+    mitschrift_.Ablehnen(false);
+    return klage;
 }
 
 QString Speicherprobe::Klagen(const std::function<Regel(int)>& regel, int anzahl, int fehlernummer) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/hilfe/dialogfolge.h"
+#include "tests/persistence/fremdhilfe.h"
 #include "tests/stoerung/mitschrift.h"
 #include "tests/stoerung/stoerung.h"
 
@@ -36,13 +37,16 @@ struct Speicherfall {
     std::function<void(Dialogfolge&)> frage{}; // the question before the save; none where none comes
     std::function<bool()> ungesichert{};       // by the flag; none where there is no flag
     std::function<void()> aendern{};           // unsaved again, with the same content
+    std::function<void()> kennen{};            // the old file counts as the one that the program has read
+    Fremdfrage fremdfrage{};                   // the question about a file that isn't that one
     std::function<QString()> inhalt{};         // what the window shows
     std::function<void()> bedienen{};          // by mouse or keyboard: the window shows something else then
     Meldungserwartung gelungen{};              // about a save that came about; no text where none is told
     std::function<Meldungserwartung(const Fehlgrund& grund)> gescheitert{}; // and about one that didn't
 
     [[nodiscard]] QString pfad() const { return ordner + QLatin1Char('/') + name; }
-    // The old file put there, and the window unsaved.
+    void Ablegen(const QByteArray& bytes) const;
+    // The old file put there and known, and the window unsaved.
     void Anfang() const;
 };
 
@@ -60,6 +64,9 @@ public:
     // The same with each call of a save failing in turn; immer is in force all the time. The first
     // complaints, or "".
     [[nodiscard]] QString JederVersagt(const std::vector<int>& fehlernummern, const Regel& immer = {});
+    // What somebody else has written since, with each call of a save failing in turn and the question about
+    // it answered Abbrechen: it stands there as it is. The first complaint, or "".
+    [[nodiscard]] QString FremdesBleibt(const std::vector<int>& fehlernummern);
     // From each call of a save on: a broken disk fails every call, a full one takes nothing more.
     [[nodiscard]] QString KaputtAb(const Regel& immer = {});
     [[nodiscard]] QString VollAb(const Regel& immer = {});
