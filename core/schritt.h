@@ -28,7 +28,7 @@ struct Schrittbeobachter {
     std::function<void(std::string_view name, int gruppe)> endet;
 };
 // The one observer of all steps; a later one replaces it.
-void SchritteBeobachten(Schrittbeobachter beobachter);
+void SchritteBeobachten(Schrittbeobachter neuer);
 
 // True while a step is being done.
 [[nodiscard]] bool SchrittLaeuft();

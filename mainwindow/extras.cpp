@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 
 namespace {
 

@@ -133,6 +133,8 @@ void FremdformTest::abbrechenLeavesTheFileAndIsNoSave() {
 }
 
 void FremdformTest::closingTheQuestionByItsFrameDestroysNothing() {
+    Kasten()->selectAll();
+    Tippen(QStringLiteral("zuerst"));
     Fremdschreiben();
     Dialogfolge dialoge;
     FremdErwarten(dialoge, fremdfrage, 6);
@@ -140,7 +142,6 @@ void FremdformTest::closingTheQuestionByItsFrameDestroysNothing() {
     Sichern();
     Kasten()->selectAll();
     Tippen(QStringLiteral("getippt"));
-    FormStatusSetzen(true);
     Fremdschreiben();
     FremdGeschlossen(dialoge, fremdfrage); // the Ja before doesn't hold any more
     BleibtErwarten(dialoge, abend);

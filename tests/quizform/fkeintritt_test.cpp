@@ -85,11 +85,9 @@ void FkEintrittTest::aDragBegunFromTheSelectionDialogAndAbandonedChangesNothing(
     QTRY_VERIFY(auswahl->isActiveWindow());
     FK_FragenLoeschen();
     form->txtFrage.at(1)->setText("eine Frage");
-    FormStatusSetzen(false);
     maus::Ziehen(form->txtFrage.at(1), form->txtAntwort.at(2), Qt::ShiftModifier);
     maus::Klicken(form->txtNr);
     QTRY_VERIFY(form->txtNr->hasFocus());
-    QVERIFY(!Stand.FormGeaendert);
     QCOMPARE(FKForm.FrageText.at(7), std::string("Frage 7")); // nothing was merged
 }
 
