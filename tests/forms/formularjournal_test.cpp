@@ -11,6 +11,7 @@
 #include "mainwindow/frmMDI.h"
 #include "quizform/fkformular.h"
 #include "rules/spielwerte.h"
+#include "testform/frmHBFragen.h"
 #include "tests/hilfe/finden.h"
 #include "tests/persistence/formlauf.h"
 
@@ -38,6 +39,8 @@ private Q_SLOTS:
 
     void unsavedWorkLiesBesideTheFormAfterTwoSeconds();
     void aFormWithoutAFileHasItsJournalInTheFolderOfItsKind();
+    void aTestFormHasItsJournalInItsOwnFolder();
+    void aFolderThatHasGoneIsToldAndTheWorkGoesOn();
     void undoingTakesTheJournalAway();
     void aSaveTakesTheJournalAway();
     void aDiscardedFormTakesItsJournalAlong();
@@ -101,6 +104,32 @@ void FormularjournalTest::unsavedWorkLiesBesideTheFormAfterTwoSeconds() {
 void FormularjournalTest::aFormWithoutAFileHasItsJournalInTheFolderOfItsKind() {
     lauf.NeuesFormular(QStringLiteral("Neu"));
     QTRY_VERIFY(Da(QStringLiteral("~NEU.BAK")));
+}
+
+void FormularjournalTest::aTestFormHasItsJournalInItsOwnFolder() {
+    const Programmordner& ordner = lauf.programm().ordner();
+    const frmHBFragen* form = lauf.programm().NeuesTestformular();
+    QTest::keyClicks(form->txtFrage.at(1), QStringLiteral("Knoten"));
+    QTRY_VERIFY(ordner.vorhanden(QStringLiteral("TEST/~NEU.BAK")));
+    QVERIFY(ordner.lesen(QStringLiteral("TEST/~NEU.BAK")).contains("Knoten"));
+    FormulareEntladen();
+    QTRY_VERIFY(!ordner.vorhanden(QStringLiteral("TEST/~NEU.BAK")));
+}
+
+void FormularjournalTest::aFolderThatHasGoneIsToldAndTheWorkGoesOn() {
+    const Programmordner& ordner = lauf.programm().ordner();
+    ordner.schreiben(QStringLiteral("STICK/ABEND.FKR"), Formlauf::Quiz("Alt"));
+    FormularLaden(Stand.AppPfad + "\\STICK\\ABEND.FKR");
+    QVERIFY(QDir(ordner.nativ(QStringLiteral("STICK"))).removeRecursively());
+    QTest::keyClicks(FKFragenOffen()->txtFrage.at(5), QStringLiteral("x"));
+    QTRY_COMPARE(Hilfe(), QStringLiteral("Nebenher sichern kann ich gerade nicht (Pfad nicht gefunden) - "
+                                         "speichere lieber bald selbst !"));
+    HilfeText("");
+    QTest::keyClicks(FKFragenOffen()->txtFrage.at(5), QStringLiteral("y"));
+    ordner.schreiben(QStringLiteral("STICK/DA.TXT"), "wieder da");
+    QTest::keyClicks(FKFragenOffen()->txtFrage.at(5), QStringLiteral("z"));
+    QTRY_VERIFY(ordner.lesen(QStringLiteral("STICK/~ABEND.BAK")).contains("xyz"));
+    QCOMPARE(Hilfe(), QString());
 }
 
 void FormularjournalTest::undoingTakesTheJournalAway() {

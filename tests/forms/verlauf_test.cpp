@@ -5,6 +5,7 @@
 #include "core/schritt.h"
 #include "forms/formulare.h"
 #include "tests/forms/verlaufhilfe.h"
+#include "tests/hilfe/bild.h"
 #include "tests/quizform/formhilfe.h"
 
 #include <QMenu>
@@ -408,6 +409,12 @@ void VerlaufTest::theMenuDoesWhatTheKeysDo() {
     QCOMPARE(FK_Frage(1), std::string("eins"));
     Betreten(form->txtFrage.at(2));
     QTRY_VERIFY(Eintrag(1)->isEnabled());
+    auto* menue = Finden<QMenu>(programm.haupt(), QStringLiteral("mExtras"));
+    maus::Taste(QStringLiteral("alt+x"));
+    QTRY_VERIFY(menue->isVisible());
+    BildVomBildschirm(QStringLiteral("extras"));
+    maus::Taste(QStringLiteral("Escape"));
+    QTRY_VERIFY(!menue->isVisible());
     Eintrag(1)->trigger();
     QCOMPARE(FK_Frage(1), std::string());
     QCOMPARE(Anzeige(HilfeStand()).trimmed(), QStringLiteral("Rückgängig gemacht : Frage eingeben"));
