@@ -24,6 +24,7 @@ int formular = 0;             // that the history belongs to
 QPointer<QWidget> feld;       // that had the focus last, windows in between not counted
 bool zeigt = false;           // a former value is being put back
 bool pruefungKommt = false;   // the comparison waits for the running work to end
+std::string_view eingabe;     // what has been typed since the last step, as of the last comparison
 std::function<void()> melden; // what could be undone may be another step
 
 bool Fuehrt() {
@@ -56,7 +57,9 @@ void FlaggeAngleichen(const Formularstand& jetzt) {
 void Pruefen() {
     pruefungKommt = false;
     if (Fuehrt() && !SchrittLaeuft()) {
-        FlaggeAngleichen(FormularstandJetzt());
+        const Formularstand jetzt = FormularstandJetzt();
+        eingabe = Eingabename(folge.jetzt(), jetzt);
+        FlaggeAngleichen(jetzt);
         Melden();
     }
 }
@@ -74,7 +77,9 @@ void EingabeMerken() {
     }
     Formularstand jetzt = FormularstandJetzt();
     const std::string_view name = Eingabename(folge.jetzt(), jetzt);
-    if (folge.Merken(name, std::move(jetzt))) {
+    eingabe = {};
+    // Without anything typed it is the numbers that were changed outside of any step.
+    if (folge.Merken(name.empty() ? "Einstellungen ändern" : name, std::move(jetzt))) {
         Melden();
     }
     EigenesVergessen(feld); // it is the form's step now
@@ -85,6 +90,7 @@ void SchrittMerken(std::string_view name, int gruppe) {
         return;
     }
     Formularstand jetzt = FormularstandJetzt();
+    eingabe = {};
     FlaggeAngleichen(jetzt);
     folge.Merken(name, std::move(jetzt), gruppe);
     Melden();
@@ -107,6 +113,7 @@ void Beginnen() {
     formular = Formularnummer();
     folge.Beginnen(FormularstandJetzt());
     gespeichert = folge.jetzt();
+    eingabe = {};
 }
 
 void Zeigen(const Formularstand& stand) {
@@ -204,7 +211,6 @@ std::string Rueckschritt() {
         return {};
     }
     // What is being typed is no step yet, but it is what goes first.
-    const std::string_view eingabe = Eingabename(folge.jetzt(), FormularstandJetzt());
     return std::string(eingabe.empty() ? folge.rueckname() : eingabe);
 }
 

@@ -87,7 +87,7 @@ inline constexpr std::string_view journalFehler =
 inline constexpr std::string_view journalDa =
     " Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in [ {} ].";
 inline constexpr std::string_view journaleDa =
-    " Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in [ {} ] und noch {} Dateien.";
+    " Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in [ {} ] (und {} mehr).";
 // The editor shows a text that was never saved.
 inline constexpr std::string_view journalText =
     " Ich wurde abgewürgt - hier ist dein ungespeicherter Text von [ {} ].";

@@ -257,7 +257,7 @@ void FormularjournalTest::theStartTellsOfJournals() {
     Verwaist(QStringLiteral("~NEU.BAK"), Formlauf::Quiz("Gerettet"));
     JournaleMelden();
     QCOMPARE(Hilfe(), QStringLiteral("Ich wurde abgewürgt - dein ungespeicherter Stand liegt unter *.BAK in "
-                                     "[ ~ABEND.BAK ] und noch 1 Dateien."));
+                                     "[ ~ABEND.BAK ] (und 1 mehr)."));
 }
 
 void FormularjournalTest::aBlankedFormSavedOverItsFullFileKeepsABackup() {
