@@ -74,7 +74,8 @@ void AbweichungMelden(const QByteArray& ist, const QByteArray& soll, const QStri
              stelle);
 }
 
-// Lets everything happen that is due, the toolkit's own late steps included.
+// Lets everything happen that is due, the toolkit's own late steps included. The time is only how often one
+// looks: a window that isn't ready is looked at again.
 void Weiterlaufen() {
     QTest::qWait(schritt);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -55,7 +55,7 @@ void Kindbild(QWidget* fenster, const QString& name) {
         rahmen = qobject_cast<QMdiSubWindow*>(w) != nullptr ? w : rahmen;
     }
     const QString ordner = qEnvironmentVariable("BILDER_ORDNER", QStringLiteral("fensterbilder"));
-    QTest::qWait(100);
+    QTest::qWait(100); // a picture for people: time for late layouts
     QVERIFY(rahmen->grab().save(QDir(ordner).filePath(name + QStringLiteral(".png"))));
 }
 

@@ -190,7 +190,7 @@ void FormularlisteTest::thePreviewReadsTheNumbersOnly() {
     QCOMPARE(Stand.FormTyp, Formart::Keine);
     QCOMPARE(Listenlauf::Status(), QStringLiteral(" Ich lade ...  ger 2008.fkr "));
     Listenlauf::Liste()->clearSelection(); // nothing chosen: nothing happens
-    QTest::qWait(100);
+    UhrenAbwarten(50);                     // the preview waits behind the keys only
     QCOMPARE(Listenlauf::Info(), Vorschau(24, 6, 4));
     QVERIFY(Spiel == vorher);
 }

@@ -49,7 +49,7 @@ void Kindbild(QWidget* fenster, const QString& name) {
         rahmen = rahmen->parentWidget();
     }
     QVERIFY(rahmen != nullptr);
-    QTest::qWait(300);
+    QTest::qWait(300); // a picture for people: time for late layouts
     QVERIFY(rahmen->grab().save(Ziel(name + QStringLiteral(".png"))));
 }
 

@@ -1,6 +1,7 @@
 #include "tests/hilfe/versagen.h"
 
 #include <QTest>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -15,4 +16,14 @@ void VersagenUndEnde(const QString& grund, Stelle stelle) {
 
 bool WartenBis(const std::function<bool()>& bedingung, int frist) {
     return QTest::qWaitFor(bedingung, frist);
+}
+
+void UhrenAbwarten(int millisekunden, Stelle aufrufer) {
+    QTimer uhr;
+    uhr.setSingleShot(true);
+    uhr.setTimerType(Qt::PreciseTimer); // never ahead of its time, as a coarse one may be
+    uhr.start(millisekunden);
+    if (!WartenBis([&uhr] { return !uhr.isActive(); })) {
+        Versagen(QStringLiteral("A timer of %1 ms doesn't run out").arg(millisekunden), aufrufer);
+    }
 }

@@ -1,5 +1,5 @@
-// Failures out of the helpers: they carry the place in the test that called the helper, and a way to wait
-// for a condition with an upper bound.
+// Failures out of the helpers: they carry the place in the test that called the helper. And the two ways to
+// wait: for a condition with an upper bound, and for the proof that nothing comes.
 #pragma once
 
 #include <QString>
@@ -22,3 +22,7 @@ void Versagen(const QString& grund, Stelle stelle);
 
 // Runs the event loop until the condition holds; false after the time in milliseconds.
 [[nodiscard]] bool WartenBis(const std::function<bool()>& bedingung, int frist = 30000);
+
+// Runs the event loop until a timer of so many milliseconds, started now, has run out. Timers fire in the
+// order in which they are due: a shorter one that was running has fired by then, however busy the machine is.
+void UhrenAbwarten(int millisekunden, Stelle aufrufer = Stelle::hier());

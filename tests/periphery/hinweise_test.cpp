@@ -12,6 +12,7 @@
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
 #include "tests/hilfe/programm.h"
+#include "tests/periphery/tippbeobachter.h"
 #include "tooltips/hinweise.h"
 #include "tooltips/tooltipps.h"
 
@@ -55,6 +56,14 @@ void TippAbwarten(QWidget* element, const QString& titel, const QString& text) {
 }
 
 const QString neuTipp = QStringLiteral("Neues Formular für Feldkranz anlegen.");
+
+// A tip goes by itself after 16 seconds: what takes it away has to do so before.
+constexpr int vorAblauf = 10000;
+
+// As long as a tip waits, and more.
+void WartezeitAbwarten(QWidget* element) {
+    UhrenAbwarten(2 * Objekt(element).wartezeit());
+}
 
 } // namespace
 
@@ -105,16 +114,17 @@ void HinweiseTest::theTipWaitsAndGoesAfterItsTime() {
     clsToolTipDeluxe& objekt = Tippobjekt(*buehne.programm.haupt());
     objekt.VisibleTime(1500);
     buehne.Wegfahren();
+    const Tippbeobachter beobachter;
     QElapsedTimer uhr;
     uhr.start();
     maus::Bewegen(buehne.Teil("cmdNeuFK"));
-    QTRY_VERIFY(objekt.sichtbar());
-    QVERIFY2(uhr.elapsed() >= 200, qPrintable(QString::number(uhr.elapsed())));
-    uhr.start();
-    QTRY_VERIFY(!objekt.sichtbar());
-    QVERIFY2(uhr.elapsed() >= 1000, qPrintable(QString::number(uhr.elapsed())));
+    QTRY_VERIFY(beobachter.kam());
+    QVERIFY2(uhr.elapsed() >= 190, qPrintable(QString::number(uhr.elapsed()))); // timers may be 5% early
+    QTRY_VERIFY(beobachter.standzeit().has_value());
+    QVERIFY2(*beobachter.standzeit() >= 1400, qPrintable(QString::number(*beobachter.standzeit())));
+    QVERIFY(!objekt.sichtbar());
     maus::Bewegen(buehne.Teil("cmdNeuFK"), QPoint(5, 5)); // it has been told, it doesn't come again
-    QTest::qWait(400);
+    WartezeitAbwarten(buehne.Teil("cmdNeuFK"));
     QVERIFY(!objekt.sichtbar());
 }
 
@@ -169,7 +179,7 @@ void HinweiseTest::theStatusTextStaysWhenTheControlIsLeft() {
     TippAbwarten(buehne.Teil("cmdLaden"), QStringLiteral("Formular"),
                  QStringLiteral("Vorhandenes Formular für Feldkranz oder Test laden."));
     buehne.Wegfahren();
-    QTRY_VERIFY(!Objekt(buehne.Teil("cmdLaden")).sichtbar());
+    QTRY_VERIFY_WITH_TIMEOUT(!Objekt(buehne.Teil("cmdLaden")).sichtbar(), vorAblauf);
     QCOMPARE(buehne.Status(), QStringLiteral(" Formular für Feldkranz oder Test laden "));
 }
 
@@ -203,9 +213,9 @@ void HinweiseTest::aPressTakesTheTipAwayUntilAnotherControlIsReached() {
     maus::Bewegen(panel);
     QTRY_VERIFY(Objekt(panel).sichtbar());
     maus::Klicken(panel);
-    QTRY_VERIFY(!Objekt(panel).sichtbar());
+    QTRY_VERIFY_WITH_TIMEOUT(!Objekt(panel).sichtbar(), vorAblauf);
     maus::Bewegen(panel, QPoint(5, 5));
-    QTest::qWait(400); // as long as the tip would have waited, and more
+    WartezeitAbwarten(panel);
     QVERIFY(!Objekt(panel).sichtbar());
     maus::Bewegen(buehne.Teil("cmdNeuFK"));
     TippAbwarten(buehne.Teil("cmdNeuFK"), QStringLiteral("Feldkranz-Formular"), neuTipp);
@@ -216,7 +226,7 @@ void HinweiseTest::aKeyTakesTheTipAway() {
     maus::Bewegen(buehne.Teil("cmdNeuFK"));
     QTRY_VERIFY(Objekt(buehne.Teil("cmdNeuFK")).sichtbar());
     maus::Taste(QStringLiteral("F5"));
-    QTRY_VERIFY(!Objekt(buehne.Teil("cmdNeuFK")).sichtbar());
+    QTRY_VERIFY_WITH_TIMEOUT(!Objekt(buehne.Teil("cmdNeuFK")).sichtbar(), vorAblauf);
 }
 
 void HinweiseTest::anotherWindowInFrontTakesTheTipAway() {
@@ -253,7 +263,7 @@ void HinweiseTest::theFocusThatAClickBringsShowsNoTip() {
     const frmFKFragen* form = buehne.programm.NeuesQuizformular();
     maus::Klicken(form->txtNr);
     QTRY_VERIFY(form->txtNr->hasFocus());
-    QTest::qWait(400); // as long as the tip would have waited, and more
+    WartezeitAbwarten(form->txtNr);
     QVERIFY(!Objekt(form->txtNr).sichtbar());
 }
 
@@ -322,7 +332,7 @@ void HinweiseTest::inTheCornersOfEveryScreenTheTipStaysOnThatOne() {
             QVERIFY(!tipp.contains(QCursor::pos()));
             maus::Bewegen(&fenster, QPoint(3, 3));
             QTest::mouseClick(&fenster, Qt::LeftButton); // the tip goes
-            QTRY_VERIFY(!Objekt(&fenster).sichtbar());
+            QTRY_VERIFY_WITH_TIMEOUT(!Objekt(&fenster).sichtbar(), vorAblauf);
             HinweisSetzen(&fenster, Modelltext(fenster.toolTip()) + ".", "Hinweis", ""); // told anew
         }
     }
@@ -429,14 +439,15 @@ void HinweiseTest::aTipGoesWithItsControl() {
     QTRY_VERIFY(Objekt(taste).sichtbar());
     const clsToolTipDeluxe& objekt = Objekt(taste);
     delete taste;
-    QTRY_VERIFY(!objekt.sichtbar());
+    QTRY_VERIFY_WITH_TIMEOUT(!objekt.sichtbar(), vorAblauf);
 }
 
 void HinweiseTest::theToolkitsOwnTipNeverComes() {
     const Buehne buehne;
+    const Tippbeobachter beobachter;
     maus::Bewegen(buehne.Teil("cmdNeuFK"));
     QTRY_VERIFY(Objekt(buehne.Teil("cmdNeuFK")).sichtbar());
-    QTest::qWait(1200); // the toolkit's comes after 700 milliseconds
+    QTRY_VERIFY(beobachter.werkzeugtippGefragt()); // it stands as soon as it is asked for
     int tipps = 0;
     for (const QWidget* fenster : QApplication::topLevelWidgets()) {
         tipps += fenster->isVisible() && fenster->windowType() == Qt::ToolTip ? 1 : 0;

@@ -251,7 +251,7 @@ void IniZaehlerTest::aSpinButtonHeldDownAtItsBoundTellsOnce() {
         dialoge.meldung(QStringLiteral("Mehr Felder sind nicht erlaubt"), naDenn);
         QTest::mousePress(taste, Qt::LeftButton); // repeats while it is held
         QTRY_VERIFY(dialoge.fertig());
-        QTest::qWait(3 * taste->autoRepeatInterval()); // a second message would fail the test
+        UhrenAbwarten(3 * taste->autoRepeatInterval()); // a second message would fail the test
         QTest::mouseRelease(taste, Qt::LeftButton);
         QCOMPARE(Zahl(dialog, QStringLiteral("pnlFelderV(3)")), QStringLiteral("5"));
     });

@@ -227,6 +227,7 @@ void LangsamErproben(const Speicherfall& fall) {
     QStringList ohneUhr;
     const Regel langsam = [&](const Aufruf& aufruf) {
         ohneUhr += OhneUhr(aufruf);
+        // The slowness itself: a second for the whole save.
         std::this_thread::sleep_for(std::chrono::milliseconds(1000 / aufrufe));
         return 0;
     };

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds blick{500};
-constexpr int stillstand = 180; // looks without any sign of life
+constexpr std::chrono::milliseconds blick{500}; // from one look to the next
+constexpr int stillstand = 180;                 // looks without any sign of life
 
 } // namespace
 
