@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks the layers and the folders' order: includes point downwards only in both, the model knows no toolkit, every
-source is in a list, and every header stands alone. With --bild PATH draws the dependencies between the folders
-instead."""
+source is in a list, the linter is told every folder, and every header stands alone. With --bild PATH draws the
+dependencies between the folders instead."""
 
 import collections
 import concurrent.futures
@@ -10,7 +10,7 @@ import re
 import subprocess
 import sys
 
-from quellen import SCHICHTEN, SUBSYSTEME, WURZEL, Schichtung, includes
+from quellen import SCHICHTEN, SUBSYSTEME, WURZEL, Schichtung, includes, text
 
 
 def falsche_includes(schichtung):
@@ -44,6 +44,15 @@ def nicht_gelistete(schichtung):
     for pfad in schichtung.quellen:
         if pfad.suffix == ".cpp" and str(pfad) not in listen:
             yield f"{pfad}: in no quellen.cmake"
+
+
+def ungelintete():
+    """The linter looks only into the headers of folders that it is told."""
+    muster = re.search(r"^HeaderFilterRegex: '/\(([a-z|]+)\)/", text(".clang-tidy"), re.MULTILINE)
+    genannt = muster.group(1).split("|") if muster else []
+    for ordner in SUBSYSTEME:
+        if ordner not in genannt:
+            yield f".clang-tidy: HeaderFilterRegex doesn't name {ordner}"
 
 
 def eigener_kopf_zuerst(schichtung):
@@ -110,7 +119,7 @@ def main():
         bild(schichtung, sys.argv[2])
         return 0
     klagen = [*falsche_includes(schichtung), *gegen_die_ordnung(schichtung), *nicht_gelistete(schichtung),
-              *eigener_kopf_zuerst(schichtung)]
+              *eigener_kopf_zuerst(schichtung), *ungelintete()]
     if "--schnell" not in sys.argv:
         subprocess.run(["cmake", "--preset", "lint"], cwd=WURZEL, stdout=subprocess.DEVNULL, check=True)
         klagen += koepfe_ohne_quelle(schichtung)
