@@ -15,6 +15,8 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
+#include <QThread>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -65,6 +67,14 @@ private Q_SLOTS:
         QCOMPARE(folge.offen(), 1);
         QCOMPARE(ModalZeigen(kasten), static_cast<int>(QMessageBox::No));
         QVERIFY(folge.fertig());
+    }
+
+    void aShorterTimerHasFiredWhenALongerOneRanOutThoughTheMachineStoodStill() {
+        bool gefeuert = false;
+        QTimer::singleShot(0, this, [] { QThread::msleep(400); }); // beyond both of the others
+        QTimer::singleShot(150, this, [&gefeuert] { gefeuert = true; });
+        UhrenAbwarten(300);
+        QVERIFY(gefeuert);
     }
 
     void theMouseDragsWithAModifierHeld() {
