@@ -10,6 +10,7 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -18,6 +19,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
@@ -49,6 +51,19 @@ protected:
         ereignis->acceptProposedAction();
     }
     void dropEvent(QDropEvent* ereignis) override { setText(ereignis->mimeData()->text()); }
+};
+
+// Goes at a key so thoroughly that the key's release finds nobody.
+class Weichender : public QWidget {
+public:
+    int tasten = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent*) override {
+        ++tasten;
+        hide();
+        windowHandle()->destroy();
+    }
 };
 
 } // namespace
@@ -115,6 +130,27 @@ private Q_SLOTS:
         maus::Taste(QStringLiteral("Delete"));
         QTRY_COMPARE(unten->text(), QString());
         QCOMPARE(oben->text(), QString());
+    }
+
+    void aKeyThatClosesItsWindowIsSeenThoughItsReleaseReachesNobody() {
+        Weichender fenster;
+        fenster.show();
+        QVERIFY(QTest::qWaitForWindowActive(&fenster));
+        maus::Taste(QStringLiteral("Escape"));
+        QCOMPARE(fenster.tasten, 1);
+        QVERIFY(!fenster.isVisible());
+    }
+
+    void theMouseHitsAControlOfAWindowThatIsJustComing() {
+        for (int i = 0; i < 5; ++i) {
+            QWidget fenster;
+            QLineEdit zeile(&fenster);
+            fenster.resize(300, 100);
+            fenster.show();
+            maus::Bewegen(&zeile, QPoint(3, 3));
+            QVERIFY(fenster.frameGeometry().top() < fenster.geometry().top());
+            QCOMPARE(zeile.mapFromGlobal(QCursor::pos()), QPoint(3, 3));
+        }
     }
 
     void theProgramFolderIsACopyAndGoesAgain() {

@@ -5,9 +5,11 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHash>
+#include <QPointer>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <utility>
 
@@ -21,18 +23,26 @@ class Zaehlwerk : public QObject {
 public:
     Zaehlwerk() { qApp->installEventFilter(this); }
     [[nodiscard]] int gesehen(QEvent::Type art) const { return gesehen_.value(art); }
+    // The key that was pressed closed its window, and its release may reach nobody.
+    [[nodiscard]] bool tastenfensterGing() const {
+        return gesehen(QEvent::KeyPress) > 0 && (tastenfenster_ == nullptr || !tastenfenster_->isVisible());
+    }
 
 protected:
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override {
         // Each event passes here first on its way to the window.
         if (empfaenger->isWindowType()) {
             ++gesehen_[ereignis->type()];
+            if (ereignis->type() == QEvent::KeyPress) {
+                tastenfenster_ = static_cast<QWindow*>(empfaenger);
+            }
         }
         return false;
     }
 
 private:
     QHash<QEvent::Type, int> gesehen_;
+    QPointer<QWindow> tastenfenster_;
 };
 
 // The place on the screen in the server's own pixels, which differ from the toolkit's on a scaled screen.
@@ -42,16 +52,32 @@ QStringList Ort(QPoint global) {
     return {QString::number(qRound(global.x() * faktor)), QString::number(qRound(global.y() * faktor))};
 }
 
+// The window manager puts a window into its frame in its own time, and moves it by that.
+bool HatSeinenRahmen(const QWidget& fenster) {
+    const bool ohne =
+        fenster.windowFlags().testAnyFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    const Qt::WindowType art = fenster.windowType();
+    return ohne || art == Qt::Popup || art == Qt::ToolTip || art == Qt::SplashScreen ||
+           !fenster.windowHandle()->frameMargins().isNull();
+}
+
+void RahmenAbwarten(const QWidget& fenster, Stelle aufrufer) {
+    if (!WartenBis([&fenster] { return HatSeinenRahmen(fenster); }, bedenkzeit)) {
+        Versagen(QStringLiteral("%1 got no frame").arg(fenster.objectName()), aufrufer);
+    }
+}
+
 QPoint Global(const QWidget* ziel, std::optional<QPoint> stelle, Stelle aufrufer) {
     if (ziel == nullptr || !ziel->isVisible()) {
         VersagenUndEnde(QStringLiteral("%1 isn't visible: the mouse can't reach it")
                             .arg(ziel != nullptr ? ziel->objectName() : QStringLiteral("Nothing")),
                         aufrufer);
     }
+    RahmenAbwarten(*ziel->window(), aufrufer);
     const QPoint ort = stelle ? *stelle : ziel->rect().center();
     QPoint global;
     const QWidget* getroffen = nullptr;
-    // The window manager may still be raising or moving the window.
+    // The window manager may still be raising the window.
     const bool frei = WartenBis(
         [&] {
             global = ziel->mapToGlobal(ort);
@@ -106,7 +132,11 @@ void SendenUndWarten(const QStringList& befehle, QEvent::Type art, int anzahl, S
     const Zaehlwerk zaehlwerk;
     bool fertig = false;
     Senden(befehle, aufrufer, [&fertig] { fertig = true; });
-    if (!WartenBis([&] { return fertig && zaehlwerk.gesehen(art) >= anzahl; }, frist)) {
+    const auto angekommen = [&] {
+        return zaehlwerk.gesehen(art) >= anzahl ||
+               (art == QEvent::KeyRelease && zaehlwerk.tastenfensterGing());
+    };
+    if (!WartenBis([&] { return fertig && angekommen(); }, frist)) {
         Versagen(QStringLiteral("The program didn't see: xdotool ") + befehle.join(u' '), aufrufer);
         // The callback above must not outlive the flag that it sets.
         (void)WartenBis([&fertig] { return fertig; }, frist);
