@@ -237,10 +237,11 @@ TEST(Formularstand, WhatWasTypedHasAName) {
         void (*tippen)(Quizformular& form);
         std::string_view name;
     };
-    for (const Zeile& zeile : {Zeile{[](Quizformular&) {}, ""},
-                               Zeile{[](Quizformular& f) { f.FrageText[7] = "x"; }, "Frage eingeben"},
-                               Zeile{[](Quizformular& f) { f.AntwortText[30] = "x"; }, "Antwort eingeben"},
-                               Zeile{[](Quizformular& f) { f.FormDatum = "x"; }, "Kopf ausfüllen"}}) {
+    const std::vector<Zeile> zeilen{{[](Quizformular&) {}, ""},
+                                    {[](Quizformular& f) { f.FrageText[7] = "x"; }, "Frage eingeben"},
+                                    {[](Quizformular& f) { f.AntwortText[30] = "x"; }, "Antwort eingeben"},
+                                    {[](Quizformular& f) { f.FormDatum = "x"; }, "Kopf ausfüllen"}};
+    for (const Zeile& zeile : zeilen) {
         const Formularstand vorher = Quiz("a");
         Formularstand nachher = vorher;
         zeile.tippen(std::get<Quizstand>(nachher.form).gezeigt);
