@@ -10,7 +10,7 @@
 #include <string_view>
 
 // Beyond this the oldest steps go. Two hundred steps of a form with usual texts take about 3 MB.
-inline constexpr std::size_t groessterVerlauf = 16 * 1024 * 1024;
+inline constexpr std::size_t groessterVerlauf = std::size_t{16} << 20U;
 
 class Schrittfolge {
 public:
