@@ -109,6 +109,9 @@ std::size_t Texte(const Testformular& form) {
 
 Spielwerte MitProgrammwerten(const Spielwerte& form, const Spielwerte& programm) {
     Spielwerte werte = form;
+    werte.PunkteV = programm.PunkteV; // standards for later forms
+    werte.FelderV = programm.FelderV;
+    werte.FelderVE = programm.FelderVE;
     werte.OptionDatei = programm.OptionDatei;
     werte.Datei = programm.Datei;
     werte.HilfeEintrag = programm.HilfeEintrag;
@@ -116,18 +119,29 @@ Spielwerte MitProgrammwerten(const Spielwerte& form, const Spielwerte& programm)
     return werte;
 }
 
+namespace {
+
+// The total follows from the shape, and is only counted when the settings ask for it.
+bool Gleich(const Spielwerte& a, const Spielwerte& b) {
+    Spielwerte werte = MitProgrammwerten(a, b);
+    werte.FelderGesamt = b.FelderGesamt;
+    return werte == b;
+}
+
+} // namespace
+
 bool Gleichgespeichert(const Formularstand& a, const Formularstand& b) {
     if (a.form.index() != b.form.index()) {
         return false;
     }
     if (const auto* quiz = std::get_if<Quizstand>(&a.form); quiz != nullptr) {
-        return Gleich(*quiz, std::get<Quizstand>(b.form)) && MitProgrammwerten(a.spiel, b.spiel) == b.spiel;
+        return Gleich(*quiz, std::get<Quizstand>(b.form)) && Gleich(a.spiel, b.spiel);
     }
     return Gleich(std::get<Teststand>(a.form), std::get<Teststand>(b.form)); // its file has no numbers
 }
 
 bool Gleichgezeigt(const Formularstand& a, const Formularstand& b) {
-    if (!Gleichgespeichert(a, b) || !(MitProgrammwerten(a.spiel, b.spiel) == b.spiel)) {
+    if (!Gleichgespeichert(a, b) || !Gleich(a.spiel, b.spiel)) {
         return false;
     }
     const auto* links = std::get_if<Teststand>(&a.form);

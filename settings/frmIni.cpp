@@ -5,6 +5,7 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/panel.h"
+#include "core/schritt.h"
 #include "dialogs/meldung.h"
 #include "dialogs/modal.h"
 #include "rules/spezialarten.h"
@@ -37,7 +38,8 @@ void HinweisAnwenden(const frmIni& fenster, const initexte::Hinweis& hinweis) {
 } // namespace
 
 void VorgabenZeigen() {
-    const Hilfewahrer wahrer; // the dialog speaks while it loads already
+    const Hilfewahrer wahrer;                      // the dialog speaks while it loads already
+    const Schritt schritt("Einstellungen ändern"); // also what a counter sets before the OK
     frmIni fenster;
     ModalZeigen(fenster);
 }

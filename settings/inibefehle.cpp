@@ -1,7 +1,6 @@
 // The commands of the settings dialog: presets, loading and saving them, applying and cancelling.
 #include "core/hauptfenster.h"
 #include "core/pfadname.h"
-#include "core/schritt.h"
 #include "core/wartezeiger.h"
 #include "dialogs/meldung.h"
 #include "persistence/einstellungenladen.h"
@@ -122,7 +121,6 @@ void frmIni::EinstellungenSpeichern() {
 }
 
 void frmIni::Anwenden() {
-    const Schritt schritt("Einstellungen ändern");
     VorgabenUebernehmen(vorgaben_, Spiel);
     FK_VorgabenAnwenden();
     FelderAnzeigen();

@@ -186,6 +186,8 @@ TEST(Formularstand, WhatBelongsToTheProgramIsNoChangeOfTheForm) {
     Formularstand nachher = vorher;
     nachher.spiel.OptionDatei = true;
     nachher.spiel.Datei[0] = "C:\\X.FKR";
+    nachher.spiel.PunkteV[Spezialart::Joker] = 9;
+    nachher.spiel.FelderGesamt = 30;
     EXPECT_TRUE(Gleichgespeichert(vorher, nachher));
     EXPECT_TRUE(Gleichgezeigt(vorher, nachher));
     nachher.spiel.Punkte[Spezialart::Joker] = 7;

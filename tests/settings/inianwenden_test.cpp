@@ -1,5 +1,8 @@
 // What applying the settings dialog does to the real quiz form, and what cancelling it puts back.
+#include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "core/programmstand.h"
+#include "forms/verlauf.h"
 #include "tests/settings/inihilfe.h"
 
 namespace {
@@ -50,6 +53,7 @@ private Q_SLOTS:
     void abbrechenAnsweredAbbrechenKeepsTheDialogWithAllItsEdits();
     void escapeAndTheFrameAreTheCancelButton();
     void tickingARuleNamesTheCountAndOKKeepsTheTick();
+    void theWholeDialogIsOneStepThatBringsTheClosedCellsBack();
 };
 
 void IniAnwendenTest::fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuestions() {
@@ -71,6 +75,35 @@ void IniAnwendenTest::fromFiveToThreeAppliedTwoAndFourOfEveryAreaLoseTheirQuesti
         QVERIFY2(weg ? Leer(form, n) : Ganz(form, n), qPrintable(QString::number(n)));
         QCOMPARE(form->txtFrage.at(Nr(n))->isVisible(), !weg);
     }
+}
+
+void IniAnwendenTest::theWholeDialogIsOneStepThatBringsTheClosedCellsBack() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Form(5, 6, true, true);
+    BrettFuellen(form);
+    FormularWechselt(); // as if it had been read like that
+    FormStatusSetzen(false);
+    const Spielwerte vorher = Spiel;
+    MitOK(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
+        dialoge.frage(titelFragen, vier, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        dialoge.frage(titelFragen, drei, 1);
+        Druecke(dialog, "cmdFragenMinus");
+        Finden(&dialog, QStringLiteral("cmdFragenPlus"))->setFocus(); // the counters are in force already
+    });
+    QVERIFY(Leer(form, 2));
+    QCOMPARE(Rueckschritt(), std::string("Einstellungen ändern"));
+    RueckgaengigMachen();
+    QCOMPARE(Rueckschritt(), std::string());
+    QVERIFY(Spiel == vorher);
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        QVERIFY2(Ganz(form, n) && form->txtFrage.at(Nr(n))->isVisible(), qPrintable(QString::number(n)));
+    }
+    QVERIFY(!Stand.FormGeaendert);
+    Wiederholen();
+    QVERIFY(Leer(form, 2));
+    QVERIFY(!form->txtFrage.at(2)->isVisible());
 }
 
 void IniAnwendenTest::fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackEmpty() {
