@@ -100,7 +100,8 @@ void FokusGewechselt(QWidget* neu) {
     if (neu == nullptr || neu == feld) {
         return; // another program's window is in front, or was
     }
-    if (!SchrittLaeuft()) {
+    // A box that is being hidden gives its focus away: what shows then is half a step.
+    if (!SchrittLaeuft() && !zeigt) {
         EingabeMerken();
         folge.GruppeBeenden();
         EigenesVergessen(neu); // the toolkit counts as an edit what gave the box its looks

@@ -101,9 +101,16 @@ void IniAnwendenTest::theWholeDialogIsOneStepThatBringsTheClosedCellsBack() {
         QVERIFY2(Ganz(form, n) && form->txtFrage.at(Nr(n))->isVisible(), qPrintable(QString::number(n)));
     }
     QVERIFY(!Stand.FormGeaendert);
+    form->txtFrage.at(2)->setFocus(); // it goes with its cell
+    QTRY_VERIFY(form->txtFrage.at(2)->hasFocus());
     Wiederholen();
     QVERIFY(Leer(form, 2));
     QVERIFY(!form->txtFrage.at(2)->isVisible());
+    QCOMPARE(Rueckschritt(), std::string("Einstellungen ändern"));
+    RueckgaengigMachen();
+    QVERIFY(Ganz(form, 2));
+    QCOMPARE(Vorschritt(), std::string("Einstellungen ändern"));
+    QVERIFY(Spiel == vorher);
 }
 
 void IniAnwendenTest::fromThreeToFourAppliedThreeIsClearedAndTwoAndFourComeBackEmpty() {
