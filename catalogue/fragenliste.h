@@ -16,6 +16,12 @@ inline constexpr std::size_t anzahlSpalten = 4;
 class Fragenliste {
 public:
     [[nodiscard]] std::size_t anzahl() const { return enden_.size(); }
+    // Of all texts together.
+    [[nodiscard]] std::size_t bytes() const { return text_.size(); }
+    // Bytes of memory that the list holds.
+    [[nodiscard]] std::size_t belegt() const {
+        return text_.capacity() + enden_.capacity() * sizeof(enden_.front());
+    }
     // Text in UTF-8; question counts from 0 and must be below anzahl().
     [[nodiscard]] std::string_view wert(std::size_t frage, Spalte spalte) const;
 

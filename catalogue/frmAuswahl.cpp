@@ -27,6 +27,7 @@
 namespace {
 
 QPointer<frmAuswahl> offen;
+std::function<void(const std::string&)> beiAuswahl;
 
 // All twenty places, the empty ones too, and none of them picked.
 void Fuellen(QComboBox* liste, std::span<const std::string> plaetze) {
@@ -36,6 +37,17 @@ void Fuellen(QComboBox* liste, std::span<const std::string> plaetze) {
         liste->addItem(Anzeige(platz));
     }
     liste->setCurrentIndex(-1);
+}
+
+// Picks the entry of that text, also if it is picked already. False where there is none.
+bool Waehlen(QComboBox* liste, std::string_view text) {
+    const int stelle = liste->findText(Anzeige(text));
+    {
+        const QSignalBlocker still(liste);
+        liste->setCurrentIndex(-1);
+    }
+    liste->setCurrentIndex(stelle);
+    return stelle >= 0;
 }
 
 } // namespace
@@ -108,6 +120,17 @@ void frmAuswahl::FrageGewaehlt() {
     txtAntwort_->setText(fragen_->wert(letzte, Spalte::Antwort));
     txtNr_->setText(Anzeige(fragen_->wert(letzte, Spalte::Nr)));
     txtPunkte_->setText(Anzeige(fragen_->wert(letzte, Spalte::Punkte)));
+    if (beiAuswahl) {
+        beiAuswahl(std::string(frage));
+    }
+}
+
+void frmAuswahl::FrageZeigen(std::string_view thema, std::string_view unterthema, std::string_view frage,
+                             std::size_t nr) {
+    if (Waehlen(cmbThemen_, thema) && Waehlen(cmbUnter_, unterthema) && nr < fragen_->anzahl() &&
+        fragen_->wert(nr, Spalte::Frage) == frage) {
+        cmbFrage_->setCurrentIndex(static_cast<int>(nr));
+    }
 }
 
 // Also an empty field begins a drag.
@@ -125,6 +148,10 @@ void frmAuswahl::FrageAufnehmen() {
         Hauptfenster() != nullptr) {
         Hauptfenster()->activateWindow();
     }
+}
+
+std::string frmAuswahl::frage() const {
+    return txtFrage_->text();
 }
 
 std::string frmAuswahl::antwort() const {
@@ -183,4 +210,18 @@ frmAuswahl* AuswahlOffen() {
 
 std::string AuswahlAntwort() {
     return offen != nullptr ? offen->antwort() : std::string();
+}
+
+std::string AuswahlFrage() {
+    return offen != nullptr ? offen->frage() : std::string();
+}
+
+void AuswahlFrageZeigen(std::string_view thema, std::string_view unterthema, std::string_view frage,
+                        std::size_t nr) {
+    AuswahlZeigen();
+    offen->FrageZeigen(thema, unterthema, frage, nr);
+}
+
+void BeiAuswahl(std::function<void(const std::string& frage)> gewaehlt) {
+    beiAuswahl = std::move(gewaehlt);
 }

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Blattfall;
@@ -25,7 +26,11 @@ class frmAuswahl : public QWidget {
 public:
     explicit frmAuswahl(QWidget* eltern);
 
+    [[nodiscard]] std::string frage() const;
     [[nodiscard]] std::string antwort() const;
+    // Picks theme, sub-theme and question as the user would.
+    void FrageZeigen(std::string_view thema, std::string_view unterthema, std::string_view frage,
+                     std::size_t nr);
     // Lets the sheet fall into the waste basket.
     void BlattFallenLassen();
 

@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <string_view>
 
-enum class Kindfenster : std::uint8_t { Quizformular, Testformular, Editor, Spielregel, Homepage };
+enum class Kindfenster : std::uint8_t { Quizformular, Testformular, Editor, Spielregel, Homepage, Suche };
 
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Kindfenster fenster) {
-    constexpr std::array<std::string_view, 5> zeichen{"FKFragen", "HBFragen", "Editor", "Browser",
-                                                      "Homepage"};
+    constexpr std::array<std::string_view, 6> zeichen{"FKFragen", "HBFragen", "Editor",
+                                                      "Browser",  "Homepage", "Suche"};
     return zeichen.at(static_cast<std::size_t>(fenster));
 }
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {

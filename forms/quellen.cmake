@@ -2,6 +2,7 @@ feldkranz_quellen(modell
   forms/formularstand.cpp
   forms/schrittfolge.cpp)
 feldkranz_quellen(fenster
+  forms/einsetzen.cpp
   forms/formulare.cpp
   forms/formularjournal.cpp
   forms/formularlesen.cpp

@@ -15,6 +15,7 @@
 #include "periphery/frmHomepage.h"
 #include "periphery/mail.h"
 #include "periphery/spielregel.h"
+#include "search/suchen.h"
 #include "settings/vorgabendialog.h"
 
 #include <QAbstractButton>
@@ -121,6 +122,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"mHBFormular", befehle::HBZurueck},
     Zuordnung{"mExtra(1)", befehle::Rueckgaengig},
     Zuordnung{"mExtra(2)", befehle::Wiederherstellen},
+    Zuordnung{"mExtra(4)", SucheZeigen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},

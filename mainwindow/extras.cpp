@@ -1,10 +1,13 @@
 #include "mainwindow/extras.h"
 
+#include "core/fensterzeichen.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
+#include "forms/einsetzen.h"
 #include "forms/verlauf.h"
+#include "search/suchen.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -29,6 +32,15 @@ void EintragSetzen(QAction& eintrag, const QString& text, const std::string& sch
     eintrag.setEnabled(!schritt.empty() || (!FormularVorn() && Kasten() != nullptr));
 }
 
+// In the rule document the same key goes on searching there.
+void SuchtasteZeigen(QMainWindow& fenster) {
+    auto* suchen = fenster.findChild<QAction*>(QStringLiteral("mExtra(4)"));
+    const QWidget* kind = AktivesKind();
+    const bool frei =
+        kind == nullptr || kind->property("tag") != Anzeige(Fensterzeichen(Kindfenster::Spielregel));
+    suchen->setShortcutContext(frei ? Qt::WindowShortcut : Qt::WidgetShortcut);
+}
+
 void Zeigen(QMainWindow& fenster) {
     auto* zurueck = fenster.findChild<QAction*>(QStringLiteral("mExtra(1)"));
     auto* vor = fenster.findChild<QAction*>(QStringLiteral("mExtra(2)"));
@@ -43,8 +55,13 @@ void Zeigen(QMainWindow& fenster) {
 void ExtrasEinrichten(QMainWindow& fenster) {
     VerlaufEinrichten(fenster, [&fenster] { Zeigen(fenster); });
     if (auto* flaeche = fenster.findChild<QMdiArea*>(); flaeche != nullptr) {
-        QObject::connect(flaeche, &QMdiArea::subWindowActivated, &fenster, [&fenster] { Zeigen(fenster); });
+        QObject::connect(flaeche, &QMdiArea::subWindowActivated, &fenster, [&fenster] {
+            Zeigen(fenster);
+            SuchtasteZeigen(fenster);
+        });
     }
+    BesucheVerfolgen(fenster);
+    AuswahlhinweisEinrichten();
     Zeigen(fenster);
 }
 

@@ -26,7 +26,8 @@ constexpr std::array kindzeichen{std::pair<const char*, std::string_view>{"frmFK
                                  std::pair<const char*, std::string_view>{"frmHBFragen", "leiste/test"},
                                  std::pair<const char*, std::string_view>{"frmEditor", "leiste/editor"},
                                  std::pair<const char*, std::string_view>{"frmBrowser", "leiste/regel"},
-                                 std::pair<const char*, std::string_view>{"frmHomepage", "leiste/netz"}};
+                                 std::pair<const char*, std::string_view>{"frmHomepage", "leiste/netz"},
+                                 std::pair<const char*, std::string_view>{"frmSuche", "leiste/auswahl"}};
 
 template <typename Steuerelement>
 Steuerelement* Teil(const char* name) {

@@ -108,6 +108,7 @@ inline constexpr std::array menuestatus{std::to_array<Menuestatus>({
     {"mEditorKranz", " Editor für Fragensammlung"},
     {"mExtra(1)", " Letzten Schritt zurücknehmen"},
     {"mExtra(2)", " Zurückgenommenen Schritt wiederholen"},
+    {"mExtra(4)", " Fragen im ganzen Katalog suchen"},
     {"mHilfen(1)", hilfe},
     {"mHilfeFK", hilfe},
     {"mHilfeHB", hilfe},

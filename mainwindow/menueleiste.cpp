@@ -116,6 +116,8 @@ constexpr std::array eintraege{
     Eintrag{"mEditor", "mEditorKranz", "&Editor aufrufen"},
     Eintrag{"mExtras", "mExtra(1)", "&Rückgängig", "Ctrl+Z"},
     Eintrag{"mExtras", "mExtra(2)", "&Wiederholen", "Ctrl+Y; Ctrl+Shift+Z"},
+    Eintrag{"mExtras", "mExtra(3)", ""},
+    Eintrag{"mExtras", "mExtra(4)", "Fragen &suchen", "Ctrl+F"},
     Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeHB", "&Hilfe"},

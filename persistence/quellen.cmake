@@ -3,10 +3,11 @@ feldkranz_quellen(modell
   persistence/anfuehrungsorte.cpp
   persistence/dateistand.cpp
   persistence/einstellungsdatei.cpp
+  persistence/extraswerte.cpp
   persistence/formularabschnitte.cpp
   persistence/formulardatei.cpp
   persistence/journalname.cpp
   persistence/rettungsname.cpp)
 feldkranz_quellen(rand persistence/dateiblick.cpp persistence/dateiliste.cpp persistence/einstellungenladen.cpp
-  persistence/journal.cpp persistence/journaltakt.cpp)
+  persistence/extrasdatei.cpp persistence/journal.cpp persistence/journaltakt.cpp)
 feldkranz_quellen(fenster persistence/fremdfrage.cpp persistence/sicherung.cpp)

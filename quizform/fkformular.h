@@ -77,6 +77,8 @@ void FK_HintergrundMalen(int farbe);
 std::string FK_Frage(int n);
 std::string FK_Antwort(int n);
 void FK_FeldLeeren(int n);
+// Puts texts into a cell on the screen; the stored copy stays as it is.
+void FK_FeldSetzen(int n, std::string_view frage, std::string_view antwort);
 
 // Places a question in a cell, as a drop does: asks where the cell is occupied, and empties the place that a
 // move came from.

@@ -1,4 +1,4 @@
-// What drags and the trash ask of the open form.
+// What drags, the trash and commands ask of the cells of the open form.
 #include "quizform/fkformular.h"
 #include "quizform/frmFKFragen.h"
 
@@ -23,9 +23,13 @@ std::string FK_Antwort(int n) {
 }
 
 void FK_FeldLeeren(int n) {
+    FK_FeldSetzen(n, "", "");
+}
+
+void FK_FeldSetzen(int n, std::string_view frage, std::string_view antwort) {
     frmFKFragen* form = FKFragenOffen();
     if (form != nullptr && n >= 1 && n <= anzahlFelder) {
-        form->txtFrage.at(Stelle(n))->setText("");
-        form->txtAntwort.at(Stelle(n))->setText("");
+        form->txtFrage.at(Stelle(n))->setText(frage);
+        form->txtAntwort.at(Stelle(n))->setText(antwort);
     }
 }

@@ -6,6 +6,7 @@
 #include "core/ziehwert.h"
 #include "testform/testblatt.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -58,6 +59,9 @@ void HB_PunkteEinfuegen();
 std::string HB_Frage(int n);
 std::string HB_Antwort(int n);
 void HB_FeldLeeren(int n);
+// Puts texts, or points, into a row on the screen and into its stored copy; the total follows.
+void HB_FeldSetzen(int n, std::string_view frage, std::string_view antwort);
+void HB_PunkteSetzen(int n, std::int16_t punkte);
 
 // The sheet of the form on the screen; the stored copy stays as it is. An untouched form where none is open.
 [[nodiscard]] Testblatt HB_Bildschirm();

@@ -46,6 +46,13 @@ bool Vorhanden(const frmHBFragen* form, int n) {
     return form != nullptr && n >= 1 && n <= anzahlTestfragen;
 }
 
+void ZeileSetzen(frmHBFragen* form, int n, std::string_view frage, std::string_view antwort) {
+    if (Vorhanden(form, n)) {
+        form->txtFrage.at(static_cast<std::size_t>(n))->setText(frage);
+        form->txtAntwort.at(static_cast<std::size_t>(n))->setText(antwort);
+    }
+}
+
 } // namespace
 
 void HB_Merken() {
@@ -149,11 +156,12 @@ std::string HB_Antwort(int n) {
 }
 
 void HB_FeldLeeren(int n) {
-    const frmHBFragen* form = HBFragenOffen();
-    if (Vorhanden(form, n)) {
-        form->txtFrage.at(static_cast<std::size_t>(n))->setText("");
-        form->txtAntwort.at(static_cast<std::size_t>(n))->setText("");
-    }
+    ZeileSetzen(HBFragenOffen(), n, "", "");
+}
+
+void HB_FeldSetzen(int n, std::string_view frage, std::string_view antwort) {
+    ZeileSetzen(HBFragenOffen(), n, frage, antwort);
+    HB_FeldMerken(n);
 }
 
 Testblatt HB_Bildschirm() {

@@ -5,6 +5,7 @@
 #include "core/schritt.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbereignisse.h"
+#include "testform/hbformular.h"
 #include "testform/punkte.h"
 #include "testform/texte.h"
 
@@ -20,6 +21,11 @@ std::int16_t SummeDerZeilen(const frmHBFragen& form) {
     return PunkteSumme(aufschriften);
 }
 
+void SummeErneuern(frmHBFragen& form) {
+    HBForm.HBGesamtpunkte = SummeDerZeilen(form);
+    SummeZeigen(form, HBForm.HBGesamtpunkte);
+}
+
 void Stufe(frmHBFragen& form, std::size_t i, int schritt) {
     const Schritt einer("Punkte ändern", static_cast<int>(i));
     Panel* punkte = form.pnlPunkte.at(i);
@@ -29,8 +35,7 @@ void Stufe(frmHBFragen& form, std::size_t i, int schritt) {
     } catch (const Laufzeitfehler&) {
         // A caption that no counter can hold stays as it is.
     }
-    HBForm.HBGesamtpunkte = SummeDerZeilen(form);
-    SummeZeigen(form, HBForm.HBGesamtpunkte);
+    SummeErneuern(form);
     FormStatusSetzen(true);
 }
 
@@ -49,6 +54,17 @@ void PunkteVerbinden(frmHBFragen& form) {
         QObject::connect(form.spnPunkte.at(i), &Drehfeld::hoch, &form, [&form, i] { Stufe(form, i, 1); });
         QObject::connect(form.spnPunkte.at(i), &Drehfeld::runter, &form, [&form, i] { Stufe(form, i, -1); });
     }
+}
+
+void HB_PunkteSetzen(int n, std::int16_t punkte) {
+    frmHBFragen* form = HBFragenOffen();
+    if (form == nullptr || n < 1 || n > anzahlTestfragen) {
+        return;
+    }
+    const auto i = static_cast<std::size_t>(n);
+    form->pnlPunkte.at(i)->setCaption(QString::number(punkte));
+    HBForm.HBPunkte.at(i) = punkte;
+    SummeErneuern(*form);
 }
 
 void SummeZeigen(frmHBFragen& form, int summe) {

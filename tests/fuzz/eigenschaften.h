@@ -17,6 +17,7 @@ void Wertgrammatik(std::string_view bytes); // single values
 void Zeichen(std::string_view bytes);       // code page 1252
 void Umbruch(std::string_view bytes);       // line breaking
 void Seite(std::string_view bytes);         // layout of the two sheets
+void Suche(std::string_view bytes);         // words typed, questions found
 
 struct Ziel {
     std::string_view name;
@@ -30,7 +31,8 @@ inline constexpr std::array ziele{Ziel{"formular", Formular, true},
                                   Ziel{"wertgrammatik", Wertgrammatik, true},
                                   Ziel{"zeichen", Zeichen, false},
                                   Ziel{"umbruch", Umbruch, false},
-                                  Ziel{"seite", Seite, false}};
+                                  Ziel{"seite", Seite, false},
+                                  Ziel{"suche", Suche, false}};
 
 // Ends the process with the words when the condition doesn't hold.
 void Verlange(bool bedingung, std::string_view worte);

@@ -9,6 +9,7 @@
 #include "quizform/fkformular.h"
 #include "quizform/quizformular.h"
 #include "rules/spielwerte.h"
+#include "search/fragendienst.h"
 #include "testform/frmHBFragen.h"
 #include "testform/hbformular.h"
 #include "testform/testformular.h"
@@ -68,7 +69,7 @@ constexpr std::array<Gebiet, 6> gebiete{{{"Tiere", "Vögel"},
                                          {"Sport", "Olympiade"},
                                          {"Häuptlingsbuch", "Feuerstellen"}}};
 
-Fragenliste Fragen(const Gebiet& gebiet) {
+Fragenliste Gebietsfragen(const Gebiet& gebiet) {
     UnterthemenLaden(gebiet.thema);
     Fragenliste liste;
     FragenLaden(gebiet.thema, gebiet.unterthema, liste);
@@ -89,7 +90,7 @@ void QuizFuellen() {
     for (int a = 1; a <= anzahlGebiete; ++a) {
         const Gebiet& gebiet = gebiete.at(Nr(a - 1));
         FKForm.WissenTitel.at(Nr(a)) = gebiet.thema;
-        const Fragenliste liste = Fragen(gebiet);
+        const Fragenliste liste = Gebietsfragen(gebiet);
         for (int r = 1; r <= fragenJeGebiet; ++r) {
             const std::size_t n = Nr(fragenJeGebiet * (a - 1) + r);
             const std::size_t i = Stelle(liste, r);
@@ -109,7 +110,7 @@ void QuizFuellen() {
                                        {28, "J"}}) {
         FKForm.FeldSpezial.at(Nr(n)) = buchstabe;
     }
-    const Fragenliste aufgaben = Fragen({"- Aufgaben -", "Standardaufgaben"});
+    const Fragenliste aufgaben = Gebietsfragen({"- Aufgaben -", "Standardaufgaben"});
     for (const auto& [n, i] : {std::pair{3, 8}, {26, 7}}) {
         FKForm.FeldSpezial.at(Nr(n)) = "A";
         FKForm.FrageText.at(Nr(n)) = aufgaben.wert(Nr(i), Spalte::Frage);
@@ -121,7 +122,7 @@ void QuizFuellen() {
 }
 
 void TestFuellen() {
-    const Fragenliste liste = Fragen({"Häuptlingsbuch", "Waldläuferzeichen"});
+    const Fragenliste liste = Gebietsfragen({"Häuptlingsbuch", "Waldläuferzeichen"});
     for (int n = 1; n <= anzahlTestfragen; ++n) {
         const std::size_t i = Nr(2 * n - 1) % liste.anzahl();
         HBForm.HBFrageText.at(Nr(n)) = liste.wert(i, Spalte::Frage);
@@ -154,6 +155,7 @@ private Q_SLOTS:
     void editor();
     void formularliste();
     void spielregel();
+    void suche();
 };
 
 void Handbuchbilder::feldkranz() {
@@ -235,6 +237,17 @@ void Handbuchbilder::spielregel() {
     QTest::qWait(1500); // the pages are drawn one by one
     Kindbild(leser, QStringLiteral("frmBrowser"));
     delete leser;
+}
+
+void Handbuchbilder::suche() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    Finden<QAction>(MDIFenster(), QStringLiteral("mExtra(4)"))->trigger();
+    QWidget* suche = FensterAbwarten(QStringLiteral("frmSuche"));
+    QTRY_VERIFY(::Fragen().gelesen());
+    QTest::keyClicks(Finden<QLineEdit>(suche, QStringLiteral("txtSuche")), QStringLiteral("feuer wasser"));
+    Kindbild(suche, QStringLiteral("frmSuche"));
+    Bild(MDIFenster(), QStringLiteral("suche-und-brett"));
 }
 
 QTEST_MAIN(Handbuchbilder)

@@ -1,2 +1,2 @@
-// Carries the precompiled header that all window tests share, and nothing else.
+// Carries a precompiled header that all tests of one kind share, and nothing else.
 int main() {}

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void aSecondCallUsesTheSameWindow();
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord_data();
     void aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord();
+    void itsKeyForSearchingStaysItsOwn();
     void withoutThePlugInTheWindowSaysSo();
     void whyThereIsNothingToReadIsInSightBesideTheListOfForms_data();
     void whyThereIsNothingToReadIsInSightBesideTheListOfForms();
@@ -154,6 +155,18 @@ void FrmBrowserTest::aDamagedOrEncryptedFileShowsAnEmptyPageAndAWord() {
     programm.ordner().schreiben(regel, Dokument(2)); // and it recovers
     Zeigen(programm);
     QCOMPARE(Ansicht()->Seiten(), 2);
+}
+
+void FrmBrowserTest::itsKeyForSearchingStaysItsOwn() {
+    const Zusatzordner zusatz;
+    Programm programm;
+    programm.ordner().schreiben(regel, Dokument(2));
+    Zeigen(programm);
+    auto* zeile = Finden<QLineEdit>(BrowserOffen(), QStringLiteral("txtSuche"));
+    QTRY_VERIFY(BrowserOffen()->isAncestorOf(QApplication::focusWidget()));
+    maus::Taste(QStringLiteral("ctrl+f"));
+    QTRY_VERIFY(zeile->hasFocus());
+    QVERIFY(FensterOderNichts(QStringLiteral("frmSuche")) == nullptr);
 }
 
 void FrmBrowserTest::withoutThePlugInTheWindowSaysSo() {

@@ -1,0 +1,57 @@
+#include "search/fragenbestand.h"
+
+#include "core/laufzeitfehler.h"
+#include "search/faltung.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+std::shared_ptr<const Bestandsdatei> BestandsdateiAus(std::string_view thema, std::string_view unterthema,
+                                                      Fragenliste fragen) {
+    auto datei = std::make_shared<Bestandsdatei>();
+    datei->thema = thema;
+    datei->unterthema = unterthema;
+    datei->fragen = std::move(fragen);
+    const std::size_t anzahl = datei->fragen.anzahl();
+    datei->text.reserve(datei->fragen.bytes() + 2 * anzahl);
+    datei->enden.reserve(anzahl);
+    datei->abdruecke.reserve(anzahl);
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        const std::size_t anfang = datei->text.size();
+        GefaltetAnhaengen(datei->text, datei->fragen.wert(i, Spalte::Frage), &datei->ausgelassen);
+        const std::size_t frage = datei->text.size();
+        datei->abdruecke.push_back(Fragenabdruck(std::string_view(datei->text).substr(anfang)));
+        datei->text += Bestandsdatei::trenner;
+        GefaltetAnhaengen(datei->text, datei->fragen.wert(i, Spalte::Antwort), &datei->ausgelassen);
+        const std::size_t antwort = datei->text.size();
+        datei->text += Bestandsdatei::ende;
+        if (antwort > std::numeric_limits<std::uint32_t>::max()) {
+            throw Laufzeitfehler(Fehler::SpeicherVoll);
+        }
+        datei->enden.push_back({static_cast<std::uint32_t>(frage), static_cast<std::uint32_t>(antwort)});
+    }
+    datei->text.shrink_to_fit();
+    return datei;
+}
+
+Fragenbestand::Fragenbestand(std::vector<Datei> dateien) : dateien_(std::move(dateien)) {
+    std::size_t summe = 0;
+    for (const Datei& datei : dateien_) {
+        summe += datei->fragen.anzahl();
+        anfaenge_.push_back(summe);
+    }
+}
+
+Fragenbestand::Ort Fragenbestand::ort(std::size_t nr) const {
+    const auto fund = std::upper_bound(anfaenge_.begin(), anfaenge_.end(), nr);
+    const auto datei = static_cast<std::size_t>(fund - anfaenge_.begin());
+    return {datei, nr - anfang(datei)};
+}
+
+Katalogfrage Fragenbestand::frage(std::size_t nr) const {
+    const Ort stelle = ort(nr);
+    const Bestandsdatei& datei = *dateien_[stelle.datei];
+    const auto wert = [&](Spalte spalte) { return datei.fragen.wert(stelle.frage, spalte); };
+    return {datei.thema, datei.unterthema, wert(Spalte::Frage), wert(Spalte::Antwort), wert(Spalte::Punkte)};
+}

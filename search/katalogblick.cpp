@@ -1,0 +1,131 @@
+#include "search/katalogblick.h"
+
+#include "catalogue/katalogdatei.h"
+#include "catalogue/themen.h"
+#include "core/datei.h"
+#include "core/laufzeitfehler.h"
+#include "core/pfad.h"
+#include "core/pfadname.h"
+#include "core/plattform.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+#include <new>
+#include <utility>
+
+namespace {
+
+// Names of a folder, upper-cased, with the names as they are.
+using Namen = std::map<std::string, QString>;
+
+Namen NamenVon(const QString& ordner) {
+    Namen namen;
+    try {
+        for (const QString& name : plattform::NamenLesen(ordner)) {
+            namen.emplace(Grossschreiben(name.toStdString()), name);
+        }
+    } catch (const Laufzeitfehler&) {
+        // A folder without names: each of its files is told as one that can't be read.
+    }
+    return namen;
+}
+
+QString Pfad(const QString& ordner, const Namen& namen, std::string_view datei) {
+    const QString genau = QDir(ordner).filePath(QString::fromStdString(std::string(datei)));
+    if (QFileInfo::exists(genau)) {
+        return genau;
+    }
+    const auto fund = namen.find(Grossschreiben(datei));
+    return fund == namen.end() ? genau : QDir(ordner).filePath(fund->second);
+}
+
+// nullptr for a file that can't be read.
+Fragenbestand::Datei Lesen(const QString& pfad, const Thema& thema, std::string_view unterthema) {
+    Fragenliste fragen;
+    try {
+        const std::string bytes = plattform::Lesen(pfad, groessteDatei);
+        try {
+            FragenLesen(bytes, thema.kommentarzeilen, fragen);
+        } catch (const Laufzeitfehler& fehler) {
+            if (fehler.art() != Fehler::DateiZuEnde) {
+                throw;
+            }
+            // A last record cut short is left out, as everywhere.
+        }
+        return BestandsdateiAus(thema.name, unterthema, std::move(fragen));
+    } catch (const Laufzeitfehler&) {
+        return nullptr;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+} // namespace
+
+Dateispur SpurVon(const QString& datei) {
+    const QFileInfo auskunft(datei);
+    if (!auskunft.isFile()) {
+        return {};
+    }
+    constexpr std::int64_t uhrschritt = 2000; // ms, of the coarsest file systems
+    const std::int64_t zeit = auskunft.lastModified().toMSecsSinceEpoch();
+    return {auskunft.size(), zeit, QDateTime::currentMSecsSinceEpoch() - zeit < uhrschritt};
+}
+
+bool Unveraendert(const Dateispur& bekannt, const Dateispur& jetzt) {
+    return !bekannt.frisch && bekannt.groesse == jetzt.groesse && bekannt.zeit == jetzt.zeit;
+}
+
+std::vector<QString> Katalogordner(const std::string& appPfad) {
+    std::vector<QString> ordner;
+    for (const Thema& thema : Themen()) {
+        ordner.push_back(NativerPfad(appPfad + "\\WISSEN\\" + std::string(thema.ordner)));
+    }
+    return ordner;
+}
+
+bool Katalogblick::Nachsehen(std::span<const QString> ordner,
+                             const std::function<bool(float getan)>& weiter) {
+    std::map<QString, Bekannt> neu;
+    std::vector<Fragenbestand::Datei> dateien;
+    std::vector<std::string> unlesbar;
+    bool anders = false;
+    const auto themen = Themen();
+    for (std::size_t t = 0; t < themen.size() && t < ordner.size(); ++t) {
+        const Namen namen = NamenVon(ordner[t]);
+        const auto anzahl = static_cast<float>(themen[t].unterthemen.size());
+        float hier = 0;
+        for (const Unterthema& unter : themen[t].unterthemen) {
+            if (!weiter((static_cast<float>(t) + hier++ / anzahl) / static_cast<float>(themen.size()))) {
+                return false;
+            }
+            const QString pfad = Pfad(ordner[t], namen, unter.datei);
+            const auto alt = bekannt_.find(pfad);
+            Bekannt jetzt{SpurVon(pfad), nullptr};
+            // One that couldn't be read is tried again: that it may be read now changes nothing about it.
+            if (alt != bekannt_.end() && alt->second.datei != nullptr &&
+                Unveraendert(alt->second.spur, jetzt.spur)) {
+                jetzt = alt->second;
+            } else {
+                jetzt.datei = Lesen(pfad, themen[t], unter.name);
+                const bool war = alt != bekannt_.end() && alt->second.datei != nullptr;
+                anders = anders || war || jetzt.datei != nullptr;
+                if (jetzt.datei == nullptr && (alt == bekannt_.end() || war)) {
+                    unlesbar.emplace_back(unter.datei);
+                }
+            }
+            if (jetzt.datei != nullptr) {
+                dateien.push_back(jetzt.datei);
+            }
+            neu.insert_or_assign(pfad, std::move(jetzt));
+        }
+    }
+    bekannt_ = std::move(neu);
+    neuUnlesbar_ = std::move(unlesbar);
+    if (anders) {
+        bestand_ = std::make_shared<const Fragenbestand>(std::move(dateien));
+    }
+    return anders;
+}

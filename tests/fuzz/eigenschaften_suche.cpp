@@ -1,0 +1,88 @@
+// The properties of the search: what is typed, what is found, what is marked.
+#include "tests/fuzz/eigenschaften.h"
+
+#include "search/faltung.h"
+#include "search/suche.h"
+
+#include <algorithm>
+#include <string>
+
+namespace fuzz {
+
+namespace {
+
+// What the search promises, told the slow way: from some letter on the text begins as the word does.
+bool Beginnt(std::string_view text, const std::string& wort) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool zeichenanfang = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
+        if (zeichenanfang && Gefaltet(text.substr(i)).starts_with(wort)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Erwartet(const Katalogfrage& frage, const Suchanfrage& anfrage) {
+    const auto enthaelt = [&frage](const std::string& wort) {
+        return Beginnt(frage.frage, wort) || Beginnt(frage.antwort, wort) || Beginnt(frage.thema, wort) ||
+               Beginnt(frage.unterthema, wort);
+    };
+    return std::ranges::all_of(anfrage.noetig, enthaelt) && std::ranges::none_of(anfrage.verboten, enthaelt);
+}
+
+Fragenbestand Bestand(Eingabe& eingabe) {
+    const std::string thema(eingabe.Stueck());
+    Fragenliste fragen;
+    while (!eingabe.rest.empty()) {
+        const std::string_view frage = eingabe.Stueck();
+        fragen.Anhaengen({"1", frage, eingabe.Stueck(), "2"});
+    }
+    // Themes are texts of the program.
+    return Fragenbestand({BestandsdateiAus(Gefaltet(thema), "Luft", std::move(fragen))});
+}
+
+void Fundstelle(std::string_view text, const Suchanfrage& anfrage) {
+    std::size_t bisher = 0;
+    for (const Textbereich& bereich : Fundstellen(text, anfrage)) {
+        Verlange(bereich.von >= bisher && bereich.von < bereich.bis && bereich.bis <= text.size(),
+                 "marks stand in the text, one behind the other");
+        bisher = bereich.bis;
+    }
+    const bool alle =
+        std::ranges::all_of(anfrage.noetig, [&](const auto& wort) { return Beginnt(text, wort); });
+    Verlange(!alle || anfrage.noetig.empty() || bisher > 0, "what is found is marked");
+}
+
+void Stellen(std::string_view text) {
+    const Faltung faltung = FaltungMitStellen(text);
+    Verlange(faltung.text == Gefaltet(text), "folding with places is folding");
+    Verlange(faltung.stellen.size() == faltung.text.size() + 1, "every byte has a place");
+    Verlange(std::ranges::is_sorted(faltung.stellen) && faltung.stellen.back() == text.size(),
+             "places rise to the end");
+    Verlange(faltung.text.find_first_of("\x1E\x1F") == std::string::npos, "the separators stay free");
+}
+
+} // namespace
+
+void Suche(std::string_view bytes) {
+    constexpr std::size_t genug = 1000; // the slow way grows with the square
+    Eingabe eingabe{bytes.substr(0, genug)};
+    const std::string_view getippt = eingabe.Stueck();
+    const Suchanfrage anfrage = AnfrageAus(getippt);
+    Stellen(getippt);
+    const Fragenbestand bestand = Bestand(eingabe);
+    std::vector<std::uint32_t> gefunden = Suchen(bestand, anfrage);
+    std::ranges::sort(gefunden);
+    std::vector<std::uint32_t> erwartet;
+    for (std::uint32_t nr = 0; nr < bestand.anzahl(); ++nr) {
+        const Katalogfrage frage = bestand.frage(nr);
+        Stellen(frage.frage);
+        Fundstelle(frage.frage, anfrage);
+        if (Erwartet(frage, anfrage)) {
+            erwartet.push_back(nr);
+        }
+    }
+    Verlange(gefunden == erwartet, "the search finds what a look at each question finds");
+}
+
+} // namespace fuzz
