@@ -18,7 +18,7 @@ void Erzaehlen() {
         return;
     }
     if (const std::string text = Fragen().Benutzttext(frage); !text.empty()) {
-        HilfeText(' ' + text);
+        HilfeText(std::string(1, ' ').append(text));
     }
 }
 

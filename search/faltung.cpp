@@ -91,88 +91,87 @@ bool ErsatzFuer(char32_t zeichen, Ersatz& ersatz) {
     return true;
 }
 
-// Gives each byte of the folded text with the place that it comes from, and an e that falls out as the byte
-// 0.
-template <typename Senke>
-class Falter {
-public:
-    Falter(std::string_view text, Senke senke) : text_(text), senke_(senke) {}
+// What one character from outside ASCII becomes.
+struct Gefaltetes {
+    std::size_t laenge = 1; // of the character
+    Ersatz ersatz;
+    std::string_view roh; // the character itself where it stays
 
-    void Falten() {
-        while (stelle_ < text_.size()) {
-            const auto byte = static_cast<unsigned char>(text_[stelle_]);
-            stelle_ += byte < 0x80 ? Ascii(ascii[byte]) : Anderes();
-        }
+    [[nodiscard]] std::string_view bytes() const {
+        return roh.empty() ? std::string_view(ersatz.zeichen.data(), ersatz.laenge) : roh;
     }
-
-private:
-    std::size_t Ascii(char zeichen) {
-        if (laut_ && zeichen == 'e') {
-            senke_('\0', stelle_);
-            laut_ = false;
-        } else {
-            Geben(zeichen);
-            laut_ = zeichen == 'a' || zeichen == 'o' || zeichen == 'u';
-        }
-        return 1;
-    }
-
-    std::size_t Anderes() {
-        const Zeichen zeichen = Lesen(text_.substr(stelle_));
-        Ersatz ersatz;
-        const bool ersetzt = zeichen.wert != 0 && ErsatzFuer(zeichen.wert, ersatz);
-        const std::string_view bytes = ersetzt ? std::string_view(ersatz.zeichen.data(), ersatz.laenge)
-                                               : text_.substr(stelle_, zeichen.laenge);
-        for (const char byte : bytes) {
-            Geben(byte);
-        }
-        laut_ = laut_ && bytes.empty();
-        return zeichen.laenge;
-    }
-
-    void Geben(char zeichen) {
-        if (zeichen != ' ' || !blank_) {
-            senke_(zeichen, stelle_);
-        }
-        blank_ = zeichen == ' ';
-    }
-
-    std::string_view text_;
-    Senke senke_;
-    std::size_t stelle_ = 0;
-    bool blank_ = false; // the last byte was one
-    bool laut_ = false;  // it was an a, o or u, and no umlaut
 };
+
+Gefaltetes AnderesZeichen(std::string_view text) {
+    const Zeichen zeichen = Lesen(text);
+    Gefaltetes ergebnis{zeichen.laenge, {}, {}};
+    if (zeichen.wert == 0 || !ErsatzFuer(zeichen.wert, ergebnis.ersatz)) {
+        ergebnis.roh = text.substr(0, zeichen.laenge);
+    }
+    return ergebnis;
+}
+
+// Gives each byte of the folded text with the place that it comes from, and also what falls out of it: an e
+// behind a vowel and a blank behind a blank. Without branches where it can, since letters follow no pattern.
+template <typename Senke>
+void Falten(std::string_view text, Senke senke) {
+    bool blank = false; // the last byte was one
+    bool laut = false;  // it was an a, o or u, and no umlaut
+    const auto geben = [&](char zeichen, std::size_t stelle) {
+        const bool faellt = (laut && zeichen == 'e') || (blank && zeichen == ' ');
+        senke(zeichen, stelle, !faellt);
+        blank = zeichen == ' ';
+        laut = zeichen == 'a' || zeichen == 'o' || zeichen == 'u';
+    };
+    for (std::size_t i = 0; i < text.size();) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (byte < 0x80) {
+            geben(ascii[byte], i++);
+            continue;
+        }
+        const Gefaltetes anderes = AnderesZeichen(text.substr(i));
+        for (const char zeichen : anderes.bytes()) {
+            laut = false; // none of these is an e
+            geben(zeichen, i);
+            laut = false; // an umlaut keeps the e behind it
+        }
+        i += anderes.laenge;
+    }
+}
 
 } // namespace
 
 void GefaltetAnhaengen(std::string& ziel, std::string_view text, std::vector<std::uint32_t>* ausgelassen) {
-    Falter(text, [&](char zeichen, std::size_t) {
-        if (zeichen != '\0') {
-            ziel += zeichen;
-        } else if (ausgelassen != nullptr) {
-            ausgelassen->push_back(static_cast<std::uint32_t>(ziel.size()));
+    // No character becomes longer.
+    const std::size_t anfang = ziel.size();
+    ziel.resize(anfang + text.size());
+    char* ende = ziel.data() + anfang;
+    Falten(text, [&](char zeichen, std::size_t /*stelle*/, bool bleibt) {
+        *ende = zeichen;
+        ende += bleibt ? 1 : 0;
+        if (!bleibt && zeichen == 'e' && ausgelassen != nullptr) {
+            ausgelassen->push_back(static_cast<std::uint32_t>(ende - ziel.data()));
         }
-    }).Falten();
+    });
+    ziel.resize(static_cast<std::size_t>(ende - ziel.data()));
 }
 
 std::string Gefaltet(std::string_view text) {
     std::string ergebnis;
-    ergebnis.reserve(text.size());
     GefaltetAnhaengen(ergebnis, text);
     return ergebnis;
 }
 
 Faltung FaltungMitStellen(std::string_view text) {
     Faltung ergebnis;
-    Falter(text, [&](char zeichen, std::size_t stelle) {
-        if (zeichen != '\0') {
+    Falten(text, [&](char zeichen, std::size_t stelle, bool bleibt) {
+        if (bleibt) {
             ergebnis.text += zeichen;
             ergebnis.stellen.push_back(stelle);
-        } else {
+        } else if (zeichen == 'e') {
             ergebnis.luecken.push_back({ergebnis.text.size(), stelle});
         }
-    }).Falten();
+    });
     ergebnis.stellen.push_back(text.size());
     return ergebnis;
 }
@@ -188,10 +187,10 @@ std::uint64_t Fragenabdruck(std::string_view gefaltet) {
     std::uint64_t abdruck = 0xCBF29CE484222325ULL;
     bool leer = true;
     for (const char zeichen : gefaltet) {
-        if (IstWortzeichen(zeichen)) {
-            abdruck = (abdruck ^ static_cast<unsigned char>(zeichen)) * 0x100000001B3ULL;
-            leer = false;
-        }
+        const bool zaehlt = IstWortzeichen(zeichen);
+        const std::uint64_t naechster = (abdruck ^ static_cast<unsigned char>(zeichen)) * 0x100000001B3ULL;
+        abdruck = zaehlt ? naechster : abdruck;
+        leer = leer && !zaehlt;
     }
     return leer ? 0 : abdruck;
 }

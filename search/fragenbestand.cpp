@@ -14,24 +14,26 @@ std::shared_ptr<const Bestandsdatei> BestandsdateiAus(std::string_view thema, st
     datei->unterthema = unterthema;
     datei->fragen = std::move(fragen);
     const std::size_t anzahl = datei->fragen.anzahl();
-    datei->text.reserve(datei->fragen.bytes() + 2 * anzahl);
+    std::string text;
+    text.reserve(datei->fragen.bytes() + 2 * anzahl);
     datei->enden.reserve(anzahl);
     datei->abdruecke.reserve(anzahl);
     for (std::size_t i = 0; i < anzahl; ++i) {
-        const std::size_t anfang = datei->text.size();
-        GefaltetAnhaengen(datei->text, datei->fragen.wert(i, Spalte::Frage), &datei->ausgelassen);
-        const std::size_t frage = datei->text.size();
-        datei->abdruecke.push_back(Fragenabdruck(std::string_view(datei->text).substr(anfang)));
-        datei->text += Bestandsdatei::trenner;
-        GefaltetAnhaengen(datei->text, datei->fragen.wert(i, Spalte::Antwort), &datei->ausgelassen);
-        const std::size_t antwort = datei->text.size();
-        datei->text += Bestandsdatei::ende;
+        const std::size_t anfang = text.size();
+        GefaltetAnhaengen(text, datei->fragen.wert(i, Spalte::Frage), &datei->ausgelassen);
+        const std::size_t frage = text.size();
+        datei->abdruecke.push_back(Fragenabdruck(std::string_view(text).substr(anfang)));
+        text += Bestandsdatei::trenner;
+        GefaltetAnhaengen(text, datei->fragen.wert(i, Spalte::Antwort), &datei->ausgelassen);
+        const std::size_t antwort = text.size();
+        text += Bestandsdatei::ende;
         if (antwort > std::numeric_limits<std::uint32_t>::max()) {
             throw Laufzeitfehler(Fehler::SpeicherVoll);
         }
         datei->enden.push_back({static_cast<std::uint32_t>(frage), static_cast<std::uint32_t>(antwort)});
     }
-    datei->text.shrink_to_fit();
+    text.shrink_to_fit();
+    datei->text = SuchtextAus(std::move(text));
     return datei;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "catalogue/fragenliste.h"
+#include "search/stellensuche.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -25,7 +26,7 @@ struct Bestandsdatei {
 
     std::string thema, unterthema;
     Fragenliste fragen;
-    std::string text;
+    Suchtext text;
     struct Enden {
         std::uint32_t frage, antwort; // where its trenner and its ende stand in text
     };

@@ -113,7 +113,7 @@ Suchfilter frmSuche::Filter() const {
 void frmSuche::Suchen() {
     const auto bestand = Fragen().bestand();
     Suchanfrage anfrage = AnfrageAus(txtSuche_->wert());
-    std::vector<std::uint32_t> nummern = ::Suchen(*bestand, anfrage, Filter());
+    std::vector<std::uint32_t> nummern = suchlauf_.Suchen(bestand, anfrage, Filter());
     modell_->setTreffer(bestand, std::move(nummern), std::move(anfrage));
     tblTreffer_->setCurrentIndex(modell_->index(0, 0)); // Enter takes the best
     if (modell_->anzahl() == 0) {

@@ -47,6 +47,7 @@ private:
     void Einsetzen(int zeile);
     [[nodiscard]] Suchfilter Filter() const;
 
+    Suchlauf suchlauf_;
     Textzeile* txtSuche_ = nullptr;
     QComboBox *cmbThema_ = nullptr, *cmbPunkte_ = nullptr;
     QCheckBox* chkUnbenutzt_ = nullptr;

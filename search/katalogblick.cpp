@@ -13,6 +13,7 @@
 #include <QFileInfo>
 
 #include <new>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -41,11 +42,21 @@ QString Pfad(const QString& ordner, const Namen& namen, std::string_view datei) 
     return fund == namen.end() ? genau : QDir(ordner).filePath(fund->second);
 }
 
-// nullptr for a file that can't be read.
-Fragenbestand::Datei Lesen(const QString& pfad, const Thema& thema, std::string_view unterthema) {
+// No value for a file that can't be read.
+std::optional<std::string> Bytes(const QString& pfad) {
+    try {
+        return plattform::Lesen(pfad, groessteDatei);
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
+// nullptr for bytes that are too many.
+Fragenbestand::Datei Datei(const std::string& bytes, const Thema& thema, std::string_view unterthema) {
     Fragenliste fragen;
     try {
-        const std::string bytes = plattform::Lesen(pfad, groessteDatei);
         try {
             FragenLesen(bytes, thema.kommentarzeilen, fragen);
         } catch (const Laufzeitfehler& fehler) {
@@ -86,12 +97,34 @@ std::vector<QString> Katalogordner(const std::string& appPfad) {
     return ordner;
 }
 
+void Katalogblick::Aktualisieren(Bekannt& datei, const QString& pfad, const Thema& thema,
+                                 std::string_view unterthema) {
+    const Dateispur jetzt = SpurVon(pfad);
+    // One that couldn't be read is tried again: that it may be read now changes nothing about it.
+    if (datei.fragen != nullptr && Unveraendert(datei.spur, jetzt)) {
+        return;
+    }
+    datei.spur = jetzt;
+    const std::optional<std::string> bytes = Bytes(pfad);
+    const std::size_t abdruck = bytes ? std::hash<std::string>()(*bytes) : 0;
+    if (bytes && datei.fragen != nullptr && abdruck == datei.abdruck) {
+        return; // looked at again, and the same
+    }
+    const bool war = datei.fragen != nullptr;
+    datei.fragen = bytes ? Datei(*bytes, thema, unterthema) : nullptr;
+    datei.abdruck = abdruck;
+    anders_ = anders_ || war || datei.fragen != nullptr;
+    if (datei.fragen == nullptr && (war || !datei.gesehen)) {
+        neuUnlesbar_.emplace_back(UnterthemaDatei(thema, unterthema));
+    }
+    datei.gesehen = true;
+}
+
 bool Katalogblick::Nachsehen(std::span<const QString> ordner,
                              const std::function<bool(float getan)>& weiter) {
-    std::map<QString, Bekannt> neu;
+    anders_ = false;
+    neuUnlesbar_.clear();
     std::vector<Fragenbestand::Datei> dateien;
-    std::vector<std::string> unlesbar;
-    bool anders = false;
     const auto themen = Themen();
     for (std::size_t t = 0; t < themen.size() && t < ordner.size(); ++t) {
         const Namen namen = NamenVon(ordner[t]);
@@ -101,31 +134,15 @@ bool Katalogblick::Nachsehen(std::span<const QString> ordner,
             if (!weiter((static_cast<float>(t) + hier++ / anzahl) / static_cast<float>(themen.size()))) {
                 return false;
             }
-            const QString pfad = Pfad(ordner[t], namen, unter.datei);
-            const auto alt = bekannt_.find(pfad);
-            Bekannt jetzt{SpurVon(pfad), nullptr};
-            // One that couldn't be read is tried again: that it may be read now changes nothing about it.
-            if (alt != bekannt_.end() && alt->second.datei != nullptr &&
-                Unveraendert(alt->second.spur, jetzt.spur)) {
-                jetzt = alt->second;
-            } else {
-                jetzt.datei = Lesen(pfad, themen[t], unter.name);
-                const bool war = alt != bekannt_.end() && alt->second.datei != nullptr;
-                anders = anders || war || jetzt.datei != nullptr;
-                if (jetzt.datei == nullptr && (alt == bekannt_.end() || war)) {
-                    unlesbar.emplace_back(unter.datei);
-                }
+            Bekannt& datei = bekannt_[{t, unter.datei}];
+            Aktualisieren(datei, Pfad(ordner[t], namen, unter.datei), themen[t], unter.name);
+            if (datei.fragen != nullptr) {
+                dateien.push_back(datei.fragen);
             }
-            if (jetzt.datei != nullptr) {
-                dateien.push_back(jetzt.datei);
-            }
-            neu.insert_or_assign(pfad, std::move(jetzt));
         }
     }
-    bekannt_ = std::move(neu);
-    neuUnlesbar_ = std::move(unlesbar);
-    if (anders) {
+    if (anders_) {
         bestand_ = std::make_shared<const Fragenbestand>(std::move(dateien));
     }
-    return anders;
+    return anders_;
 }

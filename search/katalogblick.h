@@ -2,6 +2,7 @@
 // look, and keeps the rest. For a thread of its own, one look at a time; finding is search/suche.h.
 #pragma once
 
+#include "catalogue/themen.h"
 #include "search/fragenbestand.h"
 
 #include <QString>
@@ -12,6 +13,8 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 // What tells one state of a file from another without reading it.
@@ -31,8 +34,8 @@ struct Dateispur {
 
 class Katalogblick {
 public:
-    // weiter is asked ahead of each file, with how much is done (0 to 1); false ends the look, and what was
-    // read until then isn't taken. True when the catalogue has become another.
+    // weiter is asked ahead of each file, with how much is done (0 to 1); false ends the look for good, and
+    // what was read until then isn't taken. True when the catalogue has become another.
     bool Nachsehen(std::span<const QString> ordner, const std::function<bool(float getan)>& weiter);
 
     [[nodiscard]] const std::shared_ptr<const Fragenbestand>& bestand() const { return bestand_; }
@@ -42,10 +45,14 @@ public:
 private:
     struct Bekannt {
         Dateispur spur;
-        Fragenbestand::Datei datei; // nullptr where it couldn't be read
+        std::size_t abdruck = 0;     // of the bytes
+        Fragenbestand::Datei fragen; // nullptr where it couldn't be read
+        bool gesehen = false;
     };
+    void Aktualisieren(Bekannt& datei, const QString& pfad, const Thema& thema, std::string_view unterthema);
 
-    std::map<QString, Bekannt> bekannt_; // by native path
+    std::map<std::pair<std::size_t, std::string_view>, Bekannt> bekannt_; // by theme and file name
+    bool anders_ = false;
     std::shared_ptr<const Fragenbestand> bestand_ = std::make_shared<const Fragenbestand>();
     std::vector<std::string> neuUnlesbar_;
 };

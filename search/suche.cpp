@@ -5,8 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
-#include <memory>
+#include <functional>
 #include <numeric>
 #include <optional>
 #include <span>
@@ -20,12 +19,10 @@ constexpr Rang hoechster = 254;
 constexpr Rang imThema = 2;
 constexpr Rang mittendrin = 6;
 
-Rang Stellung(std::string_view text, std::size_t stelle, std::size_t laenge) {
-    if (stelle > 0 && IstWortzeichen(text[stelle - 1])) {
-        return mittendrin;
-    }
-    const std::size_t dahinter = stelle + laenge;
-    return dahinter < text.size() && IstWortzeichen(text[dahinter]) ? 3 : 0;
+// The best of the hits of a block that mask names.
+Rang Stellung(const Stellenblock& block, std::uint64_t maske) {
+    const std::uint64_t anfaenge = block.treffer & block.wortanfang & maske;
+    return (anfaenge & block.wortende) != 0 ? 0 : anfaenge != 0 ? 3 : mittendrin;
 }
 
 // A word with all that its search needs.
@@ -45,15 +42,15 @@ struct Gesuchtes {
 // Of a theme's or a sub-theme's name.
 Rang Namensrang(const std::string& name, const Gesuchtes& gesucht) {
     Rang bester = keiner;
-    std::string text;
     std::vector<std::uint32_t> luecken;
-    GefaltetAnhaengen(text, name, &luecken);
-    gesucht.nadel.Suchen(text, 0, text.size(), [&](std::size_t stelle) {
-        bester = std::min<Rang>(bester, Stellung(text, stelle, gesucht.nadel.laenge()) + imThema);
-        return stelle + 1;
+    std::string gefaltet;
+    GefaltetAnhaengen(gefaltet, name, &luecken);
+    const Suchtext text = SuchtextAus(std::move(gefaltet));
+    gesucht.nadel.Suchen(text, 0, text.text.size(), [&](const Stellenblock& block) {
+        bester = std::min<Rang>(bester, Stellung(block, block.treffer) + imThema);
     });
     for (const std::uint32_t luecke : luecken) {
-        if (gesucht.ohneE && text.compare(luecke, gesucht.ohneE->size(), *gesucht.ohneE) == 0) {
+        if (gesucht.ohneE && text.text.compare(luecke, gesucht.ohneE->size(), *gesucht.ohneE) == 0) {
             bester = std::min<Rang>(bester, mittendrin + imThema);
         }
     }
@@ -64,172 +61,146 @@ Rang Themenrang(const Bestandsdatei& datei, const Gesuchtes& gesucht) {
     return std::min(Namensrang(datei.thema, gesucht), Namensrang(datei.unterthema, gesucht));
 }
 
-// The question that a place belongs to, as places come in rising order.
-class Fragenzeiger {
+// The question or answer that a place belongs to, as places come in rising order.
+class Textzeiger {
 public:
-    Fragenzeiger(const Bestandsdatei& datei, std::size_t ab) : datei_(datei), frage_(ab) {}
+    explicit Textzeiger(const Bestandsdatei& datei) : datei_(datei) {}
 
-    std::size_t Fuer(std::size_t stelle) {
+    void Gehen(std::size_t stelle) {
         while (datei_.enden[frage_].antwort < stelle) {
             ++frage_;
         }
-        return frage_;
+        ort_ = stelle < datei_.enden[frage_].frage ? 0 : 1;
     }
-    // Behind the question.
-    [[nodiscard]] std::size_t danach() const { return datei_.enden[frage_].antwort + std::size_t{1}; }
-    [[nodiscard]] Rang ort(std::size_t stelle) const { return stelle < datei_.enden[frage_].frage ? 0 : 1; }
+    [[nodiscard]] std::size_t frage() const { return frage_; }
+    [[nodiscard]] Rang ort() const { return ort_; }
+    // Where the text ends.
+    [[nodiscard]] std::size_t ende() const {
+        return ort_ == 0 ? datei_.enden[frage_].frage : datei_.enden[frage_].antwort;
+    }
 
 private:
     const Bestandsdatei& datei_;
-    std::size_t frage_;
+    std::size_t frage_ = 0;
+    Rang ort_ = 0;
 };
-
-struct Spanne {
-    std::size_t von, bis; // questions of one file
-};
-
-std::size_t Textanfang(const Bestandsdatei& datei, std::size_t frage) {
-    return frage == 0 ? 0 : datei.enden[frage - 1].antwort + std::size_t{1};
-}
 
 // The places where the e of the word has fallen out and the rest follows.
-void OhneE(const Bestandsdatei& datei, const Gesuchtes& gesucht, Spanne spanne, std::span<Rang> raenge) {
-    const std::size_t von = Textanfang(datei, spanne.von);
-    const std::size_t bis = Textanfang(datei, spanne.bis);
-    auto ausgelassen = std::lower_bound(datei.ausgelassen.begin(), datei.ausgelassen.end(), von);
-    Fragenzeiger zeiger(datei, spanne.von);
-    for (; ausgelassen != datei.ausgelassen.end() && *ausgelassen < bis; ++ausgelassen) {
-        if (datei.text.compare(*ausgelassen, gesucht.ohneE->size(), *gesucht.ohneE) == 0) {
-            Rang& rang = raenge[zeiger.Fuer(*ausgelassen) - spanne.von];
-            rang = std::min<Rang>(rang, mittendrin + zeiger.ort(*ausgelassen));
+void OhneE(const Bestandsdatei& datei, const Gesuchtes& gesucht, std::span<Rang> raenge) {
+    Textzeiger zeiger(datei);
+    for (const std::uint32_t luecke : datei.ausgelassen) {
+        if (datei.text.text.compare(luecke, gesucht.ohneE->size(), *gesucht.ohneE) == 0) {
+            zeiger.Gehen(luecke);
+            Rang& rang = raenge[zeiger.frage()];
+            rang = std::min<Rang>(rang, mittendrin + zeiger.ort());
         }
     }
 }
 
-// Best rank of the word in each question of the span; those without it keep what they have.
-void Durchsuchen(const Bestandsdatei& datei, const Gesuchtes& gesucht, Spanne spanne,
-                 std::span<Rang> raenge) {
-    if (spanne.von == spanne.bis) {
+// Rank of the word in each question of a file.
+void Durchsuchen(const Bestandsdatei& datei, const Gesuchtes& gesucht, std::span<Rang> raenge) {
+    std::fill(raenge.begin(), raenge.end(), Themenrang(datei, gesucht));
+    Textzeiger zeiger(datei);
+    gesucht.nadel.Suchen(datei.text, 0, datei.text.text.size(), [&](Stellenblock block) {
+        while (block.treffer != 0) {
+            zeiger.Gehen(block.erste());
+            const std::uint64_t hier = block.vor(zeiger.ende());
+            Rang& rang = raenge[zeiger.frage()];
+            rang = std::min<Rang>(rang, Stellung(block, hier) + zeiger.ort());
+            block.treffer &= ~hier;
+        }
+    });
+    if (gesucht.ohneE) {
+        OhneE(datei, gesucht, raenge);
+    }
+}
+
+// Ranks of two words, or of more, together.
+void Verbinden(std::span<Rang> raenge, std::span<const Rang> weitere) {
+    for (std::size_t i = 0; i < raenge.size(); ++i) {
+        const int summe = std::min(raenge[i] + weitere[i], int{hoechster});
+        raenge[i] = raenge[i] == keiner || weitere[i] == keiner ? keiner : static_cast<Rang>(summe);
+    }
+}
+
+void Ausschliessen(std::span<Rang> raenge, std::span<const Rang> verbotene) {
+    for (std::size_t i = 0; i < raenge.size(); ++i) {
+        raenge[i] = verbotene[i] == keiner ? raenge[i] : keiner;
+    }
+}
+
+void Filtern(const Bestandsdatei& datei, const Suchfilter& filter, std::span<Rang> raenge) {
+    if (!filter.thema.empty() && datei.thema != filter.thema) {
+        std::fill(raenge.begin(), raenge.end(), keiner);
+    }
+    if (filter.punkte.empty() && !filter.behalten) {
         return;
     }
-    Fragenzeiger zeiger(datei, spanne.von);
-    const std::string_view text = datei.text;
-    gesucht.nadel.Suchen(
-        text, Textanfang(datei, spanne.von), Textanfang(datei, spanne.bis), [&](std::size_t stelle) {
-            Rang& rang = raenge[zeiger.Fuer(stelle) - spanne.von];
-            const Rang ort = zeiger.ort(stelle);
-            rang = std::min<Rang>(rang, Stellung(text, stelle, gesucht.nadel.laenge()) + ort);
-            // Nothing better can come behind it.
-            return rang <= ort ? zeiger.danach() : stelle + 1;
-        });
-    if (gesucht.ohneE) {
-        OhneE(datei, gesucht, spanne, raenge);
+    for (std::size_t i = 0; i < raenge.size(); ++i) {
+        if (raenge[i] != keiner &&
+            ((!filter.punkte.empty() && datei.fragen.wert(i, Spalte::Punkte) != filter.punkte) ||
+             (filter.behalten && !filter.behalten(datei.abdruecke[i])))) {
+            raenge[i] = keiner;
+        }
     }
 }
 
-Rang Summe(Rang a, Rang b) {
-    return a == keiner || b == keiner ? keiner : static_cast<Rang>(std::min(a + b, int{hoechster}));
-}
-
-// Ranks of all questions of one file.
-class Dateisuche {
-public:
-    Dateisuche(const std::vector<Gesuchtes>& noetig, const std::vector<Gesuchtes>& verboten)
-        : noetig_(noetig), verboten_(verboten) {}
-
-    std::span<const Rang> Raenge(const Bestandsdatei& datei) {
-        raenge_.assign(datei.enden.size(), noetig_.empty() ? 0 : keiner);
-        bool erstes = true;
-        for (const Gesuchtes& wort : noetig_) {
-            const Rang thema = Themenrang(datei, wort);
-            if (erstes) {
-                std::fill(raenge_.begin(), raenge_.end(), thema);
-                Durchsuchen(datei, wort, {0, raenge_.size()}, raenge_);
-            } else {
-                Einschraenken(datei, wort, thema);
-            }
-            erstes = false;
-        }
-        for (const Gesuchtes& wort : verboten_) {
-            Ausschliessen(datei, wort);
-        }
-        return raenge_;
-    }
-
-private:
-    void Einschraenken(const Bestandsdatei& datei, const Gesuchtes& wort, Rang thema) {
-        for (std::size_t i = 0; i < raenge_.size(); ++i) {
-            if (raenge_[i] != keiner) {
-                Rang rang = thema;
-                Durchsuchen(datei, wort, {i, i + 1}, std::span(&rang, 1));
-                raenge_[i] = Summe(raenge_[i], rang);
-            }
-        }
-    }
-
-    void Ausschliessen(const Bestandsdatei& datei, const Gesuchtes& wort) {
-        gefunden_.assign(raenge_.size(), Themenrang(datei, wort));
-        Durchsuchen(datei, wort, {0, gefunden_.size()}, gefunden_);
-        for (std::size_t i = 0; i < raenge_.size(); ++i) {
-            raenge_[i] = gefunden_[i] == keiner ? raenge_[i] : keiner;
-        }
-    }
-
-    const std::vector<Gesuchtes>& noetig_;
-    const std::vector<Gesuchtes>& verboten_;
-    std::vector<Rang> raenge_, gefunden_;
-};
-
-// The rarest is looked for first: the longest.
-std::vector<Gesuchtes> Geordnet(std::vector<std::string> worte) {
-    std::ranges::stable_sort(worte, std::ranges::greater(), &std::string::size);
-    return {worte.begin(), worte.end()};
-}
-
-bool Behalten(const Bestandsdatei& datei, std::size_t frage, const Suchfilter& filter) {
-    return (filter.punkte.empty() || datei.fragen.wert(frage, Spalte::Punkte) == filter.punkte) &&
-           (!filter.behalten || filter.behalten(datei.abdruecke[frage]));
-}
-
-struct Treffer {
-    std::uint32_t nr;
-    Rang rang;
-};
-
-// Stable, and in two passes over however many there are.
-std::vector<std::uint32_t> NachRang(const std::vector<Treffer>& treffer) {
-    std::array<std::size_t, std::size_t{keiner} + 1> stelle{};
-    for (const Treffer& einer : treffer) {
-        ++stelle[einer.rang + std::size_t{1}];
+// The numbers of all that have a rank, the best first; two passes over however many there are.
+std::vector<std::uint32_t> NachRang(std::span<const Rang> raenge) {
+    std::array<std::size_t, std::size_t{keiner} + 2> stelle{};
+    for (const Rang rang : raenge) {
+        ++stelle[rang + std::size_t{1}];
     }
     std::partial_sum(stelle.begin(), stelle.end(), stelle.begin());
-    std::vector<std::uint32_t> nummern(treffer.size());
-    for (const Treffer& einer : treffer) {
-        nummern[stelle[einer.rang]++] = einer.nr;
+    std::vector<std::uint32_t> nummern(stelle[keiner]);
+    for (std::uint32_t nr = 0; nr < raenge.size(); ++nr) {
+        if (raenge[nr] != keiner) {
+            nummern[stelle[raenge[nr]]++] = nr;
+        }
     }
     return nummern;
 }
 
 } // namespace
 
-std::vector<std::uint32_t> Suchen(const Fragenbestand& bestand, const Suchanfrage& anfrage,
-                                  const Suchfilter& filter) {
-    const std::vector<Gesuchtes> noetig = Geordnet(anfrage.noetig);
-    const std::vector<Gesuchtes> verboten = Geordnet(anfrage.verboten);
-    Dateisuche suche(noetig, verboten);
-    std::vector<Treffer> treffer;
-    for (std::size_t d = 0; d < bestand.dateien().size(); ++d) {
-        const Bestandsdatei& datei = *bestand.dateien()[d];
-        if (!filter.thema.empty() && datei.thema != filter.thema) {
-            continue;
-        }
-        const std::span<const Rang> raenge = suche.Raenge(datei);
-        const auto anfang = static_cast<std::uint32_t>(bestand.anfang(d));
-        for (std::uint32_t i = 0; i < raenge.size(); ++i) {
-            if (raenge[i] != keiner && Behalten(datei, i, filter)) {
-                treffer.push_back({anfang + i, raenge[i]});
-            }
+const std::vector<std::uint8_t>& Suchlauf::Wortraenge(const std::string& wort) {
+    const auto [platz, neu] = raenge_.try_emplace(wort);
+    if (neu) {
+        platz->second.resize(bestand_->anzahl());
+        const Gesuchtes gesucht(wort);
+        for (std::size_t d = 0; d < bestand_->dateien().size(); ++d) {
+            const Bestandsdatei& datei = *bestand_->dateien()[d];
+            Durchsuchen(datei, gesucht,
+                        std::span(platz->second).subspan(bestand_->anfang(d), datei.enden.size()));
         }
     }
-    return NachRang(treffer);
+    return platz->second;
+}
+
+void Suchlauf::Vergessen(const Suchanfrage& anfrage) {
+    std::erase_if(raenge_, [&anfrage](const auto& eintrag) {
+        return std::ranges::find(anfrage.noetig, eintrag.first) == anfrage.noetig.end() &&
+               std::ranges::find(anfrage.verboten, eintrag.first) == anfrage.verboten.end();
+    });
+}
+
+std::vector<std::uint32_t> Suchlauf::Suchen(const std::shared_ptr<const Fragenbestand>& bestand,
+                                            const Suchanfrage& anfrage, const Suchfilter& filter) {
+    if (bestand_ != bestand) {
+        bestand_ = bestand;
+        raenge_.clear();
+    }
+    Vergessen(anfrage);
+    std::vector<Rang> raenge(bestand->anzahl(), 0);
+    for (const std::string& wort : anfrage.noetig) {
+        Verbinden(raenge, Wortraenge(wort));
+    }
+    for (const std::string& wort : anfrage.verboten) {
+        Ausschliessen(raenge, Wortraenge(wort));
+    }
+    for (std::size_t d = 0; d < bestand->dateien().size(); ++d) {
+        const Bestandsdatei& datei = *bestand->dateien()[d];
+        Filtern(datei, filter, std::span(raenge).subspan(bestand->anfang(d), datei.enden.size()));
+    }
+    return NachRang(raenge);
 }

@@ -30,7 +30,7 @@ bool Erwartet(const Katalogfrage& frage, const Suchanfrage& anfrage) {
     return std::ranges::all_of(anfrage.noetig, enthaelt) && std::ranges::none_of(anfrage.verboten, enthaelt);
 }
 
-Fragenbestand Bestand(Eingabe& eingabe) {
+std::shared_ptr<const Fragenbestand> Bestand(Eingabe& eingabe) {
     const std::string thema(eingabe.Stueck());
     Fragenliste fragen;
     while (!eingabe.rest.empty()) {
@@ -38,7 +38,8 @@ Fragenbestand Bestand(Eingabe& eingabe) {
         fragen.Anhaengen({"1", frage, eingabe.Stueck(), "2"});
     }
     // Themes are texts of the program.
-    return Fragenbestand({BestandsdateiAus(Gefaltet(thema), "Luft", std::move(fragen))});
+    return std::make_shared<const Fragenbestand>(
+        std::vector{BestandsdateiAus(Gefaltet(thema), "Luft", std::move(fragen))});
 }
 
 void Fundstelle(std::string_view text, const Suchanfrage& anfrage) {
@@ -70,12 +71,12 @@ void Suche(std::string_view bytes) {
     const std::string_view getippt = eingabe.Stueck();
     const Suchanfrage anfrage = AnfrageAus(getippt);
     Stellen(getippt);
-    const Fragenbestand bestand = Bestand(eingabe);
-    std::vector<std::uint32_t> gefunden = Suchen(bestand, anfrage);
+    const auto bestand = Bestand(eingabe);
+    std::vector<std::uint32_t> gefunden = Suchlauf().Suchen(bestand, anfrage);
     std::ranges::sort(gefunden);
     std::vector<std::uint32_t> erwartet;
-    for (std::uint32_t nr = 0; nr < bestand.anzahl(); ++nr) {
-        const Katalogfrage frage = bestand.frage(nr);
+    for (std::uint32_t nr = 0; nr < bestand->anzahl(); ++nr) {
+        const Katalogfrage frage = bestand->frage(nr);
         Stellen(frage.frage);
         Fundstelle(frage.frage, anfrage);
         if (Erwartet(frage, anfrage)) {

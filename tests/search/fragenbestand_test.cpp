@@ -37,9 +37,9 @@ TEST(FragenbestandTest, TheFoldedTextsStandEndToEnd) {
     liste.Anhaengen({"1", "Wo?", "Da\xDF", "1"}); // ß in code page 1252
     liste.Anhaengen({"2", "", "", ""});
     const auto datei = BestandsdateiAus("T", "U", std::move(liste));
-    EXPECT_EQ(datei->text, "wo" + Gefaltet("?") +
-                               "\x1F"
-                               "dass\x1E\x1F\x1E");
+    EXPECT_EQ(datei->text.text, "wo" + Gefaltet("?") +
+                                    "\x1F"
+                                    "dass\x1E\x1F\x1E");
     EXPECT_EQ(datei->enden[0].frage, 3U);
     EXPECT_EQ(datei->enden[0].antwort, 8U);
     EXPECT_EQ(datei->enden[1].frage, 9U);

@@ -11,9 +11,10 @@ namespace {
 std::vector<std::size_t> Alle(const std::string& heu, const std::string& bytes, std::size_t von,
                               std::size_t bis) {
     std::vector<std::size_t> stellen;
-    Nadel(bytes).Suchen(heu, von, bis, [&](std::size_t stelle) {
-        stellen.push_back(stelle);
-        return stelle + 1;
+    Nadel(bytes).Suchen(SuchtextAus(heu), von, bis, [&](Stellenblock block) {
+        for (; block.treffer != 0; block.treffer &= block.treffer - 1) {
+            stellen.push_back(block.erste());
+        }
     });
     return stellen;
 }
@@ -46,14 +47,27 @@ TEST(StellensucheTest, EveryPlaceIsFoundWhateverTheSizesAre) {
     }
 }
 
-TEST(StellensucheTest, WhoWantsToGoOnFurtherBackHearsOfNothingBetween) {
-    const std::string heu(500, 'x');
-    std::vector<std::size_t> stellen;
-    Nadel("xx").Suchen(heu, 3, heu.size(), [&](std::size_t stelle) {
-        stellen.push_back(stelle);
-        return stelle + 200;
+TEST(StellensucheTest, WhereAWordBeginsAndEndsIsToldInEveryBlock) {
+    // So long that the first, a middle and the last block are among them.
+    const std::string muster = "ab abc xab xabc ";
+    std::string heu;
+    while (heu.size() < 300) {
+        heu += muster;
+    }
+    std::string anfang;
+    std::string ende;
+    Nadel("ab").Suchen(SuchtextAus(heu), 0, heu.size(), [&](Stellenblock block) {
+        for (; block.treffer != 0; block.treffer &= block.treffer - 1) {
+            const std::uint64_t bit = block.treffer & (~block.treffer + 1);
+            anfang += (block.wortanfang & bit) != 0 ? '1' : '0';
+            ende += (block.wortende & bit) != 0 ? '1' : '0';
+        }
     });
-    EXPECT_EQ(stellen, (std::vector<std::size_t>{3, 203, 403}));
+    ASSERT_EQ(anfang.size(), 4 * heu.size() / muster.size());
+    for (std::size_t i = 0; i < anfang.size(); i += 4) {
+        EXPECT_EQ(anfang.substr(i, 4), "1100") << i;
+        EXPECT_EQ(ende.substr(i, 4), "1010") << i;
+    }
 }
 
 } // namespace
