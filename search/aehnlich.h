@@ -8,7 +8,15 @@
 
 // What of a question is compared, made once for many comparisons.
 struct Wortanfaenge {
-    std::vector<std::uint64_t> anfaenge; // sorted, each once
+    struct Wort {
+        std::uint64_t stamm;   // its first letters without ending, six bits each, the first one on top
+        std::uint64_t geruest; // the same without vowels, as they change in verbs; 0 for a noun
+        int gewicht;           // how much it tells the question from others
+    };
+    std::vector<Wort> woerter; // by stamm, each once; words that nearly every question has aren't there
+    // Bits for the letters of the words, of all and of those that can't be done without: a word that has no
+    // partner in another question nearly always shows by its bit.
+    std::uint64_t alle = 0, wichtige = 0;
 };
 [[nodiscard]] Wortanfaenge WortanfaengeVon(std::string_view frage);
 

@@ -1,10 +1,12 @@
 feldkranz_quellen(modell
+  search/aehnlich.cpp
   search/benutzung.cpp
   search/faltung.cpp
   search/fragenbestand.cpp
   search/stellensuche.cpp
   search/suchanfrage.cpp
   search/suche.cpp
+  search/wortstamm.cpp
   search/zielfeld.cpp)
 feldkranz_quellen(rand search/formularblick.cpp search/katalogblick.cpp)
 feldkranz_quellen(fenster
