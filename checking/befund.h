@@ -4,7 +4,6 @@
 
 #include "core/formart.h"
 
-#include <compare>
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -6,7 +6,8 @@
 #include "checking/befund.h"
 #include "checking/fragenpruefung.h"
 #include "forms/formularstand.h"
-#include "printing/zeichnung.h"
+
+class Schriftmass;
 
 struct Pruefmittel {
     const Schriftmass& mass;

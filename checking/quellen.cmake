@@ -5,3 +5,9 @@ feldkranz_quellen(modell
   checking/papierpruefung.cpp
   checking/pruefung.cpp
   checking/pruefzeile.cpp)
+feldkranz_quellen(rand checking/pruefschriften.cpp)
+feldkranz_quellen(fenster
+  checking/befundmodell.cpp checking/befundmodell.h
+  checking/frmPruefung.cpp checking/frmPruefung.h
+  checking/frmPruefungBau.cpp
+  checking/pruefen.cpp)

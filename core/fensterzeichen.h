@@ -8,11 +8,19 @@
 #include <cstdint>
 #include <string_view>
 
-enum class Kindfenster : std::uint8_t { Quizformular, Testformular, Editor, Spielregel, Homepage, Suche };
+enum class Kindfenster : std::uint8_t {
+    Quizformular,
+    Testformular,
+    Editor,
+    Spielregel,
+    Homepage,
+    Suche,
+    Pruefung
+};
 
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Kindfenster fenster) {
-    constexpr std::array<std::string_view, 6> zeichen{"FKFragen", "HBFragen", "Editor",
-                                                      "Browser",  "Homepage", "Suche"};
+    constexpr std::array<std::string_view, 7> zeichen{"FKFragen", "HBFragen", "Editor",  "Browser",
+                                                      "Homepage", "Suche",    "Pruefung"};
     return zeichen.at(static_cast<std::size_t>(fenster));
 }
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {

@@ -1,15 +1,17 @@
 #include "filetools/listentasten.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
-#include <QListWidget>
 
 #include <algorithm>
 
-bool ErstenPfeilAusfuehren(QListWidget* liste, const QKeyEvent& taste) {
+bool ErstenPfeilAusfuehren(QAbstractItemView* liste, const QKeyEvent& taste) {
     const bool pfeil = taste.key() == Qt::Key_Down || taste.key() == Qt::Key_Up;
-    if (!pfeil || liste->count() == 0 || !liste->selectedItems().isEmpty()) {
+    if (!pfeil || liste->model()->rowCount() == 0 || liste->selectionModel()->hasSelection()) {
         return false;
     }
-    liste->setCurrentRow(std::max(0, liste->currentRow()), QItemSelectionModel::ClearAndSelect);
+    liste->selectionModel()->setCurrentIndex(
+        liste->model()->index(std::max(0, liste->currentIndex().row()), 0),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     return true;
 }

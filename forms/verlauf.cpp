@@ -15,6 +15,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -26,6 +27,12 @@ bool zeigt = false;           // a former value is being put back
 bool pruefungKommt = false;   // the comparison waits for the running work to end
 std::string_view eingabe;     // what has been typed since the last step, as of the last comparison
 std::function<void()> melden; // what could be undone may be another step
+
+struct Zuhoerer {
+    QPointer<QObject> empfaenger;
+    std::function<void()> anders;
+};
+std::vector<Zuhoerer> zuhoerer; // of the form's changes
 
 bool Fuehrt() {
     return !folge.leer() && OffenesFormular() != nullptr && Formularnummer() == formular;
@@ -52,6 +59,10 @@ void FlaggeAngleichen(const Formularstand& jetzt) {
         FlaggeZeigen(geaendert);
     }
     FormularjournalFuehren(geaendert);
+    std::erase_if(zuhoerer, [](const Zuhoerer& einer) { return einer.empfaenger.isNull(); });
+    for (const Zuhoerer& einer : zuhoerer) {
+        einer.anders();
+    }
 }
 
 void Pruefen() {
@@ -191,6 +202,10 @@ void GespeichertVergessen() {
 
 bool IstGeleert() {
     return gespeichert && Fuehrt() && Leergeraeumt(*gespeichert, FormularstandJetzt());
+}
+
+void BeiFormularaenderung(QObject* empfaenger, std::function<void()> anders) {
+    zuhoerer.push_back({empfaenger, std::move(anders)});
 }
 
 void RueckgaengigMachen() {

@@ -21,6 +21,10 @@ void FormularstatusGesetzt(bool geaendert);
 // What the form shows may stand in no file: the flag is red whatever it shows, until it is saved.
 void GespeichertVergessen();
 
+// Runs after each comparison: whenever the open form may show something else, also in the middle of typing,
+// and when another form has come. Only while empfaenger lives. That a form goes isn't told.
+void BeiFormularaenderung(QObject* empfaenger, std::function<void()> anders);
+
 // True when nothing of what was saved last is left on the form: its questions, its answers, its letters or
 // its points were blanked.
 [[nodiscard]] bool IstGeleert();

@@ -1,6 +1,7 @@
 #include "mainwindow/befehle.h"
 
 #include "catalogue/auswahl.h"
+#include "checking/pruefen.h"
 #include "core/hauptfenster.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
@@ -123,6 +124,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"mExtra(1)", befehle::Rueckgaengig},
     Zuordnung{"mExtra(2)", befehle::Wiederherstellen},
     Zuordnung{"mExtra(4)", SucheZeigen},
+    Zuordnung{"mExtra(6)", PruefungZeigen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},

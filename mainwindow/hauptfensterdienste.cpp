@@ -27,7 +27,8 @@ constexpr std::array kindzeichen{std::pair<const char*, std::string_view>{"frmFK
                                  std::pair<const char*, std::string_view>{"frmEditor", "leiste/editor"},
                                  std::pair<const char*, std::string_view>{"frmBrowser", "leiste/regel"},
                                  std::pair<const char*, std::string_view>{"frmHomepage", "leiste/netz"},
-                                 std::pair<const char*, std::string_view>{"frmSuche", "leiste/auswahl"}};
+                                 std::pair<const char*, std::string_view>{"frmSuche", "leiste/auswahl"},
+                                 std::pair<const char*, std::string_view>{"frmPruefung", "datei/ok"}};
 
 template <typename Steuerelement>
 Steuerelement* Teil(const char* name) {

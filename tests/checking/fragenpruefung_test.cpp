@@ -79,8 +79,8 @@ TEST(Fragenpruefung, AJokerAndAnEreignisNeedNoQuestion) {
 
 TEST(Fragenpruefung, AQuestionThatIsThereTwiceIsToldAtItsSecondPlace) {
     Quizformular form = GutesFormular();
-    form.FrageText[9] = "WELCHER  BERG AUS NORWEGEN";
-    form.FrageText[12] = "Wie heißt der Berg in Norwegen?";
+    form.FrageText[9] = "WELCHER  BERG AUS PERU";
+    form.FrageText[12] = "Wie heißt der Berg in Peru?";
     EXPECT_EQ(
         Geprueft(Stand(form)),
         (Texte{"Hinweis | Gebiet 2, Frage 4 | Dieselbe Frage steht schon in [ Gebiet 1, Frage 1 ].",
@@ -89,8 +89,8 @@ TEST(Fragenpruefung, AQuestionThatIsThereTwiceIsToldAtItsSecondPlace) {
 
 TEST(Fragenpruefung, AQuestionFromAnotherFormIsToldWithItsName) {
     const Benutzungstext benutzt = [](std::string_view frage) {
-        return frage == "Welcher Turm aus Japan?" ? std::string("schon benutzt in ABEND.FKR (20.11.2026)")
-                                                  : std::string();
+        return frage == "Welcher Turm aus Togo?" ? std::string("schon benutzt in ABEND.FKR (20.11.2026)")
+                                                 : std::string();
     };
     EXPECT_EQ(Geprueft(Stand(GutesFormular()), benutzt),
               Texte{"Hinweis | Gebiet 3, Frage 5 | Schon benutzt in ABEND.FKR (20.11.2026)."});

@@ -1,8 +1,9 @@
-// What the tests of the check share: forms as values, and findings as lines that can be read.
+// What the tests of the rules share: a measure of text, and findings as lines that can be read.
 #pragma once
 
 #include "checking/pruefung.h"
 #include "printing/zeichnung.h"
+#include "tests/checking/pruefformular.h"
 
 #include <string>
 #include <vector>
@@ -17,29 +18,6 @@ public:
         return Millimeter(schrift.groesse.zahl() * 0.5F);
     }
 };
-
-inline Spielwerte VollesBrett() {
-    Spielwerte spiel;
-    spiel.AnzahlWissen = anzahlGebiete;
-    spiel.FragenProWissen = fragenJeGebiet;
-    spiel.Felder.fill(2);
-    spiel.Papierformat = "A4 quer";
-    return spiel;
-}
-
-// Thirty questions about which there is nothing to say, and their answers.
-inline Quizformular GutesFormular() {
-    constexpr std::array<const char*, 6> was{"Berg", "Fluss", "Turm", "Vogel", "Fisch", "Baum"};
-    constexpr std::array<const char*, 5> woher{"Norwegen", "Portugal", "Kanada", "Ungarn", "Japan"};
-    Quizformular form;
-    for (std::size_t n = 1; n <= anzahlFelder; ++n) {
-        const auto gebiet = static_cast<std::size_t>(GebietVon(static_cast<int>(n)) - 1);
-        const auto zeile = static_cast<std::size_t>(ZeileVon(static_cast<int>(n)) - 1);
-        form.FrageText.at(n) = std::string("Welcher ") + was.at(gebiet) + " aus " + woher.at(zeile) + "?";
-        form.AntwortText.at(n) = "Antwort";
-    }
-    return form;
-}
 
 inline Formularstand Stand(const Quizformular& form, const Spielwerte& spiel = VollesBrett()) {
     return {Quizstand{form, form}, spiel};
