@@ -23,7 +23,7 @@ void LueckePruefen(Befunde& befunde, const Pruefzeile& zeile, bool mitAntworten)
         if (!test) {
             befunde.push_back(Hinweis(Anlass::Leer, zeile.ort, pruefungtexte::leeresFeld));
         }
-    } else if (keineFrage && test) {
+    } else if (test && zeile.frage.empty()) { // a row of blanks is printed
         befunde.push_back({Schwere::Fehler, Anlass::Ungedruckt, zeile.antwortort(),
                            std::string(pruefungtexte::ungedruckt)});
     } else if (keineFrage) {

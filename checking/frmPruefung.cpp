@@ -59,8 +59,6 @@ void KopfSetzen(const QWidget& form, const Ersatztext& text) {
 frmPruefung::frmPruefung() {
     Aufbauen();
     Verbinden();
-    Fragen().Pruefen();
-    Nachsehen();
 }
 
 void frmPruefung::Verbinden() {
@@ -194,6 +192,7 @@ void frmPruefung::Ersetzen() {
             KopfSetzen(*form->fenster(), text);
         }
     }
+    form->NachVorn(); // where a step back is at hand
     Nachsehen();
     // A box that was left with a mark in it speaks first.
     const std::string text = texte.size() == 1

@@ -4,6 +4,7 @@
 #include "checking/texte.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "search/fragendienst.h"
 
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -15,12 +16,12 @@ namespace {
 QPointer<frmPruefung> offen;
 
 // At the bottom on the right, above the form: so one sees the list while working on the form, and most of the
-// form beside it.
+// form beside it. What it leaves on the left is the list of forms'.
 void Platzieren(QMdiSubWindow& rahmen) {
     constexpr int luft = 8;
-    constexpr int hoechsteBreite = 700;
+    constexpr int dateiliste = 402;
     const QSize flaeche = rahmen.parentWidget()->size();
-    const int breite = std::min(hoechsteBreite, flaeche.width() - 2 * luft);
+    const int breite = std::clamp(flaeche.width() - 2 * luft - dateiliste, 440, 700);
     const int hoehe = std::clamp(flaeche.height() / 3, 190, 320);
     rahmen.setWindowFlag(Qt::WindowStaysOnTopHint);
     rahmen.setGeometry(flaeche.width() - breite - luft, std::max(0, flaeche.height() - hoehe - luft), breite,
@@ -43,6 +44,8 @@ void PruefungZeigen() {
             rahmen->show();
         }
     }
+    Fragen().Pruefen();
+    offen->Nachsehen();
     offen->show();
     KindNachVorn(offen);
     offen->setFocus();
