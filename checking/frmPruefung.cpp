@@ -2,6 +2,7 @@
 
 #include "checking/anfuehrungen.h"
 #include "checking/befundmodell.h"
+#include "checking/fuehren.h"
 #include "checking/pruefung.h"
 #include "checking/texte.h"
 #include "core/formularfenster.h"
@@ -169,11 +170,7 @@ void frmPruefung::ZumFeld(int zeile) {
         return;
     }
     const Befund befund = modell_->befunde().at(static_cast<std::size_t>(zeile));
-    form->NachVorn();
-    if (auto* feld = form->fenster()->findChild<QWidget*>(Anzeige(Ortselement(befund.ort)));
-        feld != nullptr) {
-        feld->setFocus(Qt::OtherFocusReason);
-    }
+    ZumOrt(*form, befund.ort, *this);
     HilfeText(" " + Ortsname(befund.ort) + " : " + befund.text);
 }
 

@@ -10,4 +10,5 @@ feldkranz_quellen(fenster
   checking/befundmodell.cpp checking/befundmodell.h
   checking/frmPruefung.cpp checking/frmPruefung.h
   checking/frmPruefungBau.cpp
+  checking/fuehren.cpp
   checking/pruefen.cpp)

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void theKeyOpensOneWindowAndBringsItToTheFrontAgain();
     void everyControlHasItsTipAndTabVisitsThemInTheirOrder();
     void aClickOnAFindingLeadsToItsBox();
+    void onASmallScreenTheBoxIsScrolledToAndTheListGivesWay();
     void enterOnAFindingLeadsToItsBox();
     void theListFollowsTheFormWhileOneTypes();
     void theMarkedFindingStaysMarkedUntilItIsMended();
@@ -175,6 +176,30 @@ void FrmPruefungTest::aClickOnAFindingLeadsToItsBox() {
     QVERIFY(Fenster(name)->isVisible()); // above the form
     ZeileKlicken(0);
     QTRY_VERIFY(form->txtFrage.at(2)->hasFocus());
+}
+
+void FrmPruefungTest::onASmallScreenTheBoxIsScrolledToAndTheListGivesWay() {
+    Programm programm;
+    programm.haupt()->showNormal();
+    programm.haupt()->resize(900, 520);
+    const frmFKFragen* form = GutesQuiz(programm);
+    for (const int n : {1, 15, 26, 30}) {
+        form->txtAntwort.at(Nr(n))->setText("");
+    }
+    F9();
+    const QWidget* rahmen = FensterAbwarten(name)->parentWidget();
+    QTRY_COMPARE(Zeilen().size(), 4);
+    const QWidget* flaeche = rahmen->parentWidget();
+    int zeile = 0;
+    for (const int n : {1, 15, 26, 30}) {
+        Q_EMIT Liste()->clicked(Liste()->model()->index(zeile++, 0));
+        const QWidget* feld = form->txtAntwort.at(Nr(n));
+        QTRY_VERIFY(feld->hasFocus());
+        const QRect platz(feld->mapTo(flaeche, QPoint(0, 0)), feld->size());
+        QVERIFY2(flaeche->rect().contains(platz), qPrintable(QString::number(n)));
+        QVERIFY2(!rahmen->geometry().intersects(platz), qPrintable(QString::number(n)));
+        QVERIFY2(flaeche->rect().contains(rahmen->geometry().center()), qPrintable(QString::number(n)));
+    }
 }
 
 void FrmPruefungTest::enterOnAFindingLeadsToItsBox() {
