@@ -43,6 +43,7 @@ std::vector<Feldtext> Feldtexte(const std::vector<Ersatztext>& texte) {
         }
     }
     std::vector<Feldtext> liste;
+    liste.reserve(felder.size());
     for (auto& [nummer, feld] : felder) {
         liste.push_back(std::move(feld));
     }

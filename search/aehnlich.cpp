@@ -104,8 +104,8 @@ Wortanfaenge WortanfaengeVon(std::string_view frage) {
     // Of one word that comes twice the heavier stays.
     std::ranges::stable_sort(woerter, std::ranges::greater{}, &Wort::gewicht);
     std::ranges::stable_sort(woerter, {}, &Wort::stamm);
-    const auto doppelte = std::ranges::unique(woerter, {}, &Wort::stamm);
-    woerter.erase(doppelte.begin(), doppelte.end());
+    const auto gleich = [](const Wort& a, const Wort& b) { return a.stamm == b.stamm; };
+    woerter.erase(std::unique(woerter.begin(), woerter.end(), gleich), woerter.end());
     woerter.resize(std::min(woerter.size(), hoechstensWorte));
     for (const Wort& wort : woerter) {
         ergebnis.alle |= Bit(wort);
