@@ -32,8 +32,8 @@ std::vector<Katalogdatei> DateienLesen() {
     return dateien;
 }
 
-std::vector<Katalogfrage> AlleFragenLesen() {
-    std::vector<Katalogfrage> fragen;
+std::vector<Katalogsatz> AlleFragenLesen() {
+    std::vector<Katalogsatz> fragen;
     for (const Katalogdatei& datei : Katalogdateien()) {
         Fragenliste liste;
         Versuchen(datei.pfad, [&] { FragenLesen(datei.bytes, datei.thema->kommentarzeilen, liste); });
@@ -71,14 +71,14 @@ const std::vector<Katalogdatei>& Katalogdateien() {
     return dateien;
 }
 
-const std::vector<Katalogfrage>& Katalogfragen() {
-    static const std::vector<Katalogfrage> fragen = AlleFragenLesen();
+const std::vector<Katalogsatz>& Katalogfragen() {
+    static const std::vector<Katalogsatz> fragen = AlleFragenLesen();
     return fragen;
 }
 
-std::vector<const Katalogfrage*> FragenVon(const Katalogdatei& datei) {
-    std::vector<const Katalogfrage*> fragen;
-    for (const Katalogfrage& frage : Katalogfragen()) {
+std::vector<const Katalogsatz*> FragenVon(const Katalogdatei& datei) {
+    std::vector<const Katalogsatz*> fragen;
+    for (const Katalogsatz& frage : Katalogfragen()) {
         if (frage.datei == &datei) {
             fragen.push_back(&frage);
         }
@@ -86,7 +86,7 @@ std::vector<const Katalogfrage*> FragenVon(const Katalogdatei& datei) {
     return fragen;
 }
 
-std::string Fundort(const Katalogfrage& frage) {
+std::string Fundort(const Katalogsatz& frage) {
     return frage.datei->pfad + " Nr " + std::to_string(frage.platz) + " \"" + frage.frage + "\" - \"" +
            frage.antwort + "\"";
 }

@@ -16,7 +16,7 @@ struct Katalogdatei {
     std::string bytes;
 };
 
-struct Katalogfrage {
+struct Katalogsatz {
     const Katalogdatei* datei;
     std::size_t platz; // in its file, from 1
     std::string nr, frage, antwort, punkte;
@@ -29,11 +29,11 @@ struct Katalogfrage {
 
 // The 138 question files in the order of the table, and all their questions. Read at the first call.
 [[nodiscard]] const std::vector<Katalogdatei>& Katalogdateien();
-[[nodiscard]] const std::vector<Katalogfrage>& Katalogfragen();
+[[nodiscard]] const std::vector<Katalogsatz>& Katalogfragen();
 // The questions of one file, in its order.
-[[nodiscard]] std::vector<const Katalogfrage*> FragenVon(const Katalogdatei& datei);
+[[nodiscard]] std::vector<const Katalogsatz*> FragenVon(const Katalogdatei& datei);
 // Path of the folder with all of them, in the program's notation.
 [[nodiscard]] std::string Katalogordner();
 
 // Where to look, for a failure's text: file and Nr, question and answer.
-[[nodiscard]] std::string Fundort(const Katalogfrage& frage);
+[[nodiscard]] std::string Fundort(const Katalogsatz& frage);

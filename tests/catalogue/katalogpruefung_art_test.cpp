@@ -10,10 +10,10 @@
 
 namespace {
 
-std::vector<Katalogfrage> FragenDerArt(Fragenart art) {
-    std::vector<Katalogfrage> fragen;
+std::vector<Katalogsatz> FragenDerArt(Fragenart art) {
+    std::vector<Katalogsatz> fragen;
     std::copy_if(Katalogfragen().begin(), Katalogfragen().end(), std::back_inserter(fragen),
-                 [&](const Katalogfrage& frage) { return ArtVon(frage.frage) == art; });
+                 [&](const Katalogsatz& frage) { return ArtVon(frage.frage) == art; });
     return fragen;
 }
 
@@ -89,7 +89,7 @@ TEST(Kataloginhalt, AQuarterOfEveryFileIsMoreThanPlainQuestions) {
             continue;
         }
         const auto fragen = FragenVon(datei);
-        const auto andere = std::count_if(fragen.begin(), fragen.end(), [](const Katalogfrage* frage) {
+        const auto andere = std::count_if(fragen.begin(), fragen.end(), [](const Katalogsatz* frage) {
             return ArtVon(frage->frage) != Fragenart::Wissen;
         });
         EXPECT_GE(4 * static_cast<std::size_t>(andere), fragen.size())
@@ -98,7 +98,7 @@ TEST(Kataloginhalt, AQuarterOfEveryFileIsMoreThanPlainQuestions) {
 }
 
 TEST(Kataloginhalt, EveryEstimateLiesWithinItsOwnRange) {
-    for (const Katalogfrage& frage : FragenDerArt(Fragenart::Schaetzung)) {
+    for (const Katalogsatz& frage : FragenDerArt(Fragenart::Schaetzung)) {
         const auto gelesen = SchaetzungLesen(frage.antwort);
         EXPECT_TRUE(gelesen && gelesen->von < gelesen->bis && gelesen->von <= gelesen->wert &&
                     gelesen->wert <= gelesen->bis)
@@ -109,7 +109,7 @@ TEST(Kataloginhalt, EveryEstimateLiesWithinItsOwnRange) {
 TEST(Kataloginhalt, TrueAndFalseHaveTheirReasonAndAreBothAThirdAtLeast) {
     const auto fragen = FragenDerArt(Fragenart::RichtigFalsch);
     std::size_t richtig = 0;
-    for (const Katalogfrage& frage : fragen) {
+    for (const Katalogsatz& frage : fragen) {
         const auto wahr = WahrheitLesen(frage.antwort);
         EXPECT_TRUE(wahr.has_value()) << Fundort(frage);
         richtig += wahr.value_or(false) ? 1U : 0U;
@@ -119,14 +119,14 @@ TEST(Kataloginhalt, TrueAndFalseHaveTheirReasonAndAreBothAThirdAtLeast) {
 }
 
 TEST(Kataloginhalt, WhatDoesNotFitIsOneOfFourThings) {
-    for (const Katalogfrage& frage : FragenDerArt(Fragenart::Ausreisser)) {
+    for (const Katalogsatz& frage : FragenDerArt(Fragenart::Ausreisser)) {
         EXPECT_EQ(Auswahl(frage.frage).size(), 4U) << Fundort(frage);
         EXPECT_TRUE(NenntAusreisser(frage.frage, frage.antwort)) << Fundort(frage);
     }
 }
 
 TEST(Kataloginhalt, EverySayingToCompleteShowsItsGap) {
-    for (const Katalogfrage& frage : FragenDerArt(Fragenart::Ergaenzung)) {
+    for (const Katalogsatz& frage : FragenDerArt(Fragenart::Ergaenzung)) {
         EXPECT_TRUE(LueckeGefuellt(frage.frage, frage.antwort)) << Fundort(frage);
     }
 }

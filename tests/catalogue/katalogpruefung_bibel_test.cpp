@@ -57,7 +57,7 @@ TEST(Bibelstellen, AnotherBookChapterOrVerseIsNone) {
 // Among things one of which doesn't fit, a place that doesn't exist may be it: only what stands behind
 // counts.
 TEST(Kataloginhalt, EveryBiblePlaceExists) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         const bool ausreisser = ArtVon(frage.frage) == Fragenart::Ausreisser;
         const std::size_t beginn = ausreisser ? frage.frage.find('?') : 0;
         EXPECT_EQ(Bibelstellenfehler(frage.frage.substr(beginn)), "") << Fundort(frage);

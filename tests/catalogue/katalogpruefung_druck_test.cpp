@@ -38,7 +38,7 @@ protected:
 FKDruckdaten Blatt(std::size_t erste) {
     FKDruckdaten daten;
     for (std::size_t n = 1; n <= felder && erste + n <= Katalogfragen().size(); ++n) {
-        const Katalogfrage& frage = Katalogfragen()[erste + n - 1];
+        const Katalogsatz& frage = Katalogfragen()[erste + n - 1];
         daten.felder[n] = {frage.frage, frage.antwort, "", true, true};
     }
     return daten;
@@ -55,7 +55,7 @@ void Katalogdruck::ZeilePruefen(const Textstelle& zeile, std::size_t erste) {
     const std::string text = zeile.text.substr(0, zeile.text.find_last_not_of(' ') + 1);
     const Millimeter zuBreit = seite_.schriftmass().Breite(text, zeile.schrift) - g_.TextBreite;
     const auto feld = static_cast<std::size_t>(spalte * 5.0F + reihe);
-    const Katalogfrage& frage = Katalogfragen().at(erste + feld);
+    const Katalogsatz& frage = Katalogfragen().at(erste + feld);
 
     EXPECT_LE(std::lround((zeile.y - beginn) / hoehe) + 1, antwort ? 2 : 5) << Fundort(frage);
     EXPECT_LE((zeile.y + hoehe).zahl(), ende.zahl()) << Fundort(frage);

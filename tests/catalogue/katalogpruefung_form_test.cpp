@@ -102,7 +102,7 @@ TEST(Katalogform, EveryRecordHasFourLinesUnderItsRunningNumber) {
         const auto kommentare = std::count_if(zeilen.begin(), zeilen.end(), Kommentar);
         EXPECT_FALSE(zeilen.front().empty()) << datei.pfad;
         EXPECT_EQ(zeilen.size(), 1 + 4 * fragen.size() + static_cast<std::size_t>(kommentare)) << datei.pfad;
-        for (const Katalogfrage* frage : fragen) {
+        for (const Katalogsatz* frage : fragen) {
             EXPECT_EQ(frage->nr, std::to_string(frage->platz)) << Fundort(*frage);
         }
     }
@@ -118,7 +118,7 @@ TEST(Katalogform, CommentLinesStandOnlyWhereTheReaderSkipsThem) {
 
 // One blank at the end is there for the print, which then breaks before the last word.
 TEST(Katalogform, QuestionsAndAnswersAreTidyTexts) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         for (const std::string* text : {&frage.frage, &frage.antwort}) {
             EXPECT_FALSE(Worte(*text).empty()) << Fundort(frage);
             EXPECT_FALSE(text->starts_with(" ")) << Fundort(frage);
@@ -140,7 +140,7 @@ TEST(Katalogform, EveryFileHasEnoughQuestions) {
 TEST(Katalogform, EveryValueFromOneToFiveStandsAtLeastThreeTimesInEveryFile) {
     for (const Katalogdatei& datei : Katalogdateien()) {
         std::map<std::string, int> anzahl;
-        for (const Katalogfrage* frage : FragenVon(datei)) {
+        for (const Katalogsatz* frage : FragenVon(datei)) {
             ++anzahl[frage->punkte];
         }
         EXPECT_EQ(anzahl.size(), 5U) << datei.pfad << ": other values than 1 to 5";
@@ -153,7 +153,7 @@ TEST(Katalogform, EveryValueFromOneToFiveStandsAtLeastThreeTimesInEveryFile) {
 TEST(Katalogform, OutsideAZEveryFileBeginsWithItsEasiestQuestions) {
     for (const Katalogdatei& datei : Katalogdateien()) {
         std::string vorher;
-        for (const Katalogfrage* frage : FragenVon(datei)) {
+        for (const Katalogsatz* frage : FragenVon(datei)) {
             EXPECT_TRUE(datei.thema->name == "A-Z" || frage->punkte >= vorher) << Fundort(*frage);
             vorher = frage->punkte;
         }
@@ -168,7 +168,7 @@ TEST(Katalogform, TheAnswersOfAZRunThroughTheAlphabet) {
         }
         ++dateien;
         char vorher = 'a' - 1;
-        for (const Katalogfrage* frage : FragenVon(datei)) {
+        for (const Katalogsatz* frage : FragenVon(datei)) {
             const char buchstabe = Worte(frage->antwort).front().front();
             EXPECT_GT(buchstabe, vorher) << Fundort(*frage);
             vorher = buchstabe;

@@ -10,7 +10,7 @@
 
 namespace {
 
-bool Standard(const Katalogfrage& frage) {
+bool Standard(const Katalogsatz& frage) {
     return frage.datei->unterthema.starts_with("Standard");
 }
 
@@ -131,13 +131,13 @@ TEST(Fall, AnotherCaseIsFound) {
 }
 
 TEST(Kataloginhalt, QuestionsAboutWhatChangesNameAYear) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         EXPECT_FALSE(OhneJahr(frage.frage)) << Fundort(frage);
     }
 }
 
 TEST(Kataloginhalt, PunctuationStandsWhereItBelongsAndBracketsInPairs) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         EXPECT_EQ(Zeichenfehler(frage.frage), "") << Fundort(frage);
         EXPECT_EQ(Zeichenfehler(frage.antwort), "") << Fundort(frage);
     }
@@ -145,13 +145,13 @@ TEST(Kataloginhalt, PunctuationStandsWhereItBelongsAndBracketsInPairs) {
 
 // What stands as the answer of a task or an event is a sentence.
 TEST(Kataloginhalt, QuestionsHaveAnEndAndAnswersNoFullStop) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         EXPECT_EQ(Standard(frage) ? "" : Randfehler(frage.frage, frage.antwort), "") << Fundort(frage);
     }
 }
 
 TEST(Kataloginhalt, AnswersStandInTheCaseTheirQuestionAsksFor) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         EXPECT_EQ(Fallfehler(OhneArt(frage.frage), frage.antwort), "") << Fundort(frage);
     }
 }

@@ -77,12 +77,12 @@ TEST(VerrateneAntwort, AChoiceNamesItsAnswerOnPurpose) {
 TEST(Kataloginhalt, NoQuestionStandsTwiceInNearlyTheSameWords) {
     const auto& fragen = Katalogfragen();
     std::vector<std::string_view> texte;
-    for (const Katalogfrage& frage : fragen) {
+    for (const Katalogsatz& frage : fragen) {
         texte.emplace_back(frage.frage);
     }
     for (const Textpaar& paar : AehnlichePaare(texte, gleicheFrageUndAntwort)) {
-        const Katalogfrage& eine = fragen[paar.erster];
-        const Katalogfrage& andere = fragen[paar.zweiter];
+        const Katalogsatz& eine = fragen[paar.erster];
+        const Katalogsatz& andere = fragen[paar.zweiter];
         const bool gleicheAntwort = Kern(eine.antwort, eine.frage) == Kern(andere.antwort, andere.frage);
         EXPECT_FALSE(gleicheAntwort || paar.gemeinsam >= gleicheFrage)
             << Fundort(eine) << "\n"
@@ -93,7 +93,7 @@ TEST(Kataloginhalt, NoQuestionStandsTwiceInNearlyTheSameWords) {
 // What stands as the answer of a task is when it counts as done, that of an event what it does. A riddle
 // plays with the word it is after, and a saying may hold a word twice.
 TEST(Kataloginhalt, NoQuestionTellsItsAnswer) {
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         const Fragenart art = ArtVon(frage.frage);
         if (!frage.datei->unterthema.starts_with("Standard") && art != Fragenart::Raetsel &&
             art != Fragenart::Ergaenzung) {

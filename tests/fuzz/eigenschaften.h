@@ -18,6 +18,7 @@ void Zeichen(std::string_view bytes);       // code page 1252
 void Umbruch(std::string_view bytes);       // line breaking
 void Seite(std::string_view bytes);         // layout of the two sheets
 void Suche(std::string_view bytes);         // words typed, questions found
+void Fragen(std::string_view bytes);        // questions compared, quotation marks replaced
 
 struct Ziel {
     std::string_view name;
@@ -32,7 +33,8 @@ inline constexpr std::array ziele{Ziel{"formular", Formular, true},
                                   Ziel{"zeichen", Zeichen, false},
                                   Ziel{"umbruch", Umbruch, false},
                                   Ziel{"seite", Seite, false},
-                                  Ziel{"suche", Suche, false}};
+                                  Ziel{"suche", Suche, false},
+                                  Ziel{"fragen", Fragen, false}};
 
 // Ends the process with the words when the condition doesn't hold.
 void Verlange(bool bedingung, std::string_view worte);

@@ -10,7 +10,7 @@ jobs=${2:-2}
 shift $(($# > 2 ? 2 : $#))
 ziele=("$@")
 [ ${#ziele[@]} -gt 0 ] ||
-  ziele=(formular einstellungen katalog katalogtext wertgrammatik zeichen umbruch seite suche)
+  ziele=(formular einstellungen katalog katalogtext wertgrammatik zeichen umbruch seite suche fragen)
 
 case $dauer in
   x*) grenze=-runs=${dauer#x} ;;

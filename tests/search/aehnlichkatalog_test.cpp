@@ -13,7 +13,7 @@ namespace {
 
 std::vector<Wortanfaenge> AllerFragen() {
     std::vector<Wortanfaenge> alle;
-    for (const Katalogfrage& frage : Katalogfragen()) {
+    for (const Katalogsatz& frage : Katalogfragen()) {
         alle.push_back(WortanfaengeVon(frage.frage));
     }
     return alle;
