@@ -15,12 +15,13 @@ enum class Kindfenster : std::uint8_t {
     Spielregel,
     Homepage,
     Suche,
+    Fuellen,
     Pruefung
 };
 
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Kindfenster fenster) {
-    constexpr std::array<std::string_view, 7> zeichen{"FKFragen", "HBFragen", "Editor",  "Browser",
-                                                      "Homepage", "Suche",    "Pruefung"};
+    constexpr std::array<std::string_view, 8> zeichen{"FKFragen", "HBFragen", "Editor",  "Browser",
+                                                      "Homepage", "Suche",    "Fuellen", "Pruefung"};
     return zeichen.at(static_cast<std::size_t>(fenster));
 }
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {

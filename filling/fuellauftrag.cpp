@@ -1,6 +1,9 @@
 #include "filling/fuellauftrag.h"
 
 #include <algorithm>
+#include <map>
+#include <string_view>
+#include <utility>
 
 namespace {
 
@@ -36,6 +39,20 @@ Vorschlag Bereinigt(const Fuellauftrag& auftrag, Vorschlag vorschlag) {
     for (std::size_t n = 1; n < vorschlag.size(); ++n) {
         if (vorschlag[n] && !Passt(auftrag.felder[n], *vorschlag[n])) {
             vorschlag[n].reset();
+        }
+    }
+    return vorschlag;
+}
+
+Vorschlag Uebertragen(const Fragenvorrat& alt, const Fragenvorrat& neu, Vorschlag vorschlag) {
+    std::map<std::pair<std::string_view, std::string_view>, Fragennummer> nummern;
+    for (Fragennummer nr = 0; nr < neu.anzahl(); ++nr) {
+        nummern.emplace(std::pair(neu.frage(nr).frage, neu.frage(nr).antwort), nr);
+    }
+    for (auto& nr : vorschlag) {
+        if (nr) {
+            const auto fund = nummern.find(std::pair(alt.frage(*nr).frage, alt.frage(*nr).antwort));
+            nr = fund == nummern.end() ? std::nullopt : std::optional(fund->second);
         }
     }
     return vorschlag;

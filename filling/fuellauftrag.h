@@ -37,6 +37,9 @@ using Vorschlag = std::vector<std::optional<Fragennummer>>;
 
 // What of a proposal made for an earlier moment or other wishes still holds.
 [[nodiscard]] Vorschlag Bereinigt(const Fuellauftrag& auftrag, Vorschlag vorschlag);
+// The same questions by their numbers in a catalogue that was read anew; what isn't there any more is
+// dropped.
+[[nodiscard]] Vorschlag Uebertragen(const Fragenvorrat& alt, const Fragenvorrat& neu, Vorschlag vorschlag);
 // Another question for one cell or row, with all others as they are. False where there is none.
 bool NeuZiehen(const Fuellauftrag& auftrag, Vorschlag& vorschlag, std::size_t feld, std::uint64_t saat);
 

@@ -46,10 +46,10 @@ inline constexpr std::string_view zielVerfehlt =
 
 // --- Cells ---
 
-inline constexpr std::string_view feldName = "{}: {} - {}"; // place, question, answer
-inline constexpr std::string_view feldStehtSchon = "{} (steht schon im Formular): {} - {}";
-inline constexpr std::string_view feldOhneFrage = "{}: keine passende Frage";
-inline constexpr std::string_view feldLeer = "{}: leer";
+inline constexpr Mengentext punkte{"{} Punkt", "{} Punkte"};
+// In the order of the kinds of pictures: place, then question and answer.
+inline constexpr std::array<std::string_view, 5> feldnamen{
+    "{}: geschlossen", "{} (steht schon im Formular): {}", "{}: leer", "{}: {}", "{}: keine passende Frage"};
 inline constexpr std::string_view keineFrage = "keine passende Frage";
 
 // --- Status help ---

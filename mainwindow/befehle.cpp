@@ -6,6 +6,7 @@
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
 #include "filetools/formularliste.h"
+#include "filling/fuellen.h"
 #include "forms/formulare.h"
 #include "forms/oeffnen.h"
 #include "forms/quizformulare.h"
@@ -124,6 +125,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"mExtra(1)", befehle::Rueckgaengig},
     Zuordnung{"mExtra(2)", befehle::Wiederherstellen},
     Zuordnung{"mExtra(4)", SucheZeigen},
+    Zuordnung{"mExtra(5)", FuellenZeigen},
     Zuordnung{"mExtra(6)", PruefungZeigen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},

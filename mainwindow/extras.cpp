@@ -5,6 +5,7 @@
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
+#include "filling/fuellen.h"
 #include "forms/einsetzen.h"
 #include "forms/verlauf.h"
 #include "search/suchen.h"
@@ -48,6 +49,7 @@ void Zeigen(QMainWindow& fenster) {
         EintragSetzen(*zurueck, QStringLiteral("&Rückgängig"), FormularVorn() ? Rueckschritt() : "");
         EintragSetzen(*vor, QStringLiteral("&Wiederholen"), FormularVorn() ? Vorschritt() : "");
     }
+    FuellenAngleichen();
 }
 
 } // namespace

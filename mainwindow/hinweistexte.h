@@ -109,6 +109,7 @@ inline constexpr std::array menuestatus{std::to_array<Menuestatus>({
     {"mExtra(1)", " Letzten Schritt zurücknehmen"},
     {"mExtra(2)", " Zurückgenommenen Schritt wiederholen"},
     {"mExtra(4)", " Fragen im ganzen Katalog suchen"},
+    {"mExtra(5)", " Leere Felder des Formulars mit Fragen füllen"},
     {"mExtra(6)", " Offenes Formular vor dem Drucken prüfen"},
     {"mHilfen(1)", hilfe},
     {"mHilfeFK", hilfe},

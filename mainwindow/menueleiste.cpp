@@ -118,6 +118,7 @@ constexpr std::array eintraege{
     Eintrag{"mExtras", "mExtra(2)", "&Wiederholen", "Ctrl+Y; Ctrl+Shift+Z"},
     Eintrag{"mExtras", "mExtra(3)", ""},
     Eintrag{"mExtras", "mExtra(4)", "Fragen &suchen", "Ctrl+F"},
+    Eintrag{"mExtras", "mExtra(5)", "&Brett füllen", "Ctrl+B"},
     Eintrag{"mExtras", "mExtra(6)", "Formular &prüfen", "F9"},
     Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},

@@ -258,6 +258,16 @@ TEST(Brettfuellung, OfAProposalOnlyWhatStillFitsIsKept) {
     EXPECT_FALSE(ohneZwei[Nr(2, 3)]);
 }
 
+TEST(Brettfuellung, AProposalOutlivesACatalogueThatIsReadAnew) {
+    Kunstkatalog alt;
+    alt.frage("Tiere", "Vögel", 1, "Eins und eins").frage("Tiere", "Vögel", 2, "Zwei mal zwei");
+    Kunstkatalog neu;
+    neu.frage("Natur", "Erde", 1).frage("Tiere", "Vögel", 2, "Zwei mal zwei");
+    const Vorschlag vorschlag{std::nullopt, 0U, 1U, std::nullopt};
+    const Vorschlag soll{std::nullopt, std::nullopt, 1U, std::nullopt};
+    EXPECT_EQ(Uebertragen(*alt.vorrat(), *neu.vorrat(), vorschlag), soll);
+}
+
 TEST(Brettfuellung, ATitleProposesItsTheme) {
     struct Fall {
         const char *titel, *thema, *unterthema;

@@ -4,6 +4,8 @@
 #include "dialogs/eingabe.h"
 #include "dialogs/meldung.h"
 #include "editor/editor.h"
+#include "filling/fuellen.h"
+#include "forms/formulare.h"
 #include "mainwindow/frmMDI.h"
 #include "mainwindow/frmStart.h"
 #include "quizform/frmFKFragen.h"
@@ -48,6 +50,7 @@ private Q_SLOTS:
     void theFileDialog();
     void theListOfForms();
     void theEditor();
+    void theWindowsThatFillAForm();
     void theDialogsThatTellAndAsk();
     void everyMenuEntryHasAStatusText();
     void theWalkMeetsAControlWithoutAName();
@@ -110,6 +113,17 @@ void RundgangTest::theEditor() {
     Programm programm;
     EditorZeigen();
     Pruefen(*FensterAbwarten(QStringLiteral("frmEditor")), 20);
+}
+
+void RundgangTest::theWindowsThatFillAForm() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    FuellenZeigen();
+    Pruefen(*FensterAbwarten(QStringLiteral("frmFuellen")), 55);
+    FormulareEntladen();
+    programm.NeuesTestformular();
+    FuellenZeigen();
+    Pruefen(*FensterAbwarten(QStringLiteral("frmFuellen")), 15);
 }
 
 void RundgangTest::theDialogsThatTellAndAsk() {
