@@ -16,7 +16,7 @@ constexpr int textSaum = 3;     // pixels between frame and text
 constexpr int eckenAbstand = 4; // from the texts
 constexpr QColor frageFarbe(0, 0, 0);
 constexpr QColor antwortFarbe(0, 0, 160);
-constexpr QColor besetztFarbe(112, 112, 112);
+constexpr QColor besetztFarbe(80, 80, 80);
 constexpr QColor warnFarbe(160, 0, 0);
 constexpr QColor warnGrund(255, 231, 231);
 

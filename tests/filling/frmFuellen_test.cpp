@@ -1,12 +1,14 @@
 // The window that fills a quiz form, on the real main window with the real catalogue.
 #include "filling/frmFuellen.h"
 
+#include "core/cp1252.h"
 #include "core/hauptfenster.h"
 #include "filling/fragenvorrat.h"
 #include "forms/formulare.h"
 #include "forms/verlauf.h"
 #include "tests/filling/fuellfenster.h"
 #include "tests/hilfe/bild.h"
+#include "tests/hilfe/dateidialoghilfe.h"
 #include "tests/quizform/formhilfe.h"
 
 #include <QCheckBox>
@@ -67,6 +69,7 @@ private Q_SLOTS:
     void withoutAFormItSaysSo();
     void thereIsOneWindowAndItGoesWithTheForm();
     void everyCellTellsWhatItShows();
+    void aBoardGoesIntoItsFileWithoutAnyChoice();
     void itFitsASmallScreen();
 };
 
@@ -308,7 +311,29 @@ void FuellenTest::everyCellTellsWhatItShows() {
     QTRY_COMPARE(Vorgeschlagene(fenster), 29);
     const Vorschlagfeld::Inhalt& inhalt = Bildfeld(fenster, 8)->inhalt();
     QCOMPARE(Bildfeld(fenster, 8)->accessibleName(),
-             QStringLiteral("Gebiet 2, Frage 3: ") + inhalt.frage + QStringLiteral(" - ") + inhalt.antwort);
+             (QStringLiteral("Gebiet 2, Frage 3: ") + inhalt.frage + QStringLiteral(" - ") + inhalt.antwort)
+                 .simplified());
+}
+
+// New form, fill, propose, take over, save: five clicks, and a name is typed.
+void FuellenTest::aBoardGoesIntoItsFileWithoutAnyChoice() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    QWidget* fenster = FuellenOeffnen();
+    Druecken(fenster, "cmdVorschlag");
+    QTRY_COMPARE(Vorgeschlagene(fenster), 30);
+    Druecken(fenster, "cmdUebernehmen");
+    QTRY_VERIFY(FensterOderNichts(fuellfenster) == nullptr);
+    QCOMPARE(AktivesKind(), static_cast<QWidget*>(FKFragenOffen()));
+    Dialogfolge dialoge;
+    DateidialogErwarten(dialoge, {}, QStringLiteral("ABEND"), QStringLiteral("cmdSpeichern"));
+    dialoge.meldung(QStringLiteral("Datei gespeichert unter  [ ABEND.FKR ]"), QStringLiteral("Schön"));
+    maus::Klicken(Finden(programm.haupt(), QStringLiteral("cmdDateiFK(3)")));
+    QTRY_VERIFY(dialoge.fertig());
+    const std::string datei = programm.ordner().lesen(QStringLiteral("KRANZ/ABEND.FKR")).toStdString();
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        QVERIFY2(datei.find(NachCp1252(FK_Frage(n))) != std::string::npos, FK_Frage(n).c_str());
+    }
 }
 
 void FuellenTest::itFitsASmallScreen() {

@@ -1,6 +1,7 @@
 // Takes the handbook's pictures of windows at work, and prints a form of each kind for those of the paper. No
 // test: it proves nothing, it shows. BILDER_ORDNER names the folder where pictures and PDF files go.
 #include "catalogue/katalogladen.h"
+#include "filling/fuellen.h"
 #include "forms/quizformulare.h"
 #include "forms/testformulare.h"
 #include "mainwindow/frmMDI.h"
@@ -152,6 +153,7 @@ class Handbuchbilder : public QObject {
 private Q_SLOTS:
     void feldkranz();
     void test();
+    void fuellen();
     void editor();
     void formularliste();
     void spielregel();
@@ -187,6 +189,24 @@ void Handbuchbilder::test() {
                   6);
     Drucken(QStringLiteral("cmdDruckenHB(2)"), programm, QStringLiteral("TEST/Test.pdf"),
             QStringLiteral("seite-test.pdf"));
+}
+
+// Two areas have a title, one cell a question, two a letter.
+void Handbuchbilder::fuellen() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    FKForm.WissenTitel = {"", "Tiere", "Wissen", "Neues Testament", "Wissen", "Sport", "Wissen"};
+    FKForm.FrageText[6] = "Wie heißt unser Lagerplatz?";
+    FKForm.AntwortText[6] = "Eulengrund";
+    FKForm.FeldSpezial[13] = "J";
+    FKForm.FeldSpezial[24] = "A";
+    FK_GelesenesZeigen(" Feldkranz-Formular");
+    FuellenZeigen();
+    QWidget* fenster = FensterAbwarten(QStringLiteral("frmFuellen"));
+    auto* vorschlag = Finden<QAbstractButton>(fenster, QStringLiteral("cmdVorschlag"));
+    QTRY_VERIFY(vorschlag->isEnabled());
+    vorschlag->click();
+    Kindbild(fenster, QStringLiteral("frmFuellen"));
 }
 
 void Handbuchbilder::editor() {
