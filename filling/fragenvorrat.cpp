@@ -58,10 +58,10 @@ Frageliste Fragenvorrat::aus(const Themenwahl& wahl) const {
 std::vector<bool> Fragenvorrat::wiederholungen(std::span<const std::string> fragen) const {
     std::vector<bool> ergebnis(anzahl(), false);
     for (const std::string& text : fragen) {
-        const Wortanfaenge anfaenge = WortanfaengeVon(text);
-        if (anfaenge.anfaenge.empty()) {
+        if (text.empty()) {
             continue;
         }
+        const Wortanfaenge anfaenge = WortanfaengeVon(text);
         for (std::size_t nr = 0; nr < anzahl(); ++nr) {
             ergebnis[nr] = ergebnis[nr] || Fastgleich(eintraege_[nr].anfaenge, anfaenge);
         }
