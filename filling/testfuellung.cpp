@@ -169,8 +169,7 @@ Vorschlag Testvorschlag(const Fuellauftrag& auftrag, std::optional<int> zielpunk
     const Punktziel wege(Gruppiert(*auftrag.vorrat, fragen), static_cast<int>(zeilen.size()));
     const Zug zug =
         zielpunkte ? NaechsterZug(wege, auftrag, zeilen, *zielpunkte) : BeliebigerZug(wege, wuerfel);
-    std::vector<std::size_t> gezogen = wege.ziehen(zug.anzahl, zug.punkte, wuerfel);
-    wuerfel.Mischen(gezogen);
+    const std::vector<std::size_t> gezogen = wege.ziehen(zug.anzahl, zug.punkte, wuerfel);
     for (std::size_t i = 0; i < gezogen.size(); ++i) {
         vorschlag[zeilen[i]] = static_cast<Fragennummer>(gezogen[i]);
     }

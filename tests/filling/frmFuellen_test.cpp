@@ -62,6 +62,7 @@ private Q_SLOTS:
     void whatIsTypedBetweenProposalAndTakingItOverStays();
     void lettersDecideWhatACellGets();
     void byKeyboardAlone();
+    void tabGoesFromTheChoicesThroughTheCellsToTheButtons();
     void aCellIsDrawnAgainByClickAndByKey();
     void titlesProposeTheirThemesAndChoicesCount();
     void areasAndRowsThatAreClosedStayEmpty();
@@ -171,6 +172,29 @@ void FuellenTest::byKeyboardAlone() {
     QTRY_COMPARE(Volle(form), std::size_t(30));
 }
 
+void FuellenTest::tabGoesFromTheChoicesThroughTheCellsToTheButtons() {
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    Betiteln(form, 1, "Tiere");
+    const QWidget* fenster = FuellenOeffnen();
+    QStringList soll{QStringLiteral("cmbFuellThema(1)"), QStringLiteral("cmbFuellUnter(1)")};
+    for (int gebiet = 2; gebiet <= anzahlGebiete; ++gebiet) { // without a theme there is no sub-theme
+        soll << QStringLiteral("cmbFuellThema(%1)").arg(gebiet);
+    }
+    soll << QStringLiteral("chkPunkteWieZeile") << QStringLiteral("chkUnbenutzt");
+    for (int n = 1; n <= anzahlFelder; ++n) {
+        soll << QStringLiteral("picVorschlag(%1)").arg(n);
+    }
+    soll << QStringLiteral("cmdVorschlag") << QStringLiteral("cmdAbbruch");
+    Themenliste(fenster, 1)->setFocus();
+    QStringList ist;
+    for (int i = 0; i < soll.size(); ++i) {
+        ist << QApplication::focusWidget()->objectName();
+        maus::Taste(QStringLiteral("Tab"));
+    }
+    QCOMPARE(ist.join(QLatin1Char(' ')), soll.join(QLatin1Char(' ')));
+}
+
 void FuellenTest::aCellIsDrawnAgainByClickAndByKey() {
     Programm programm;
     programm.NeuesQuizformular();
@@ -237,6 +261,10 @@ void FuellenTest::titlesProposeTheirThemesAndChoicesCount() {
     QCOMPARE(Bildfeld(fenster, Feldnummer(2, 3))->inhalt().art, Vorschlagfeld::Art::OhneFrage);
     QVERIFY(Ergebnis(fenster).contains(QStringLiteral("Gebiet 2 (Frage 1, 2, 3, 4, 5)")));
     QCOMPARE(Bildfeld(fenster, 1)->inhalt().frage, bleibt);
+    for (int gebiet = 1; gebiet <= anzahlGebiete; ++gebiet) {
+        Themenliste(fenster, gebiet)->setCurrentText(QStringLiteral("- Ereignisse -"));
+    }
+    BildVon(fenster, QStringLiteral("frmFuellen-luecken")); // the longest text
 }
 
 void FuellenTest::areasAndRowsThatAreClosedStayEmpty() {
