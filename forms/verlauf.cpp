@@ -60,7 +60,8 @@ void FlaggeAngleichen(const Formularstand& jetzt) {
     }
     FormularjournalFuehren(geaendert);
     std::erase_if(zuhoerer, [](const Zuhoerer& einer) { return einer.empfaenger.isNull(); });
-    for (const Zuhoerer& einer : zuhoerer) {
+    const std::vector<Zuhoerer> alle = zuhoerer; // hearing it may bring another one
+    for (const Zuhoerer& einer : alle) {
         einer.anders();
     }
 }
