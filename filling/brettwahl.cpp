@@ -58,9 +58,7 @@ Brettwahl::Brettwahl(QWidget* eltern, const Quizstand& form) : Fuellwahl(eltern)
     }
     chkPunkteWieZeile_ = SchalterBauen("chkPunkteWieZeile", fuelltexte::punkteWieZeile);
     raster->addWidget(chkPunkteWieZeile_, 4, 0, 1, 2);
-    raster->addWidget(chkUnbenutzt_, 4, 2, 1, 2);
-    setTabOrder(spalten_.back().unter, chkPunkteWieZeile_);
-    setTabOrder(chkPunkteWieZeile_, chkUnbenutzt_);
+    raster->addWidget(UnbenutztBauen(), 4, 2, 1, 2);
 }
 
 void Brettwahl::SpalteBauen(QGridLayout& raster, int gebiet) {

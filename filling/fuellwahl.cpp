@@ -24,8 +24,11 @@ Fuellwahl* Fuellwahl::Fuer(const Formularstand& stand, QWidget* eltern) {
     return new Testwahl(eltern, std::get<Teststand>(stand.form));
 }
 
-Fuellwahl::Fuellwahl(QWidget* eltern) : QWidget(eltern) {
+Fuellwahl::Fuellwahl(QWidget* eltern) : QWidget(eltern) {}
+
+QCheckBox* Fuellwahl::UnbenutztBauen() {
     chkUnbenutzt_ = SchalterBauen("chkUnbenutzt", fuelltexte::nurUnbenutzte);
+    return chkUnbenutzt_;
 }
 
 QCheckBox* Fuellwahl::SchalterBauen(const char* name, std::string_view aufschrift) {

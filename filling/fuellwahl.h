@@ -38,7 +38,10 @@ protected:
     explicit Fuellwahl(QWidget* eltern);
     // A switch that is kept between two evenings under its own name; on where nothing is kept.
     QCheckBox* SchalterBauen(const char* name, std::string_view aufschrift);
+    // The switch that all choices have; once, when those before it in the order of Tab are made.
+    QCheckBox* UnbenutztBauen();
     [[nodiscard]] bool nurUnbenutzte() const;
 
+private:
     QCheckBox* chkUnbenutzt_ = nullptr;
 };

@@ -53,9 +53,7 @@ Testwahl::Testwahl(QWidget* eltern, const Teststand& form) : Fuellwahl(eltern) {
     spalte->addWidget(SchildBauen(this, "lblUnterthemen", fuelltexte::unterthemen, lstUnterthemen_));
     spalte->addWidget(lstUnterthemen_, 1);
     spalte->addLayout(ziel);
-    spalte->addWidget(chkUnbenutzt_);
-    setTabOrder(lstUnterthemen_, txtZielpunkte_);
-    setTabOrder(txtZielpunkte_, chkUnbenutzt_);
+    spalte->addWidget(UnbenutztBauen());
     connect(lstUnterthemen_, &QListWidget::itemChanged, this, &Fuellwahl::anders);
     connect(txtZielpunkte_, &QLineEdit::textChanged, this, [this] {
         ExtraSetzen(zielSchluessel, txtZielpunkte_->wert());

@@ -129,6 +129,12 @@ void TestFuellenTest::theSubjectAndTheListChooseTheSubThemes() {
     QTRY_COMPARE(Angekreuzt(fenster), QStringList{QStringLiteral("Häuptlingsbuch - Kirchengeschichte")});
     maus::Taste(QStringLiteral("alt+v"));
     QTRY_VERIFY(Vorgeschlagene(fenster) > 0);
+    // Tab goes on to the total, the switch and the rows.
+    Liste(fenster)->setFocus();
+    for (const char* naechstes : {"txtZielpunkte", "chkUnbenutzt", "picVorschlag(1)"}) {
+        maus::Taste(QStringLiteral("Tab"));
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(naechstes));
+    }
     for (const Vorschlagfeld* feld : fenster->findChildren<Vorschlagfeld*>()) {
         if (feld->inhalt().art == Vorschlagfeld::Art::Vorgeschlagen) {
             const auto eintrag = Katalogeintrag(Modelltext(feld->inhalt().frage));
