@@ -104,7 +104,9 @@ void frmFuellen::KatalogGelesen() {
     }
 }
 
+// A cell that was searched for in vain may find something by other wishes.
 void frmFuellen::AuftragErneuern() {
+    gemacht_ = false;
     if (vorrat_ != nullptr) {
         auftrag_ = wahl_->auftrag(vorrat_, stand_);
         vorschlag_ = Bereinigt(auftrag_, std::move(vorschlag_));

@@ -62,7 +62,7 @@ private:
     std::shared_ptr<const Fragenvorrat> vorrat_; // none until the catalogue is read
     Fuellauftrag auftrag_;
     Vorschlag vorschlag_;
-    bool gemacht_ = false;   // a proposal for the whole form has been made
+    bool gemacht_ = false;   // a proposal for the whole form has been made by these wishes
     bool schliesst_ = false; // it only waits for the running work to end
 
     Fuellwahl* wahl_ = nullptr;
