@@ -158,6 +158,7 @@ private Q_SLOTS:
     void formularliste();
     void spielregel();
     void suche();
+    void pruefung();
 };
 
 void Handbuchbilder::feldkranz() {
@@ -267,7 +268,19 @@ void Handbuchbilder::suche() {
     QTRY_VERIFY(::Fragen().gelesen());
     QTest::keyClicks(Finden<QLineEdit>(suche, QStringLiteral("txtSuche")), QStringLiteral("feuer wasser"));
     Kindbild(suche, QStringLiteral("frmSuche"));
-    Bild(MDIFenster(), QStringLiteral("suche-und-brett"));
+}
+
+void Handbuchbilder::pruefung() {
+    Programm programm;
+    programm.NeuesQuizformular();
+    QuizFuellen();
+    FKForm.FrageText.at(6) =
+        "Wie nennt man die \"Pfadfinder\" unter den Bienen, die den anderen zeigen, wo es Blüten "
+        "gibt, und wie tanzen sie dabei?";
+    FKForm.FrageText.at(8) = FKForm.FrageText.at(13);
+    FK_GelesenesZeigen(" Feldkranz-Formular");
+    Finden<QAction>(MDIFenster(), QStringLiteral("mExtra(6)"))->trigger();
+    Kindbild(FensterAbwarten(QStringLiteral("frmPruefung")), QStringLiteral("frmPruefung"));
 }
 
 QTEST_MAIN(Handbuchbilder)
