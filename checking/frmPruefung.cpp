@@ -172,7 +172,7 @@ void frmPruefung::ZumFeld(int zeile) {
     }
     const Befund befund = modell_->befunde().at(static_cast<std::size_t>(zeile));
     ZumOrt(*form, befund.ort, *this);
-    HilfeText(" " + Ortsname(befund.ort) + " : " + befund.text);
+    HilfeText(std::string(1, ' ').append(Ortsname(befund.ort)).append(" : ").append(befund.text));
 }
 
 void frmPruefung::Ersetzen() {

@@ -1,5 +1,6 @@
 // How the window of the search is put together; what happens in it is search/frmSuche.cpp.
 #include "catalogue/themen.h"
+#include "core/bilder.h"
 #include "core/fensterzeichen.h"
 #include "core/klappliste.h"
 #include "core/oberflaeche.h"
@@ -113,6 +114,7 @@ void frmSuche::Aufbauen() {
     lblTreffer_->setObjectName(QStringLiteral("lblTreffer"));
     auto* cmdAbbruch = new QPushButton(QStringLiteral("S&chließen"), this);
     cmdAbbruch->setObjectName(QStringLiteral("cmdAbbruch"));
+    TastenbildSetzen(cmdAbbruch, "datei/abbrechen");
     connect(cmdAbbruch, &QPushButton::clicked, this, [this] {
         QWidget* rahmen = parentWidget();
         (rahmen != nullptr ? rahmen : this)->close();

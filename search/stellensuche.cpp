@@ -78,18 +78,26 @@ std::uint64_t Nadel::Treffer(std::string_view heu, std::size_t ab) const {
     if (heu.size() < ab + blockgroesse + laenge()) {
         return RestTreffer(heu, ab);
     }
-    Wahrheiten gleich; // NOLINT(cppcoreguidelines-pro-type-member-init): set below
     const char* a = heu.data() + ab + erste_;
     const char* b = heu.data() + ab + zweite_;
     const char wertA = bytes_[erste_];
     const char wertB = bytes_[zweite_];
-    std::uint8_t eines = 0;
+    const auto beide = [&](std::size_t i) {
+        return static_cast<std::uint8_t>(static_cast<std::uint8_t>(a[i] == wertA) &
+                                         static_cast<std::uint8_t>(b[i] == wertB));
+    };
+    std::uint8_t eines = 0; // most blocks have none, and are done with this
     for (std::size_t i = 0; i < blockgroesse; ++i) {
-        gleich[i] = static_cast<std::uint8_t>(static_cast<std::uint8_t>(a[i] == wertA) &
-                                              static_cast<std::uint8_t>(b[i] == wertB));
-        eines |= gleich[i];
+        eines |= beide(i);
     }
-    std::uint64_t treffer = eines == 0 ? 0 : Bits(gleich);
+    if (eines == 0) {
+        return 0;
+    }
+    Wahrheiten gleich; // NOLINT(cppcoreguidelines-pro-type-member-init): set below
+    for (std::size_t i = 0; i < blockgroesse; ++i) {
+        gleich[i] = beide(i);
+    }
+    std::uint64_t treffer = Bits(gleich);
     for (std::uint64_t rest = laenge() > 2 ? treffer : 0; rest != 0; rest &= rest - 1) {
         const auto i = static_cast<std::size_t>(std::countr_zero(rest));
         if (std::memcmp(heu.data() + ab + i, bytes_.data(), laenge()) != 0) {

@@ -149,7 +149,9 @@ void Filtern(const Bestandsdatei& datei, const Suchfilter& filter, std::span<Ran
 std::vector<std::uint32_t> NachRang(std::span<const Rang> raenge) {
     std::array<std::size_t, std::size_t{keiner} + 2> stelle{};
     for (const Rang rang : raenge) {
-        ++stelle[rang + std::size_t{1}];
+        if (rang != keiner) {
+            ++stelle[rang + std::size_t{1}];
+        }
     }
     std::partial_sum(stelle.begin(), stelle.end(), stelle.begin());
     std::vector<std::uint32_t> nummern(stelle[keiner]);
@@ -191,10 +193,15 @@ std::vector<std::uint32_t> Suchlauf::Suchen(const std::shared_ptr<const Fragenbe
         raenge_.clear();
     }
     Vergessen(anfrage);
-    std::vector<Rang> raenge(bestand->anzahl(), 0);
+    std::vector<Rang> raenge;
     for (const std::string& wort : anfrage.noetig) {
-        Verbinden(raenge, Wortraenge(wort));
+        if (const std::vector<Rang>& weitere = Wortraenge(wort); raenge.empty()) {
+            raenge = weitere;
+        } else {
+            Verbinden(raenge, weitere);
+        }
     }
+    raenge.resize(bestand->anzahl(), 0); // all, where no word is asked for
     for (const std::string& wort : anfrage.verboten) {
         Ausschliessen(raenge, Wortraenge(wort));
     }
