@@ -4,6 +4,7 @@
 #include "benchmarks/kennzahl.h"
 #include "catalogue/katalogdatei.h"
 #include "core/programmstand.h"
+#include "search/formularblick.h"
 #include "search/katalogblick.h"
 #include "tests/hilfe/programmordner.h"
 
@@ -131,6 +132,30 @@ void MillionMessen(const Fragenbestand& bestand) {
     Verhaeltnis("suche_memmem", suche.unser, suche.schlicht, "ms");
 }
 
+// As many forms as a group leaves behind in many years: read at once, and looked at again.
+void FormulareMessen(const Programmordner& programmordner) {
+    constexpr int anzahl = 2000;
+    const QByteArray form = programmordner.lesen(QStringLiteral("KRANZ/Naturabend.FKR"));
+    for (int i = 0; i < anzahl; ++i) {
+        programmordner.schreiben(QStringLiteral("KRANZ/FORM%1.FKR").arg(i), form);
+    }
+    const std::array orte{FormularortVon(Stand.AppPfad + "\\KRANZ"),
+                          FormularortVon(Stand.AppPfad + "\\TEST")};
+    const auto blicken = [&orte](Formularblick& blick) {
+        return Dauer([&] { (void)blick.Nachsehen(orte, [] { return true; }); });
+    };
+    std::vector<double> zeiten;
+    for (int i = 0; i < 5; ++i) {
+        Formularblick blick;
+        zeiten.push_back(blicken(blick));
+        if (blick.benutzung()->formulare().size() < anzahl) {
+            std::cerr << "Not all forms\n";
+            std::exit(EXIT_FAILURE);
+        }
+    }
+    Einzelwert("formulare_blick", Median(zeiten), "ms");
+}
+
 } // namespace
 
 int main() {
@@ -143,6 +168,7 @@ int main() {
         return EXIT_FAILURE;
     }
     std::cout << blick.bestand()->anzahl() << " questions\n";
+    FormulareMessen(programmordner);
     KatalogMessen(ordner);
     MillionMessen(*blick.bestand());
     return EXIT_SUCCESS;

@@ -112,7 +112,9 @@ Formulareintrag Abgelesen() {
 
 Fragendienst::Fragendienst(QObject* eltern) : QObject(eltern), arbeiter_(std::make_unique<Arbeiter>()) {}
 
-Fragendienst::~Fragendienst() = default;
+Fragendienst::~Fragendienst() {
+    arbeiter_.reset(); // it speaks to this object as long as it works
+}
 
 void Fragendienst::Pruefen(Balken balken) {
     if (std::exchange(appPfad_, Stand.AppPfad) != Stand.AppPfad) {

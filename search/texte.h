@@ -64,6 +64,7 @@ inline constexpr std::array hinweise{std::to_array<Hinweistext>({
      "- Doppelklick zeigt sie in der Fragenauswahl\r\n"
      "- Strg+C kopiert Frage und Antwort",
      tipptitel, " Frage in das Formular ziehen, oder Eingabe drücken"},
+    {"lblFrage", "Der gewählte Fund, ungekürzt.", tipptitel, " Gewählte Frage mit ihrer Antwort"},
     {"lblTreffer", "So viele Fragen habe ich gefunden.", tipptitel, " Anzahl der gefundenen Fragen"},
     {"cmdAbbruch", "Suche schließen.", "Schließen", " Suche schließen"},
 })};
