@@ -45,7 +45,7 @@ std::string ExtraswerteBytes(const Extraswerte& werte) {
         std::string zeile = wert;
         std::replace_if(
             zeile.begin(), zeile.end(), [](char zeichen) { return zeichen == '\r' || zeichen == '\n'; }, ' ');
-        bytes += name + '=' + zeile + "\r\n";
+        bytes.append(name).append("=").append(zeile).append("\r\n");
     }
     return bytes;
 }

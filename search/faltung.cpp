@@ -19,7 +19,7 @@ constexpr char klein(char zeichen) {
 constexpr std::array<char, 128> ascii = [] {
     std::array<char, 128> tabelle{};
     char frei = '\x01';
-    for (std::size_t i = 0; i < tabelle.size(); ++i) {
+    for (std::size_t i = 0; i != tabelle.size(); ++i) {
         const char zeichen = klein(static_cast<char>(i));
         const bool wort = (zeichen >= '0' && zeichen <= '9') || (zeichen >= 'a' && zeichen <= 'z');
         const bool hinten = i > '9' && !wort;
@@ -36,7 +36,7 @@ constexpr Ersatz Ein(char zeichen) {
 }
 
 struct Sonderzeichen {
-    char32_t zeichen;
+    char32_t zeichen = 0;
     Ersatz ersatz;
 };
 constexpr std::array sonderzeichen{

@@ -34,7 +34,7 @@ Namen NamenVon(const QString& ordner) {
 }
 
 QString Pfad(const QString& ordner, const Namen& namen, std::string_view datei) {
-    const QString genau = QDir(ordner).filePath(QString::fromStdString(std::string(datei)));
+    QString genau = QDir(ordner).filePath(QString::fromStdString(std::string(datei)));
     if (QFileInfo::exists(genau)) {
         return genau;
     }
