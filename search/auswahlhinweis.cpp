@@ -30,6 +30,6 @@ void AuswahlhinweisEinrichten() {
     verbindung = QObject::connect(&Fragen(), &Fragendienst::geprueft, &Fragen(), Erzaehlen);
     BeiAuswahl([](const std::string& frage) {
         gewaehlt = frage;
-        Fragen().Pruefen(Fragendienst::Balken::Nein); // forms may have been saved meanwhile
+        Fragen().Pruefen(Fragendienst::Umfang::NurFormulare); // forms may have been saved meanwhile
     });
 }

@@ -19,12 +19,14 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <utility>
 
 struct Fragendienst::Ergebnis {
-    bool vollstaendig = false; // false when it was cut short
+    std::string appPfad;
+    bool ganz = false; // catalogue and forms
     bool bestandNeu = false, benutzungNeu = false;
     std::shared_ptr<const Fragenbestand> bestand;
     std::shared_ptr<const Benutzung> benutzung;
@@ -34,7 +36,7 @@ struct Fragendienst::Ergebnis {
 // What one look needs, taken in the windows' thread.
 struct Blickauftrag {
     std::string appPfad;
-    std::vector<QString> katalog;
+    std::optional<std::vector<QString>> katalog; // none: the forms alone
     std::vector<Formularort> formulare;
 };
 
@@ -61,15 +63,18 @@ private:
             formulare_ = {};
         }
         Ergebnis ergebnis;
-        ergebnis.bestandNeu = katalog_.Nachsehen(auftrag.katalog, [&](float getan) {
-            fortschritt(getan);
-            return !ende_;
-        });
+        ergebnis.appPfad = appPfad_;
+        ergebnis.ganz = auftrag.katalog.has_value();
+        if (ergebnis.ganz) {
+            ergebnis.bestandNeu = katalog_.Nachsehen(*auftrag.katalog, [&](float getan) {
+                fortschritt(getan);
+                return !ende_;
+            });
+            ergebnis.unlesbar = katalog_.neuUnlesbar();
+        }
         ergebnis.benutzungNeu = formulare_.Nachsehen(auftrag.formulare, [this] { return !ende_; });
-        ergebnis.vollstaendig = !ende_;
         ergebnis.bestand = katalog_.bestand();
         ergebnis.benutzung = formulare_.benutzung();
-        ergebnis.unlesbar = katalog_.neuUnlesbar();
         return ergebnis;
     }
 
@@ -116,31 +121,30 @@ Fragendienst::~Fragendienst() {
     arbeiter_.reset(); // it speaks to this object as long as it works
 }
 
-void Fragendienst::Pruefen(Balken balken) {
+void Fragendienst::Pruefen(Umfang umfang) {
     if (std::exchange(appPfad_, Stand.AppPfad) != Stand.AppPfad) {
         bestand_ = std::make_shared<const Fragenbestand>();
         benutzung_ = std::make_shared<const Benutzung>();
         gelesen_ = false;
     }
     if (laeuft_) {
-        nochmal_ = true; // what has changed since it looked there
+        nochmal_ = std::max(umfang, nochmal_.value_or(umfang)); // what has changed since it looked there
         return;
     }
-    Starten(balken);
+    Starten(umfang);
 }
 
-void Fragendienst::Starten(Balken balken) {
+void Fragendienst::Starten(Umfang umfang) {
     laeuft_ = true;
-    nochmal_ = false;
-    if (balken == Balken::Ja && !gelesen_ && !Fortschritt.FortschrittAktiv) {
-        balken_ = true;
-        FortschrittStart(suchtexte::lesen);
+    Blickauftrag auftrag{Stand.AppPfad, {}, {}};
+    if (umfang == Umfang::Alles) {
+        auftrag.katalog = Katalogordner(Stand.AppPfad);
+        BalkenZeigen();
     }
-    Blickauftrag auftrag{Stand.AppPfad, Katalogordner(Stand.AppPfad), {}};
     for (const Formart art : {Formart::Quiz, Formart::Test}) {
         auftrag.formulare.push_back(FormularortVon(Stand.AppPfad + std::string(Formularordner(art))));
     }
-    const bool zeigen = balken_;
+    const bool zeigen = status_.has_value();
     arbeiter_->Auftragen(
         std::move(auftrag),
         [this, zeigen](float getan) {
@@ -153,37 +157,58 @@ void Fragendienst::Starten(Balken balken) {
         });
 }
 
+void Fragendienst::BalkenZeigen() {
+    if (!gelesen_ && !Fortschritt.FortschrittAktiv) {
+        status_ = HilfeStand();
+        FortschrittStart(suchtexte::lesen);
+    }
+}
+
 void Fragendienst::FortschrittZeigen(float getan) {
     constexpr float voll = 50.0F; // of the bar's steps, which are two per cent each
-    if (balken_ && Fortschritt.FortschrittAktiv && getan * voll >= Fortschritt.FortschrittWert + 1) {
+    if (status_ && Fortschritt.FortschrittAktiv && getan * voll >= Fortschritt.FortschrittWert + 1) {
         FortschrittSchritt(1);
+    }
+}
+
+void Fragendienst::BalkenBeenden() {
+    if (!status_) {
+        return;
+    }
+    FortschrittEnde();
+    if (HilfeStand() == std::string(suchtexte::lesen).append(" ")) { // nobody has said anything since
+        HilfeStandSetzen(*status_);
+    }
+    status_.reset();
+}
+
+void Fragendienst::UnlesbaresMelden(const std::vector<std::string>& dateien) {
+    if (dateien.size() == 1) {
+        HilfeText(Einsetzen(suchtexte::unlesbar, {dateien.front()}));
+    } else if (!dateien.empty()) {
+        HilfeText(Einsetzen(suchtexte::mehrUnlesbar, {dateien.front(), std::to_string(dateien.size() - 1)}));
     }
 }
 
 void Fragendienst::Annehmen(const Ergebnis& ergebnis) {
     laeuft_ = false;
-    if (std::exchange(balken_, false)) {
-        FortschrittEnde();
-        HilfeText("");
+    BalkenBeenden();
+    const std::optional<Umfang> nochmal = std::exchange(nochmal_, std::nullopt);
+    if (ergebnis.appPfad == Stand.AppPfad) { // else of another program folder
+        bestand_ = ergebnis.bestand;
+        benutzung_ = ergebnis.benutzung;
+        gelesen_ = gelesen_ || ergebnis.ganz;
+        UnlesbaresMelden(ergebnis.unlesbar);
+        if (ergebnis.bestandNeu) {
+            Q_EMIT bestandNeu();
+        }
+        if (ergebnis.benutzungNeu) {
+            Q_EMIT benutzungNeu();
+        }
+        Q_EMIT geprueft();
     }
-    bestand_ = ergebnis.bestand;
-    benutzung_ = ergebnis.benutzung;
-    gelesen_ = gelesen_ || ergebnis.vollstaendig;
-    if (ergebnis.unlesbar.size() == 1) {
-        HilfeText(Einsetzen(suchtexte::unlesbar, {ergebnis.unlesbar.front()}));
-    } else if (!ergebnis.unlesbar.empty()) {
-        HilfeText(Einsetzen(suchtexte::mehrUnlesbar,
-                            {ergebnis.unlesbar.front(), std::to_string(ergebnis.unlesbar.size() - 1)}));
-    }
-    if (ergebnis.bestandNeu) {
-        Q_EMIT bestandNeu();
-    }
-    if (ergebnis.benutzungNeu) {
-        Q_EMIT benutzungNeu();
-    }
-    Q_EMIT geprueft();
-    if (nochmal_) {
-        Starten(Balken::Nein);
+    if (nochmal && !laeuft_) {
+        Starten(*nochmal);
     }
 }
 

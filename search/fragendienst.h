@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class Fragendienst : public QObject {
     Q_OBJECT
@@ -23,14 +24,14 @@ public:
 
     // Looks at the disk, off this thread, and reads what is new or another there. Comes back at once;
     // bestandNeu and benutzungNeu come when something has changed, geprueft at the end in any case. A file of
-    // the catalogue that can't be read is named in the status help, once. The first look shows the progress
-    // bar, if wanted.
-    enum class Balken : std::uint8_t { Ja, Nein };
-    void Pruefen(Balken balken = Balken::Ja);
+    // the catalogue that can't be read is named in the status help, once. The first look at the catalogue
+    // shows the progress bar.
+    enum class Umfang : std::uint8_t { NurFormulare, Alles };
+    void Pruefen(Umfang umfang = Umfang::Alles);
 
     // The catalogue as read last; empty until the first reading has ended.
     [[nodiscard]] const std::shared_ptr<const Fragenbestand>& bestand() const { return bestand_; }
-    // True when a first reading of catalogue and forms has ended.
+    // True when the first reading of catalogue and forms has ended.
     [[nodiscard]] bool gelesen() const { return gelesen_; }
 
     // "schon benutzt in ..." and the short form of it, "" for a question that stands in no form. The open
@@ -50,7 +51,10 @@ private:
     class Arbeiter;
     struct Ergebnis;
 
-    void Starten(Balken balken);
+    void Starten(Umfang umfang);
+    void BalkenZeigen();
+    void BalkenBeenden();
+    void UnlesbaresMelden(const std::vector<std::string>& dateien);
     void Annehmen(const Ergebnis& ergebnis);
     void FortschrittZeigen(float getan);
     [[nodiscard]] std::vector<const Formulareintrag*> Formulare(std::uint64_t abdruck,
@@ -63,8 +67,8 @@ private:
     std::string appPfad_; // of the last look
     bool gelesen_ = false;
     bool laeuft_ = false;
-    bool nochmal_ = false;
-    bool balken_ = false; // the progress bar is ours
+    std::optional<Umfang> nochmal_;     // asked for while a look was under way
+    std::optional<std::string> status_; // what stood in the status help ahead of our progress bar
     // Read off the open form, until the running work of this thread has ended.
     mutable std::optional<Formulareintrag> offenes_;
     mutable bool abgelesen_ = false;

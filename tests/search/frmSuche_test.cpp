@@ -18,6 +18,7 @@
 #include "tests/hilfe/auswahlhilfe.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
+#include "tests/hilfe/frist.h"
 #include "tests/hilfe/maus.h"
 #include "tests/hilfe/programm.h"
 #include "tests/hilfe/versagen.h"

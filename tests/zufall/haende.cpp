@@ -62,7 +62,7 @@ QString TextDer(int taste, Qt::KeyboardModifiers zusatz) {
 
 } // namespace
 
-void Haende::beginnen(const Schritt& schritt) {
+void Haende::beginnen(const Handgriff& schritt) {
     if (schritt.was == Handlung::Taste) {
         Tasten(schritt.zahl, schritt.zusatz, TextDer(schritt.zahl, schritt.zusatz));
         return;
@@ -120,7 +120,7 @@ void Haende::Maus(const QPointer<QWindow>& fenster, QPoint stelle, QEvent::Type 
                         art == QEvent::MouseMove ? Qt::NoButton : taste, art, zusatz, zeit_);
 }
 
-void Haende::Klicken(const Treffer& ort, Qt::MouseButton taste, const Schritt& schritt) {
+void Haende::Klicken(const Treffer& ort, Qt::MouseButton taste, const Handgriff& schritt) {
     zeit_ += klickpause;
     const QPointer<QWindow> fenster = ort.fenster->windowHandle();
     const auto maus = [this, fenster, stelle = ort.stelle, taste, zusatz = schritt.zusatz](QEvent::Type art) {
@@ -135,7 +135,7 @@ void Haende::Klicken(const Treffer& ort, Qt::MouseButton taste, const Schritt& s
     }
 }
 
-void Haende::Ziehen(const Treffer& von, const Schritt& schritt) {
+void Haende::Ziehen(const Treffer& von, const Handgriff& schritt) {
     zeit_ += klickpause;
     const QPointer<QWindow> fenster = von.fenster->windowHandle();
     // The end may lie in another window; to the window that was pressed in it is a place outside.
@@ -172,7 +172,7 @@ void Haende::Tippen(const QString& text) {
     }
 }
 
-void Haende::Drehen(const Treffer& ort, const Schritt& schritt) {
+void Haende::Drehen(const Treffer& ort, const Handgriff& schritt) {
     const QPointer<QWindow> fenster = ort.fenster->windowHandle();
     striche_.emplace_back([fenster, stelle = ort.stelle, schritt] {
         if (!fenster.isNull()) {

@@ -3,7 +3,7 @@
 // loop of its own.
 #pragma once
 
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 #include "tests/zufall/ziele.h"
 
 #include <QPointer>
@@ -15,19 +15,19 @@
 class Haende {
 public:
     // A step whose place is out of reach is no stroke at all.
-    void beginnen(const Schritt& schritt);
+    void beginnen(const Handgriff& schritt);
     [[nodiscard]] bool fertig() const { return striche_.empty(); }
     // The next stroke; comes back when all it caused has ended.
     void strich();
 
 private:
-    void Klicken(const Treffer& ort, Qt::MouseButton taste, const Schritt& schritt);
-    void Ziehen(const Treffer& von, const Schritt& schritt);
+    void Klicken(const Treffer& ort, Qt::MouseButton taste, const Handgriff& schritt);
+    void Ziehen(const Treffer& von, const Handgriff& schritt);
     void Tasten(int taste, Qt::KeyboardModifiers zusatz, const QString& text);
     void Tippen(const QString& text);
     void Maus(const QPointer<QWindow>& fenster, QPoint stelle, QEvent::Type art, Qt::MouseButton taste,
               Qt::KeyboardModifiers zusatz);
-    void Drehen(const Treffer& ort, const Schritt& schritt);
+    void Drehen(const Treffer& ort, const Handgriff& schritt);
     void Schliessen(const Treffer& ort);
 
     std::deque<std::function<void()>> striche_;

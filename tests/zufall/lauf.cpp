@@ -188,7 +188,7 @@ void Lauf::Naechster() {
     Tun(auftrag_.liste.empty() ? wuerfel_.Wurf() : auftrag_.liste.at(stelle));
 }
 
-void Lauf::Tun(const Schritt& schritt) {
+void Lauf::Tun(const Handgriff& schritt) {
     Notiz(Worte(schritt));
     haende_.beginnen(schritt);
 }

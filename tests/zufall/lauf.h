@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tests/zufall/haende.h"
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 #include "tests/zufall/wache.h"
 #include "tests/zufall/wuerfel.h"
 
@@ -18,8 +18,8 @@
 struct Auftrag {
     unsigned saat = 1;
     int schritte = 2000;
-    std::vector<Schritt> liste; // done instead of rolled ones, if there are any
-    int protokoll = 1;          // file descriptor for the steps, one a line
+    std::vector<Handgriff> liste; // done instead of rolled ones, if there are any
+    int protokoll = 1;            // file descriptor for the steps, one a line
 };
 
 class Lauf : public QObject {
@@ -35,13 +35,13 @@ private:
     void Takt();
     void Pruefen();
     void Naechster();
-    void Tun(const Schritt& schritt);
+    void Tun(const Handgriff& schritt);
     [[nodiscard]] bool Aufbruch() const;
     void DialogZaehlen();
     void SpeicherMessen();
 
     Auftrag auftrag_;
-    Wuerfel wuerfel_;
+    Handwuerfel wuerfel_;
     Haende haende_;
     QFile protokoll_;
     QTimer uhr_;

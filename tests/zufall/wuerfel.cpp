@@ -19,7 +19,7 @@ constexpr int geduld = 20;
 
 } // namespace
 
-QWidget* Wuerfel::Fensterwahl() {
+QWidget* Handwuerfel::Fensterwahl() {
     const QList<QWidget*> fenster = ErreichbareFenster();
     for (QWidget* eines : fenster) {
         if (eines->objectName() == QLatin1String("frmMDI") && Prozent(60)) {
@@ -29,7 +29,7 @@ QWidget* Wuerfel::Fensterwahl() {
     return fenster.isEmpty() ? nullptr : Eines(fenster);
 }
 
-QPoint Wuerfel::StelleIn(const QWidget& fenster, const QWidget& element) {
+QPoint Handwuerfel::StelleIn(const QWidget& fenster, const QWidget& element) {
     QRect flaeche = element.visibleRegion().boundingRect();
     QList<QAction*> eintraege;
     if (const auto* leiste = qobject_cast<const QMenuBar*>(&element); leiste != nullptr) {
@@ -46,7 +46,7 @@ QPoint Wuerfel::StelleIn(const QWidget& fenster, const QWidget& element) {
     return element.mapTo(&fenster, flaeche.topLeft() + QPoint(x, y));
 }
 
-QPoint Wuerfel::Stelle(const QWidget& fenster) {
+QPoint Handwuerfel::Stelle(const QWidget& fenster) {
     const QList<QWidget*> alle = Elemente(fenster);
     QList<QWidget*> tasten;
     for (QWidget* element : alle) {
@@ -64,12 +64,12 @@ QPoint Wuerfel::Stelle(const QWidget& fenster) {
     return {x, Zahl(qMax(1, fenster.height()))};
 }
 
-Ort Wuerfel::Ortswahl() {
+Ort Handwuerfel::Ortswahl() {
     const QWidget* fenster = Fensterwahl();
     return fenster == nullptr ? Ort{} : OrtVon(*fenster, Stelle(*fenster));
 }
 
-Ort Wuerfel::Ziehort() {
+Ort Handwuerfel::Ziehort() {
     const QWidget* fenster = Fensterwahl();
     if (fenster == nullptr || Prozent(40)) {
         return Ortswahl();
@@ -83,13 +83,13 @@ Ort Wuerfel::Ziehort() {
     return elemente.isEmpty() ? Ortswahl() : OrtVon(*fenster, StelleIn(*fenster, *Eines(elemente)));
 }
 
-std::optional<Schritt> Wuerfel::Vorliebe() {
+std::optional<Handgriff> Handwuerfel::Vorliebe() {
     const wuerfeltafel::Liebling& eines = Eines(wuerfeltafel::lieblinge);
     const Ort ort{QLatin1String(eines.fenster), QLatin1String(eines.element), QPoint(8, eines.hoehe)};
-    return Suchen(ort) ? std::optional(Schritt{eines.was, ort, {}, {}, 0, {}}) : std::nullopt;
+    return Suchen(ort) ? std::optional(Handgriff{eines.was, ort, {}, {}, 0, {}}) : std::nullopt;
 }
 
-Qt::KeyboardModifiers Wuerfel::Zusatz(int anteil) {
+Qt::KeyboardModifiers Handwuerfel::Zusatz(int anteil) {
     if (!Prozent(anteil)) {
         return Qt::NoModifier;
     }
@@ -98,12 +98,12 @@ Qt::KeyboardModifiers Wuerfel::Zusatz(int anteil) {
     return Eines(moegliche);
 }
 
-QString Wuerfel::Text() {
+QString Handwuerfel::Text() {
     QString text = Eines(wuerfeltafel::Texte());
     return Prozent(10) ? text + Eines(wuerfeltafel::Texte()) : text;
 }
 
-Schritt Wuerfel::Mausschritt() {
+Handgriff Handwuerfel::Mausschritt() {
     const int art = Zahl(100);
     if (art < 60) {
         return {Handlung::Klick, Ortswahl(), {}, Zusatz(10), 0, {}};
@@ -120,7 +120,7 @@ Schritt Wuerfel::Mausschritt() {
     return {Handlung::Rad, Ortswahl(), {}, Zusatz(10), Prozent(50) ? 120 : -120, {}};
 }
 
-Schritt Wuerfel::Tastenschritt() {
+Handgriff Handwuerfel::Tastenschritt() {
     const int art = Zahl(100);
     if (art < 20) {
         return {Handlung::Text, {}, {}, {}, 0, Text()};
@@ -143,7 +143,7 @@ Schritt Wuerfel::Tastenschritt() {
     return {Handlung::Taste, {}, {}, Zusatz(25), Eines(wuerfeltafel::tasten), {}};
 }
 
-Schritt Wuerfel::Ausgang() {
+Handgriff Handwuerfel::Ausgang() {
     const QWidget* dialog = QApplication::activeModalWidget();
     const bool offen = QApplication::activePopupWidget() != nullptr;
     QList<QAbstractButton*> tasten;
@@ -163,7 +163,7 @@ Schritt Wuerfel::Ausgang() {
     return {Handlung::Schliessen, OrtVon(*dialog, QPoint(0, 0)), {}, {}, 0, {}};
 }
 
-Schritt Wuerfel::Wurf() {
+Handgriff Handwuerfel::Wurf() {
     QWidget* dialog = QApplication::activeModalWidget();
     seit_ = dialog != nullptr && dialog == dialog_ ? seit_ + 1 : 0;
     dialog_ = dialog;
@@ -181,7 +181,7 @@ Schritt Wuerfel::Wurf() {
         }
     }
     if (art < 100) {
-        if (const std::optional<Schritt> schritt = Vorliebe(); schritt) {
+        if (const std::optional<Handgriff> schritt = Vorliebe(); schritt) {
             return *schritt;
         }
     }

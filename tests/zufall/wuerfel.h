@@ -1,20 +1,20 @@
 // Rolls the next step, from a seed and what is on the screen. Most steps meet a control, a few meet nothing.
 #pragma once
 
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 
 #include <QPointer>
 #include <QWidget>
 
 #include <random>
 
-class Wuerfel {
+class Handwuerfel {
 public:
-    explicit Wuerfel(unsigned saat) : zufall_(saat) {}
+    explicit Handwuerfel(unsigned saat) : zufall_(saat) {}
 
-    [[nodiscard]] Schritt Wurf();
+    [[nodiscard]] Handgriff Wurf();
     // A step that should leave the menu or dialog that is open: by a button, by Esc, or by the frame.
-    [[nodiscard]] Schritt Ausgang();
+    [[nodiscard]] Handgriff Ausgang();
 
 private:
     // 0 to grenze - 1.
@@ -30,10 +30,10 @@ private:
     QPoint StelleIn(const QWidget& fenster, const QWidget& element);
     Ort Ortswahl();
     Ort Ziehort();
-    std::optional<Schritt> Vorliebe();
+    std::optional<Handgriff> Vorliebe();
     Qt::KeyboardModifiers Zusatz(int anteil);
-    Schritt Mausschritt();
-    Schritt Tastenschritt();
+    Handgriff Mausschritt();
+    Handgriff Tastenschritt();
     QString Text();
 
     std::mt19937 zufall_;

@@ -1,7 +1,7 @@
 // What the dice may show: keys, favourite commands, texts.
 #pragma once
 
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 
 #include <QString>
 

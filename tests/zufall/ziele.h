@@ -2,7 +2,7 @@
 // a place is found again.
 #pragma once
 
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 
 #include <QList>
 

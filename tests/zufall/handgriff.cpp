@@ -1,4 +1,4 @@
-#include "tests/zufall/schritt.h"
+#include "tests/zufall/handgriff.h"
 
 #include <QKeySequence>
 #include <QStringList>
@@ -59,7 +59,7 @@ Qt::KeyboardModifiers ZusatzAus(const QString& wort) {
     return zusatz;
 }
 
-QStringList Angaben(const Schritt& schritt) {
+QStringList Angaben(const Handgriff& schritt) {
     switch (schritt.was) {
     case Handlung::Klick:
     case Handlung::Doppelklick:
@@ -85,18 +85,18 @@ QStringList Angaben(const Schritt& schritt) {
 
 } // namespace
 
-QString Worte(const Schritt& schritt) {
+QString Worte(const Handgriff& schritt) {
     return QLatin1String(namen.at(static_cast<std::size_t>(schritt.was))) + u' ' +
            Angaben(schritt).join(u' ');
 }
 
-std::optional<Schritt> SchrittAus(const QString& zeile) {
+std::optional<Handgriff> SchrittAus(const QString& zeile) {
     const QStringList worte = zeile.trimmed().split(u' ');
     for (std::size_t i = 0; i < namen.size(); ++i) {
         if (worte.constFirst() != QLatin1String(namen.at(i)) || worte.size() < 2) {
             continue;
         }
-        Schritt schritt{static_cast<Handlung>(i), {}, {}, {}, 0, {}};
+        Handgriff schritt{static_cast<Handlung>(i), {}, {}, {}, 0, {}};
         if (schritt.was == Handlung::Text || schritt.was == Handlung::Einfuegen) {
             schritt.text = Dekodiert(worte.at(1));
         } else if (schritt.was != Handlung::Taste) { // the key's name is for the reader

@@ -27,7 +27,7 @@ struct Ort {
     QPoint stelle;
 };
 
-struct Schritt {
+struct Handgriff {
     Handlung was = Handlung::Klick;
     Ort von, nach; // nach is the end of a drag
     Qt::KeyboardModifiers zusatz;
@@ -35,6 +35,6 @@ struct Schritt {
     QString text;
 };
 
-[[nodiscard]] QString Worte(const Schritt& schritt);
+[[nodiscard]] QString Worte(const Handgriff& schritt);
 // No value for a line that is no step.
-[[nodiscard]] std::optional<Schritt> SchrittAus(const QString& zeile);
+[[nodiscard]] std::optional<Handgriff> SchrittAus(const QString& zeile);
