@@ -54,8 +54,8 @@ frmFuellen::frmFuellen() : stand_(FormularstandJetzt()), formular_(Formularnumme
     Bauen();
     Verbinden();
     wahl_->StandZeigen(stand_);
+    Fragen().Pruefen(); // of another program folder nothing is known any more
     KatalogGelesen();
-    Fragen().Pruefen();
 }
 
 void frmFuellen::Verbinden() {
@@ -64,6 +64,11 @@ void frmFuellen::Verbinden() {
             Qt::QueuedConnection);
     connect(&Fragen(), &Fragendienst::bestandNeu, this, &frmFuellen::KatalogGelesen);
     connect(&Fragen(), &Fragendienst::benutzungNeu, this, &frmFuellen::KatalogGelesen);
+    connect(&Fragen(), &Fragendienst::geprueft, this, [this] {
+        if (vorrat_ == nullptr) { // there was nothing to be read, and so nothing new
+            KatalogGelesen();
+        }
+    });
     connect(wahl_, &Fuellwahl::anders, this, &frmFuellen::AuftragErneuern);
     connect(cmdVorschlag_, &QPushButton::clicked, this, &frmFuellen::VorschlagMachen);
     connect(cmdUebernehmen_, &QPushButton::clicked, this, &frmFuellen::Uebernehmen);

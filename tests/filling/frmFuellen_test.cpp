@@ -71,6 +71,7 @@ private Q_SLOTS:
     void thereIsOneWindowAndItGoesWithTheForm();
     void everyCellTellsWhatItShows();
     void aBoardGoesIntoItsFileWithoutAnyChoice();
+    void withoutAnyQuestionsItStillAnswers();
     void itFitsASmallScreen();
 };
 
@@ -373,6 +374,20 @@ void FuellenTest::aBoardGoesIntoItsFileWithoutAnyChoice() {
     for (int n = 1; n <= anzahlFelder; ++n) {
         QVERIFY2(datei.find(NachCp1252(FK_Frage(n))) != std::string::npos, FK_Frage(n).c_str());
     }
+}
+
+void FuellenTest::withoutAnyQuestionsItStillAnswers() {
+    Programm programm;
+    for (const char* ordner : {"WISSEN", "KRANZ", "TEST"}) {
+        QVERIFY(QDir(programm.ordner().nativ(QLatin1String(ordner))).removeRecursively());
+    }
+    programm.NeuesQuizformular();
+    QWidget* fenster = FuellenOeffnen();
+    auto* ergebnis = Finden<QLabel>(fenster, QStringLiteral("lblErgebnis"));
+    QTRY_COMPARE(ergebnis->text(),
+                 QStringLiteral("30 Felder sind leer. Mit [Vorschlag] suche ich Fragen dafür aus."));
+    Druecken(fenster, "cmdVorschlag");
+    QTRY_COMPARE(ergebnis->text(), QStringLiteral("Ich habe keine passende Frage für die 30 leeren Felder."));
 }
 
 void FuellenTest::itFitsASmallScreen() {

@@ -112,7 +112,11 @@ TEST(SucheTest, WhatIsTypedWordByWordFindsTheSameAsAtOnce) {
 bool Beginnt(std::string_view text, const std::string& wort) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool zeichenanfang = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-        if (zeichenanfang && Gefaltet(text.substr(i)).starts_with(wort)) {
+        const std::string_view rest = text.substr(i);
+        const std::string gefaltet = zeichenanfang ? Gefaltet(rest) : std::string();
+        // What becomes two letters has a beginning at the second, too.
+        const bool zwei = rest.starts_with("ß") || rest.starts_with("Þ") || rest.starts_with("þ");
+        if (gefaltet.starts_with(wort) || (zwei && gefaltet.substr(1).starts_with(wort))) {
             return true;
         }
     }
@@ -132,7 +136,7 @@ bool Erwartet(const Katalogfrage& frage, const Suchanfrage& anfrage) {
 }
 
 TEST(SucheTest, RandomWordsFindWhatALookAtEachQuestionFinds) {
-    constexpr std::array<std::string_view, 9> silben{"a", "e", "ae", "ä", "u", "ue", "n", " ", "s"};
+    constexpr std::array<std::string_view, 9> silben{"a", "e", "ae", "ä", "u", "ß", "n", " ", "s"};
     std::mt19937 zufall(99); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same texts each time
     const auto text = [&](std::size_t laenge) {
         std::string ergebnis;
