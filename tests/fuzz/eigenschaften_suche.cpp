@@ -4,6 +4,7 @@
 #include "core/cp1252.h"
 #include "search/faltung.h"
 #include "search/suche.h"
+#include "tests/search/langsamesuche.h"
 
 #include <algorithm>
 #include <string>
@@ -11,29 +12,6 @@
 namespace fuzz {
 
 namespace {
-
-// What the search promises, told the slow way: from some letter on the text begins as the word does.
-bool Beginnt(std::string_view text, const std::string& wort) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool zeichenanfang = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-        const std::string_view rest = text.substr(i);
-        const std::string gefaltet = zeichenanfang ? Gefaltet(rest) : std::string();
-        // What becomes two letters has a beginning at the second, too.
-        const bool zwei = rest.starts_with("ß") || rest.starts_with("Þ") || rest.starts_with("þ");
-        if (gefaltet.starts_with(wort) || (zwei && gefaltet.substr(1).starts_with(wort))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Erwartet(const Katalogfrage& frage, const Suchanfrage& anfrage) {
-    const auto enthaelt = [&frage](const std::string& wort) {
-        return Beginnt(frage.frage, wort) || Beginnt(frage.antwort, wort) || Beginnt(frage.thema, wort) ||
-               Beginnt(frage.unterthema, wort);
-    };
-    return std::ranges::all_of(anfrage.noetig, enthaelt) && std::ranges::none_of(anfrage.verboten, enthaelt);
-}
 
 std::shared_ptr<const Fragenbestand> Bestand(Eingabe& eingabe) {
     const std::string thema = AusCp1252(eingabe.Stueck());
@@ -54,7 +32,7 @@ void Fundstelle(std::string_view text, const Suchanfrage& anfrage) {
         bisher = bereich.bis;
     }
     const bool alle =
-        std::ranges::all_of(anfrage.noetig, [&](const auto& wort) { return Beginnt(text, wort); });
+        std::ranges::all_of(anfrage.noetig, [&](const auto& wort) { return langsam::Beginnt(text, wort); });
     Verlange(!alle || anfrage.noetig.empty() || bisher > 0, "what is found is marked");
 }
 
@@ -84,7 +62,7 @@ void Suche(std::string_view bytes) {
         const Katalogfrage frage = bestand->frage(nr);
         Stellen(frage.frage);
         Fundstelle(frage.frage, anfrage);
-        if (Erwartet(frage, anfrage)) {
+        if (langsam::Erwartet(frage, anfrage)) {
             erwartet.push_back(nr);
         }
     }

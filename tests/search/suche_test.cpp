@@ -2,7 +2,7 @@
 
 #include "core/cp1252.h"
 #include "search/benutzung.h"
-#include "search/faltung.h"
+#include "tests/search/langsamesuche.h"
 
 #include <gtest/gtest.h>
 
@@ -108,33 +108,6 @@ TEST(SucheTest, WhatIsTypedWordByWordFindsTheSameAsAtOnce) {
     EXPECT_EQ(lauf.Suchen(bestand, AnfrageAus("hund")), Suchlauf().Suchen(bestand, AnfrageAus("hund")));
 }
 
-// What the search promises, told the slow way: from some letter on the text begins as the word does.
-bool Beginnt(std::string_view text, const std::string& wort) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool zeichenanfang = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-        const std::string_view rest = text.substr(i);
-        const std::string gefaltet = zeichenanfang ? Gefaltet(rest) : std::string();
-        // What becomes two letters has a beginning at the second, too.
-        const bool zwei = rest.starts_with("ß") || rest.starts_with("Þ") || rest.starts_with("þ");
-        if (gefaltet.starts_with(wort) || (zwei && gefaltet.substr(1).starts_with(wort))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Enthaelt(const Katalogfrage& frage, const std::string& wort) {
-    return Beginnt(frage.frage, wort) || Beginnt(frage.antwort, wort) || Beginnt(frage.thema, wort) ||
-           Beginnt(frage.unterthema, wort);
-}
-
-bool Erwartet(const Katalogfrage& frage, const Suchanfrage& anfrage) {
-    return std::ranges::all_of(anfrage.noetig,
-                               [&](const std::string& wort) { return Enthaelt(frage, wort); }) &&
-           std::ranges::none_of(anfrage.verboten,
-                                [&](const std::string& wort) { return Enthaelt(frage, wort); });
-}
-
 TEST(SucheTest, RandomWordsFindWhatALookAtEachQuestionFinds) {
     constexpr std::array<std::string_view, 9> silben{"a", "e", "ae", "ä", "u", "ß", "n", " ", "s"};
     std::mt19937 zufall(99); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same texts each time
@@ -158,7 +131,7 @@ TEST(SucheTest, RandomWordsFindWhatALookAtEachQuestionFinds) {
         std::ranges::sort(gefunden);
         std::vector<std::uint32_t> erwartet;
         for (std::uint32_t nr = 0; nr < bestand->anzahl(); ++nr) {
-            if (Erwartet(bestand->frage(nr), anfrage)) {
+            if (langsam::Erwartet(bestand->frage(nr), anfrage)) {
                 erwartet.push_back(nr);
             }
         }
