@@ -1,7 +1,7 @@
 #include "checking/papierpruefung.h"
 
+#include "checking/papierkasten.h"
 #include "checking/texte.h"
-#include "core/meldungstext.h"
 #include "printing/druckdaten.h"
 #include "printing/feldlayout.h"
 #include "printing/testseite.h"
@@ -13,58 +13,13 @@
 
 namespace {
 
-constexpr Millimeter spuerbar = 0.05_mm; // what rounds to less than a tenth doesn't count
-
-class Sammler {
-public:
-    explicit Sammler(Befunde& befunde) : befunde_(befunde) {}
-    void Ueberstand(const Befundort& ort, std::string_view text, Millimeter laenge) {
-        if (laenge >= spuerbar) {
-            befunde_.push_back(
-                {Schwere::Fehler, Anlass::Ueberstand, ort, Einsetzen(text, {Millimetertext(laenge)})});
-        }
-    }
-
-private:
-    Befunde& befunde_;
-};
-
-// The texts of a drawing that a condition holds for.
-template <typename Gesucht>
-std::vector<Textstelle> Texte(const Zeichnung& zeichnung, Gesucht gesucht) {
-    std::vector<Textstelle> texte;
-    for (const Element& element : zeichnung) {
-        if (const auto* text = std::get_if<Textstelle>(&element); text != nullptr && gesucht(*text)) {
-            texte.push_back(*text);
-        }
-    }
-    return texte;
-}
-
-// Far corner of lines on the paper; blanks at the end of a line can't be seen.
-Millimeter RechterRand(const std::vector<Textstelle>& zeilen, const Schriftmass& mass) {
-    Millimeter rand;
-    for (const Textstelle& zeile : zeilen) {
-        const std::string sichtbar = zeile.text.substr(0, zeile.text.find_last_not_of(' ') + 1);
-        rand = std::max(rand, zeile.x + mass.Breite(sichtbar, zeile.schrift));
-    }
-    return rand;
-}
-
-Millimeter UntererRand(const std::vector<Textstelle>& zeilen, const Schriftmass& mass) {
-    Millimeter rand;
-    for (const Textstelle& zeile : zeilen) {
-        rand = std::max(rand, zeile.y + mass.Hoehe(zeile.schrift));
-    }
-    return rand;
-}
-
 // --- Quiz form ---
 
 // A quiz form's sheet of which one text at a time is laid out.
 class Quizblatt {
 public:
-    Quizblatt(const FKDruckdaten& daten, const Druckgeometrie& g, const Schriftmass& mass, Befunde& befunde)
+    Quizblatt(const FKDruckdaten& daten, const Druckgeometrie& g, const Schriftmass& mass,
+              Papierbefunde& befunde)
         : daten_(daten), g_(g), mass_(mass), sammler_(befunde) {
         einzeln_.punkte = daten.punkte;
     }
@@ -81,8 +36,9 @@ public:
         constexpr std::array teile{Teil::Datum, Teil::Zeit, Teil::Nr};
         for (std::size_t i = 0; i < std::min(texte.size(), teile.size()); ++i) {
             const Millimeter grenze = i + 1 < texte.size() ? texte.at(i + 1).x : ende;
+            const Flaeche kasten = Kasten({texte.at(i)}, mass_);
             sammler_.Ueberstand({Formart::Quiz, teile.at(i), 0}, pruefungtexte::kopfHinaus,
-                                RechterRand({texte.at(i)}, mass_) - grenze);
+                                RechterRand(kasten) - grenze, kasten);
         }
     }
 
@@ -96,7 +52,7 @@ public:
         const Millimeter links = g_.RandLinks + static_cast<float>(gebiet - 1) * g_.SpaltenRaster;
         for (const Textstelle& text : texte) { // one, if any
             sammler_.Ueberstand({Formart::Quiz, Teil::Gebiet, gebiet}, pruefungtexte::titelHinaus,
-                                links - text.x);
+                                links - text.x, Kasten({text}, mass_));
         }
     }
 
@@ -115,13 +71,14 @@ private:
     void TeilPruefen(const Zeichnung& zeichnung, const Befundort& ort, Millimeter unten) {
         const bool antwort = ort.teil == Teil::Antwort;
         const std::vector<Textstelle> zeilen = Texte(zeichnung, [this, antwort](const Textstelle& text) {
-            return text.schrift == Schrift{Schriftart::Arial, 8_pt * g_.Massstab, antwort};
+            return text.schrift == Druckschrift{Schriftart::Arial, 8_pt * g_.Massstab, antwort};
         });
         const Millimeter rechts = g_.RandLinks +
                                   static_cast<float>(GebietVon(ort.nummer) - 1) * g_.SpaltenRaster +
                                   g_.SpaltenBreite;
-        sammler_.Ueberstand(ort, pruefungtexte::untenHinaus, UntererRand(zeilen, mass_) - unten);
-        sammler_.Ueberstand(ort, pruefungtexte::rechtsHinaus, RechterRand(zeilen, mass_) - rechts);
+        const Flaeche kasten = Kasten(zeilen, mass_);
+        sammler_.Ueberstand(ort, pruefungtexte::untenHinaus, UntererRand(kasten) - unten, kasten);
+        sammler_.Ueberstand(ort, pruefungtexte::rechtsHinaus, RechterRand(kasten) - rechts, kasten);
     }
 
     const FKDruckdaten& daten_;
@@ -143,7 +100,7 @@ std::vector<Textstelle> Zeilen(const Testdruckdaten& daten, const Testgeometrie&
 
 class Testblattpruefung {
 public:
-    Testblattpruefung(const Testgeometrie& g, const Schriftmass& mass, Befunde& befunde)
+    Testblattpruefung(const Testgeometrie& g, const Schriftmass& mass, Papierbefunde& befunde)
         : g_(g), mass_(mass), sammler_(befunde) {}
 
     // teil: where the text stands in the sheet's values; rechts: from the frame's left edge.
@@ -153,34 +110,39 @@ public:
         nur.*wert = text;
         const std::vector<Textstelle> texte = Texte(
             TestZeichnen(nur, g_, mass_), [&text](const Textstelle& stelle) { return stelle.text == text; });
+        const Flaeche kasten = Kasten(texte, mass_);
         sammler_.Ueberstand({Formart::Test, teil, 0}, pruefungtexte::kopfHinaus,
-                            RechterRand(texte, mass_) - g_.TestRandLinks - rechts);
+                            RechterRand(kasten) - g_.TestRandLinks - rechts, kasten);
     }
 
-    void FragePruefen(int i, const std::string& frage, bool mitAntwort) {
+    // reihe: from 0, of the rows that are printed.
+    void FragePruefen(int i, int reihe, const std::string& frage, bool mitAntwort) {
         Testdruckdaten nur;
         nur.zeilen[1].frage = frage;
         const Millimeter hoehe = mitAntwort ? g_.TestZeile / 2.0F : g_.TestZeile;
-        Pruefen({Formart::Test, Teil::Frage, i}, Zeilen(nur, g_, mass_), hoehe,
+        Pruefen({Formart::Test, Teil::Frage, i}, reihe, Zeilen(nur, g_, mass_), hoehe,
                 mitAntwort ? pruefungtexte::inDieAntwort : pruefungtexte::untenHinaus);
     }
 
-    void AntwortPruefen(int i, const std::string& antwort) {
+    void AntwortPruefen(int i, int reihe, const std::string& antwort) {
         Testdruckdaten nur;
         nur.zeilen[1] = {"?", antwort, ""}; // no answer is printed without a question
         nur.mitAntworten = true;
         std::vector<Textstelle> zeilen = Zeilen(nur, g_, mass_);
         std::erase_if(zeilen, [this](const Textstelle& zeile) { return zeile.y == g_.TestFragenOben; });
-        Pruefen({Formart::Test, Teil::Antwort, i}, zeilen, g_.TestZeile, pruefungtexte::untenHinaus);
+        Pruefen({Formart::Test, Teil::Antwort, i}, reihe, zeilen, g_.TestZeile, pruefungtexte::untenHinaus);
     }
 
 private:
-    void Pruefen(const Befundort& ort, const std::vector<Textstelle>& zeilen, Millimeter hoehe,
+    void Pruefen(const Befundort& ort, int reihe, const std::vector<Textstelle>& zeilen, Millimeter hoehe,
                  std::string_view untenText) {
         const Millimeter links = g_.TestRandLinks + g_.TestNummerSpalte + g_.TestTextEinzug;
-        sammler_.Ueberstand(ort, untenText, UntererRand(zeilen, mass_) - g_.TestFragenOben - hoehe);
-        sammler_.Ueberstand(ort, pruefungtexte::rechtsHinaus,
-                            RechterRand(zeilen, mass_) - links - g_.TestTextBreite);
+        const Flaeche kasten = Kasten(zeilen, mass_);
+        Flaeche platz = kasten; // it was laid out as the first row
+        platz.y += static_cast<float>(reihe) * g_.TestRaster;
+        sammler_.Ueberstand(ort, untenText, UntererRand(kasten) - g_.TestFragenOben - hoehe, platz);
+        sammler_.Ueberstand(ort, pruefungtexte::rechtsHinaus, RechterRand(kasten) - links - g_.TestTextBreite,
+                            platz);
     }
 
     const Testgeometrie& g_;
@@ -188,20 +150,31 @@ private:
     Sammler sammler_;
 };
 
+// The findings without their places.
+Befunde Ohne(Papierbefunde befunde) {
+    Befunde ohne;
+    ohne.reserve(befunde.size());
+    for (Papierbefund& befund : befunde) {
+        ohne.push_back(std::move(befund.befund));
+    }
+    return ohne;
+}
+
 } // namespace
 
-Befunde PapierPruefen(const Quizformular& form, const Spielwerte& spiel, const Schriftmass& mass) {
-    Befunde befunde;
+Papierbefunde Ueberstaende(const Quizformular& form, const Spielwerte& spiel, bool blanko,
+                           const Druckursprung& ursprung, const Schriftmass& mass) {
+    Papierbefunde befunde;
     const std::optional<Papier> papier = PapierAus(spiel.Papierformat);
     if (!papier) {
         return befunde;
     }
-    // Where the printable area begins moves the sheet as a whole.
-    const Druckgeometrie g = GeometrieRechnen(*papier, Millimeter(spiel.Zwischenabstand), 0_mm, 0_mm);
-    const FKDruckdaten daten = DruckdatenAus(form, spiel, false);
+    const Druckgeometrie g =
+        GeometrieRechnen(*papier, Millimeter(spiel.Zwischenabstand), ursprung.links, ursprung.oben);
+    const FKDruckdaten daten = DruckdatenAus(form, spiel, blanko);
     Quizblatt blatt(daten, g, mass, befunde);
     blatt.KopfPruefen();
-    for (int a = 1; a <= anzahlGebiete; ++a) {
+    for (int a = 1; a <= anzahlGebiete && !blanko; ++a) {
         blatt.GebietPruefen(a);
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
@@ -210,28 +183,40 @@ Befunde PapierPruefen(const Quizformular& form, const Spielwerte& spiel, const S
     return befunde;
 }
 
-Befunde PapierPruefen(const Testformular& form, const Schriftmass& mass) {
-    Befunde befunde;
+Papierbefunde Ueberstaende(const Testformular& form, bool mitAntworten, const Druckursprung& ursprung,
+                           const Schriftmass& mass) {
+    Papierbefunde befunde;
     const auto anzahl =
         std::ranges::count_if(form.HBFrageText, [](const auto& text) { return !text.empty(); });
-    const Testgeometrie g = TestGeometrieRechnen(static_cast<int>(anzahl), 0_mm, 0_mm);
+    const Testgeometrie g = TestGeometrieRechnen(static_cast<int>(anzahl), ursprung.links, ursprung.oben);
     Testblattpruefung blatt(g, mass, befunde);
     constexpr Millimeter bisStrich = 140_mm; // in front of the right part of the head
     blatt.KopfPruefen(Teil::Titel, &Testdruckdaten::titel, form.HBKopf1, bisStrich);
     blatt.KopfPruefen(Teil::Fach, &Testdruckdaten::fach, form.HBKopf2, bisStrich);
     blatt.KopfPruefen(Teil::Gruppe, &Testdruckdaten::gruppe, form.HBKopf3, g.TestBreite);
+    int reihe = 0;
     for (int i = 1; i <= anzahlTestfragen; ++i) {
         const auto stelle = static_cast<std::size_t>(i);
         if (form.HBFrageText.at(stelle).empty()) {
             continue; // nothing of the row is printed
         }
         const std::string& antwort = form.HBAntwortText.at(stelle);
-        blatt.FragePruefen(i, form.HBFrageText.at(stelle), !antwort.empty());
-        if (!antwort.empty()) {
-            blatt.AntwortPruefen(i, antwort);
+        const bool mitAntwort = mitAntworten && !antwort.empty();
+        blatt.FragePruefen(i, reihe, form.HBFrageText.at(stelle), mitAntwort);
+        if (mitAntwort) {
+            blatt.AntwortPruefen(i, reihe, antwort);
         }
+        ++reihe;
     }
     return befunde;
+}
+
+Befunde PapierPruefen(const Quizformular& form, const Spielwerte& spiel, const Schriftmass& mass) {
+    return Ohne(Ueberstaende(form, spiel, false, {}, mass));
+}
+
+Befunde PapierPruefen(const Testformular& form, const Schriftmass& mass) {
+    return Ohne(Ueberstaende(form, true, {}, mass));
 }
 
 std::string Millimetertext(Millimeter laenge) {

@@ -16,12 +16,14 @@ enum class Kindfenster : std::uint8_t {
     Homepage,
     Suche,
     Fuellen,
-    Pruefung
+    Pruefung,
+    Vorschau
 };
 
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Kindfenster fenster) {
-    constexpr std::array<std::string_view, 8> zeichen{"FKFragen", "HBFragen", "Editor",  "Browser",
-                                                      "Homepage", "Suche",    "Fuellen", "Pruefung"};
+    constexpr std::array<std::string_view, 9> zeichen{"FKFragen", "HBFragen", "Editor",
+                                                      "Browser",  "Homepage", "Suche",
+                                                      "Fuellen",  "Pruefung", "Vorschau"};
     return zeichen.at(static_cast<std::size_t>(fenster));
 }
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {

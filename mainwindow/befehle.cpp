@@ -19,6 +19,7 @@
 #include "periphery/spielregel.h"
 #include "search/suchen.h"
 #include "settings/vorgabendialog.h"
+#include "sheets/vorschau.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -127,6 +128,7 @@ constexpr std::array zuordnungen{
     Zuordnung{"mExtra(4)", SucheZeigen},
     Zuordnung{"mExtra(5)", FuellenZeigen},
     Zuordnung{"mExtra(6)", PruefungZeigen},
+    Zuordnung{"mExtra(8)", VorschauZeigen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},

@@ -111,6 +111,7 @@ inline constexpr std::array menuestatus{std::to_array<Menuestatus>({
     {"mExtra(4)", " Fragen im ganzen Katalog suchen"},
     {"mExtra(5)", " Leere Felder des Formulars mit Fragen füllen"},
     {"mExtra(6)", " Offenes Formular vor dem Drucken prüfen"},
+    {"mExtra(8)", " Offenes Formular vor dem Drucken ansehen, auch als Brett und Karten"},
     {"mHilfen(1)", hilfe},
     {"mHilfeFK", hilfe},
     {"mHilfeHB", hilfe},

@@ -120,6 +120,8 @@ constexpr std::array eintraege{
     Eintrag{"mExtras", "mExtra(4)", "Fragen &suchen", "Ctrl+F"},
     Eintrag{"mExtras", "mExtra(5)", "&Brett füllen", "Ctrl+B"},
     Eintrag{"mExtras", "mExtra(6)", "Formular &prüfen", "F9"},
+    Eintrag{"mExtras", "mExtra(7)", ""},
+    Eintrag{"mExtras", "mExtra(8)", "Druck&vorschau", "Ctrl+Shift+P"},
     Eintrag{"mHilfe", "mHilfen(1)", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeFK", "&Hilfe"},
     Eintrag{"mHilfe", "mHilfeHB", "&Hilfe"},

@@ -113,6 +113,16 @@ std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag) {
     return kopie;
 }
 
+std::unique_ptr<QPrinter> DruckerFuerPdf() {
+    const QPrinter& vorbild = Drucker();
+    auto drucker = NeuerDrucker();
+    drucker->setOutputFormat(QPrinter::PdfFormat);
+    drucker->setResolution(vorbild.resolution());
+    drucker->setPageSize(vorbild.pageLayout().pageSize());
+    drucker->setPageOrientation(vorbild.pageLayout().orientation());
+    return drucker;
+}
+
 void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlterDrucker) {
     pdfwahl = {};
     if (gewaehlterDrucker->outputFormat() == QPrinter::PdfFormat) {

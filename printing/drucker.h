@@ -23,6 +23,8 @@ struct Seitenmasse {
 // A second object for the same printer, for the printer dialog to work on. pdfVorschlag: path of the PDF file
 // that the dialog proposes where there is no printer, in the program's notation.
 [[nodiscard]] std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag);
+// A printer for PDF files alone, with the page and the resolution of the one that serves.
+[[nodiscard]] std::unique_ptr<QPrinter> DruckerFuerPdf();
 // Takes the printer chosen in the dialog; it serves until the program ends. A PDF file named by the user
 // there counts as a choice too, for the form that is open now.
 void DruckerUebernehmen(std::unique_ptr<QPrinter> gewaehlt);

@@ -22,7 +22,7 @@ QStringList Familien(Schriftart art) {
 
 } // namespace
 
-QFont DruckFont(const Schrift& schrift) {
+QFont DruckFont(const Druckschrift& schrift) {
     QFont font;
     font.setFamilies(Familien(schrift.art));
     font.setStyleHint(QFont::SansSerif, QFont::PreferOutline);
@@ -38,7 +38,7 @@ QFont DruckFont(const Schrift& schrift) {
 
 Druckschriften::Druckschriften(QPaintDevice& geraet) : geraet_(geraet), aufloesung_(geraet.logicalDpiY()) {}
 
-Druckschriften::Eintrag& Druckschriften::Finden(const Schrift& schrift) const {
+Druckschriften::Eintrag& Druckschriften::Finden(const Druckschrift& schrift) const {
     const auto stelle = std::find_if(eintraege_.begin(), eintraege_.end(),
                                      [&](const Eintrag& eintrag) { return eintrag.schrift == schrift; });
     if (stelle != eintraege_.end()) {
@@ -48,13 +48,13 @@ Druckschriften::Eintrag& Druckschriften::Finden(const Schrift& schrift) const {
     return eintraege_.emplace_back(Eintrag{schrift, font, QFontMetricsF(font, &geraet_), {}});
 }
 
-Millimeter Druckschriften::Breite(std::string_view text, const Schrift& schrift) const {
+Millimeter Druckschriften::Breite(std::string_view text, const Druckschrift& schrift) const {
     return aufloesung_.MillimeterAus(Finden(schrift).mass.horizontalAdvance(Text(text)));
 }
 
 // Letters of a text one by one, without kerning; each byte of a letter beyond ASCII counts as an m, so that
 // the sum is rather too great than too small.
-Millimeter Druckschriften::Zeichensumme(std::string_view text, const Schrift& schrift) const {
+Millimeter Druckschriften::Zeichensumme(std::string_view text, const Druckschrift& schrift) const {
     Eintrag& eintrag = Finden(schrift);
     Millimeter summe;
     for (const char byte : text) {
@@ -69,13 +69,13 @@ Millimeter Druckschriften::Zeichensumme(std::string_view text, const Schrift& sc
     return summe;
 }
 
-Millimeter Druckschriften::BreiteGegen(std::string_view text, const Schrift& schrift,
+Millimeter Druckschriften::BreiteGegen(std::string_view text, const Druckschrift& schrift,
                                        Millimeter grenze) const {
     const Millimeter ungefaehr = Zeichensumme(text, schrift);
     return ungefaehr * 1.05F < grenze ? ungefaehr : Breite(text, schrift);
 }
 
-Millimeter Druckschriften::Hoehe(const Schrift& schrift) const {
+Millimeter Druckschriften::Hoehe(const Druckschrift& schrift) const {
     const QFontMetricsF& mass = Finden(schrift).mass;
     return aufloesung_.MillimeterAus(mass.ascent() + mass.descent());
 }

@@ -13,30 +13,30 @@
 class QPaintDevice;
 
 // The toolkit's font for a font of the page.
-[[nodiscard]] QFont DruckFont(const Schrift& schrift);
+[[nodiscard]] QFont DruckFont(const Druckschrift& schrift);
 
 // Measures as the device will set them; the device must outlive the object.
 class Druckschriften final : public Schriftmass {
 public:
     explicit Druckschriften(QPaintDevice& geraet);
 
-    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override;
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Druckschrift& schrift) const override;
     // Most buffers of a line that is being filled are far from its limit: for them the letters are added up.
-    [[nodiscard]] Millimeter BreiteGegen(std::string_view text, const Schrift& schrift,
+    [[nodiscard]] Millimeter BreiteGegen(std::string_view text, const Druckschrift& schrift,
                                          Millimeter grenze) const override;
-    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override;
+    [[nodiscard]] Millimeter Hoehe(const Druckschrift& schrift) const override;
 
     struct Eintrag {
-        Schrift schrift;
+        Druckschrift schrift;
         QFont font;
         QFontMetricsF mass;                    // in the device's pixels
         std::array<Millimeter, 128> zeichen{}; // widths of single letters, 0 for one not yet measured
     };
     // Font and measures, made at the first use. Valid until the next call.
-    [[nodiscard]] Eintrag& Finden(const Schrift& schrift) const;
+    [[nodiscard]] Eintrag& Finden(const Druckschrift& schrift) const;
 
 private:
-    [[nodiscard]] Millimeter Zeichensumme(std::string_view text, const Schrift& schrift) const;
+    [[nodiscard]] Millimeter Zeichensumme(std::string_view text, const Druckschrift& schrift) const;
 
     QPaintDevice& geraet_;
     Aufloesung aufloesung_;

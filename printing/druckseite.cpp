@@ -9,55 +9,73 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-Druckseite::Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad,
-                       const std::string& titel)
+Druckseite::Druckseite(const Druckziel& ziel)
     : drucker_(Drucker()),
       AltOrientierung_(drucker_.pageLayout().orientation()),
-      pdfPfad_(PdfZiel(pdfPfad)),
+      AltBeidseitig_(drucker_.duplex()),
+      ziel_(ziel),
       schriften_(drucker_) {
     drucker_.setFullPage(true);
-    drucker_.setPageOrientation(ausrichtung);
-    drucker_.setDocName(QString::fromStdString(titel));
+    drucker_.setPageOrientation(ziel.ausrichtung);
+    if (ziel.wenden != Wenden::Nicht) {
+        drucker_.setDuplex(ziel.wenden == Wenden::LangeKante ? QPrinter::DuplexLongSide
+                                                             : QPrinter::DuplexShortSide);
+    }
     masse_ = SeiteMessen(drucker_);
 }
 
+Druckseite::Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad,
+                       const std::string& titel)
+    : Druckseite(Druckziel{ausrichtung, PdfZiel(pdfPfad), titel, Wenden::Nicht, false}) {}
+
 Druckseite::~Druckseite() {
     drucker_.setPageOrientation(AltOrientierung_);
+    if (ziel_.wenden != Wenden::Nicht) {
+        drucker_.setDuplex(AltBeidseitig_);
+    }
 }
 
-std::string Druckseite::Drucken(const Zeichnung& zeichnung, const std::function<void()>& fortschritt) {
-    SchriftenLaden(zeichnung, schriften_, fortschritt);
-    if (drucker_.outputFormat() == QPrinter::PdfFormat) {
-        return AlsPdf(zeichnung);
+std::string Druckseite::Drucken(std::span<const Zeichnung> seiten, const std::function<void()>& fortschritt) {
+    SchriftenLaden(seiten, schriften_, fortschritt);
+    if (ziel_.alsPdf || drucker_.outputFormat() == QPrinter::PdfFormat) {
+        return AlsPdf(seiten);
     }
     if (QPrinterInfo::printerInfo(drucker_.printerName()).isNull()) {
         throw Laufzeitfehler(Fehler::GeraetFehlt);
     }
-    Malen(zeichnung);
+    Malen(drucker_, seiten);
     if (!AuftragAngenommen()) {
         throw Laufzeitfehler(Fehler::GeraetEA);
     }
     return {};
 }
 
-void Druckseite::Malen(const Zeichnung& zeichnung) {
+void Druckseite::Malen(QPrinter& geraet, std::span<const Zeichnung> seiten) const {
+    geraet.setDocName(QString::fromStdString(ziel_.titel));
     QPainter maler;
-    if (!maler.begin(&drucker_)) {
+    if (!maler.begin(&geraet)) {
         throw Laufzeitfehler(Fehler::GeraetFehlt);
     }
-    // The elements count from the printable origin in whole mm, the sheet from its corner: with the same
-    // whole mm added, a margin of 10 mm is one of 10 mm on paper.
-    ZeichnungMalen(maler, zeichnung, schriften_, masse_.links, masse_.oben);
-    if (!maler.end() || drucker_.printerState() == QPrinter::Error) {
+    bool ganz = true;
+    for (const Zeichnung& seite : seiten) {
+        ganz = ganz && (&seite == &seiten.front() || geraet.newPage());
+        // The elements count from the printable origin in whole mm, the sheet from its corner: with the same
+        // whole mm added, a margin of 10 mm is one of 10 mm on paper.
+        ZeichnungMalen(maler, seite, schriften_, masse_.links, masse_.oben);
+    }
+    if (!maler.end() || !ganz || geraet.printerState() == QPrinter::Error) {
         throw Laufzeitfehler(Fehler::GeraetEA);
     }
 }
 
-std::string Druckseite::AlsPdf(const Zeichnung& zeichnung) {
-    PdfDatei datei(pdfPfad_);
-    drucker_.setOutputFileName(datei.schreibname());
-    drucker_.setOutputFormat(QPrinter::PdfFormat); // whatever the name ends in
-    Malen(zeichnung);
+std::string Druckseite::AlsPdf(std::span<const Zeichnung> seiten) {
+    PdfDatei datei(ziel_.pdfPfad);
+    const std::unique_ptr<QPrinter> eigener =
+        drucker_.outputFormat() == QPrinter::PdfFormat ? nullptr : DruckerFuerPdf();
+    QPrinter& geraet = eigener ? *eigener : drucker_;
+    geraet.setOutputFileName(datei.schreibname());
+    geraet.setOutputFormat(QPrinter::PdfFormat); // whatever the name ends in
+    Malen(geraet, seiten);
     datei.Einsetzen();
-    return pdfPfad_;
+    return ziel_.pdfPfad;
 }

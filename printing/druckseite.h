@@ -4,17 +4,30 @@
 
 #include "printing/drucker.h"
 #include "printing/druckschrift.h"
+#include "printing/wenden.h"
 #include "printing/zeichnung.h"
 
 #include <QPageLayout>
+#include <QPrinter>
 
 #include <functional>
+#include <memory>
+#include <span>
 #include <string>
+
+struct Druckziel {
+    QPageLayout::Orientation ausrichtung = QPageLayout::Portrait;
+    std::string pdfPfad; // where the sheet goes as a PDF, in the program's notation
+    std::string titel;   // name of the print job, UTF-8
+    Wenden wenden = Wenden::Nicht;
+    bool alsPdf = false; // as a PDF also where there is a printer, whose page and measures serve all the same
+};
 
 class Druckseite {
 public:
-    // Turns the printer for the time of the object. pdfPfad: where the sheet goes as a PDF if there is no
-    // printer, in the program's notation. titel: name of the print job, UTF-8.
+    // Turns the printer for the time of the object.
+    explicit Druckseite(const Druckziel& ziel);
+    // The form's own sheet: it goes into the PDF file that the user named for it, else into that one.
     Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad, const std::string& titel);
     ~Druckseite();
     Druckseite(const Druckseite&) = delete;
@@ -24,20 +37,24 @@ public:
     [[nodiscard]] bool hochkant() const { return masse_.breite <= hochkantBreite; }
     [[nodiscard]] const Schriftmass& schriftmass() const { return schriften_; }
 
-    // Paints the page, relative to the printable origin, and sends it; fortschritt is called thirty times.
+    // Paints the pages, relative to the printable origin, and sends them; fortschritt is called thirty times.
     // Returns the path of the PDF file in the program's notation, or "" when the sheet went to a printer.
     // Throws Laufzeitfehler; no page is sent and no file is touched then.
-    std::string Drucken(const Zeichnung& zeichnung, const std::function<void()>& fortschritt);
+    std::string Drucken(std::span<const Zeichnung> seiten, const std::function<void()>& fortschritt);
+    std::string Drucken(const Zeichnung& seite, const std::function<void()>& fortschritt) {
+        return Drucken(std::span(&seite, 1), fortschritt);
+    }
 
 private:
     static constexpr Millimeter hochkantBreite = 210_mm; // of a page that counts as upright, at most
 
-    void Malen(const Zeichnung& zeichnung);
-    std::string AlsPdf(const Zeichnung& zeichnung);
+    void Malen(QPrinter& geraet, std::span<const Zeichnung> seiten) const;
+    std::string AlsPdf(std::span<const Zeichnung> seiten);
 
     QPrinter& drucker_;
     QPageLayout::Orientation AltOrientierung_;
-    std::string pdfPfad_;
+    QPrinter::DuplexMode AltBeidseitig_;
+    Druckziel ziel_;
     Druckschriften schriften_;
     Seitenmasse masse_;
 };

@@ -1,23 +1,11 @@
 #include "printing/feldlayout.h"
 
+#include "printing/feldwert.h"
 #include "printing/zeilenumbruch.h"
-#include "rules/spezialarten.h"
-#include "rules/spezialfelder.h"
 
 #include <cstddef>
 
 namespace {
-
-// The kind of a cell; nullptr for a plain one and for one that is not in play.
-const Artzeile* Feldart(const FKDruckfeld& feld) {
-    const auto art = feld.frageSichtbar ? ArtVon(feld.spezial) : std::nullopt;
-    return art ? &ArtzeileVon(*art) : nullptr;
-}
-
-// A kind with a word shows only that, without dividers and texts.
-bool HatWort(const Artzeile* art) {
-    return art != nullptr && !art->druckWort.empty();
-}
 
 // A cell with its place on the page and everything the passes need.
 struct Feldplatz {
@@ -69,7 +57,7 @@ void TeilerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
 // Lines run on below the cell when there are many: nothing is cut off, and that is meant.
 void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::string& text, Millimeter y,
                       bool fett) {
-    const Schrift schrift{Schriftart::Arial, 8_pt * s.g.Massstab, fett};
+    const Druckschrift schrift{Schriftart::Arial, 8_pt * s.g.Massstab, fett};
     const auto zeilen = Umbrechen(text, s.g.TextBreite, [&](std::string_view teil) {
         return s.mass.BreiteGegen(teil, schrift, s.g.TextBreite);
     });
@@ -79,7 +67,7 @@ void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::strin
 void FrageZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     RahmenZeichnen(zeichnung, s);
     if (HatWort(s.art)) {
-        const Schrift schrift{Schriftart::Arial, 18_pt * s.g.Massstab, true};
+        const Druckschrift schrift{Schriftart::Arial, 18_pt * s.g.Massstab, true};
         TextZentriert(zeichnung, s.mass, s.x + s.g.SpaltenBreite / 2.0F,
                       s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->druckWort);
         return;
@@ -96,24 +84,14 @@ void AntwortZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     }
 }
 
-// Points of the cell's kind, or what stands for them.
-std::string Nummer(const Feldplatz& s) {
-    if (s.art == nullptr) {
-        return std::to_string(s.zeile);
-    }
-    if (s.daten.punkte[s.art->druckBedingung] > 0) {
-        return std::to_string(s.daten.punkte[s.art->art]);
-    }
-    return s.art->druckErsatz == Druckersatz::Fragezeichen ? "?" : std::to_string(s.zeile);
-}
-
 void NummerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     if (!s.feld.frageSichtbar) {
         return; // not in play
     }
-    const Schrift schrift{Schriftart::Arial, 12_pt * s.g.Massstab, true};
+    const Druckschrift schrift{Schriftart::Arial, 12_pt * s.g.Massstab, true};
     const Millimeter x = s.x + s.g.NummerBreite / 2.0F;
-    TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe / 2.0F, schrift, Nummer(s));
+    TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe / 2.0F, schrift,
+                  Feldwert(s.art, s.daten.punkte, s.zeile));
     if (s.art != nullptr && !HatWort(s.art)) {
         TextZentriert(zeichnung, s.mass, x, s.y + s.g.FrageHoehe + s.g.AntwortHoehe / 2.0F, schrift,
                       s.feld.spezial);

@@ -13,7 +13,13 @@ std::string PdfPfadZu(std::string_view formular, std::string_view ohneNamen) {
     return std::string(formular) + ".pdf";
 }
 
-std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad) {
+std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad,
+                    std::string_view blatt) {
     const std::string_view ohneNamen = art == Formart::Test ? "\\TEST\\Test.pdf" : "\\KRANZ\\Feldkranz.pdf";
-    return PdfPfadZu(formular, std::string(appPfad) + std::string(ohneNamen));
+    std::string pfad = PdfPfadZu(formular, std::string(appPfad) + std::string(ohneNamen));
+    if (!blatt.empty()) {
+        constexpr std::size_t endung = 4;
+        pfad.insert(pfad.size() - endung, std::string(" ").append(blatt));
+    }
+    return pfad;
 }

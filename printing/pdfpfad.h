@@ -11,5 +11,7 @@
 // .pdf is never named.
 [[nodiscard]] std::string PdfPfadZu(std::string_view formular, std::string_view ohneNamen);
 
-// For a form of that kind; one without a path lies in the folder of its kind under appPfad.
-[[nodiscard]] std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad);
+// For a form of that kind; one without a path lies in the folder of its kind under appPfad. blatt: name of a
+// sheet beside the form's own, which stands behind the form's name.
+[[nodiscard]] std::string PdfPfad(Formart art, std::string_view formular, std::string_view appPfad,
+                                  std::string_view blatt = {});

@@ -22,8 +22,8 @@ void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckge
     }
     zeichnung.emplace_back(rahmen);
 
-    const Schrift gross{Schriftart::Arial, 20_pt * g.Massstab, true};
-    const Schrift klein{Schriftart::Arial, 11_pt * g.Massstab, true};
+    const Druckschrift gross{Schriftart::Arial, 20_pt * g.Massstab, true};
+    const Druckschrift klein{Schriftart::Arial, 11_pt * g.Massstab, true};
     const Millimeter hoehe = g.RandOben + 4.5_mm * g.Massstab;
     const auto setzen = [&](float spalte, std::string_view vorsatz, const std::string& wert) {
         zeichnung.emplace_back(
@@ -38,7 +38,7 @@ void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckge
 
 void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
                      const Schriftmass& mass) {
-    const Schrift schrift{Schriftart::Arial, 14_pt * g.Massstab, true};
+    const Druckschrift schrift{Schriftart::Arial, 14_pt * g.Massstab, true};
     const Millimeter y = g.RandOben + g.KopfHoehe + g.KopfLuecke;
     for (std::size_t a = 1; a < daten.gebiete.size(); ++a) {
         const Millimeter x = g.RandLinks + static_cast<float>(a - 1) * g.SpaltenRaster;

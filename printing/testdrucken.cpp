@@ -20,22 +20,6 @@ std::string OhneRand(const std::string& text) {
     return QString::fromStdString(text).trimmed().toStdString();
 }
 
-Testdruckdaten DatenAus(const Testblatt& blatt, int gesamtpunkte, const std::string& datei) {
-    Testdruckdaten daten;
-    daten.titel = blatt.titel;
-    daten.fach = blatt.fach;
-    daten.gruppenwort = blatt.gruppenwort;
-    daten.gruppe = blatt.gruppe;
-    daten.name = blatt.name;
-    daten.dateiname = OhneRand(NurDateiname(datei));
-    daten.gesamtpunkte = gesamtpunkte;
-    for (std::size_t i = 1; i < daten.zeilen.size(); ++i) {
-        const Testblatt::Zeile& zeile = blatt.zeilen[i];
-        daten.zeilen[i] = {zeile.frage, zeile.antwort, zeile.punkte};
-    }
-    return daten;
-}
-
 // False when something is missing or the user wants to add it first.
 bool Vollstaendig(const Testdruckdaten& daten) {
     if (OhneRand(daten.fach) == testdrucktexte::keinFach) {
@@ -65,8 +49,24 @@ bool AntwortenGewuenscht(const Testdruckdaten& daten) {
 
 } // namespace
 
+Testdruckdaten TestdruckdatenAus(const Testblatt& blatt, int gesamtpunkte, const std::string& datei) {
+    Testdruckdaten daten;
+    daten.titel = blatt.titel;
+    daten.fach = blatt.fach;
+    daten.gruppenwort = blatt.gruppenwort;
+    daten.gruppe = blatt.gruppe;
+    daten.name = blatt.name;
+    daten.dateiname = OhneRand(NurDateiname(datei));
+    daten.gesamtpunkte = gesamtpunkte;
+    for (std::size_t i = 1; i < daten.zeilen.size(); ++i) {
+        const Testblatt::Zeile& zeile = blatt.zeilen[i];
+        daten.zeilen[i] = {zeile.frage, zeile.antwort, zeile.punkte};
+    }
+    return daten;
+}
+
 void TestFormularDrucken(const Testblatt& blatt, int gesamtpunkte, const std::string& datei) {
-    Testdruckdaten daten = DatenAus(blatt, gesamtpunkte, datei);
+    Testdruckdaten daten = TestdruckdatenAus(blatt, gesamtpunkte, datei);
     if (!Vollstaendig(daten)) {
         return;
     }

@@ -8,10 +8,10 @@
 namespace {
 
 constexpr Stift stift{5_dp, farbeSchwarz};
-constexpr Schrift gross{Schriftart::ArialBlack, 20_pt, true};
-constexpr Schrift mittel{Schriftart::Arial, 12_pt, false};
-constexpr Schrift mittelFett{Schriftart::Arial, 12_pt, true};
-constexpr Schrift klein{Schriftart::Arial, 10_pt, false};
+constexpr Druckschrift gross{Schriftart::ArialBlack, 20_pt, true};
+constexpr Druckschrift mittel{Schriftart::Arial, 12_pt, false};
+constexpr Druckschrift mittelFett{Schriftart::Arial, 12_pt, true};
+constexpr Druckschrift klein{Schriftart::Arial, 10_pt, false};
 
 void Waagerecht(Zeichnung& zeichnung, const Testgeometrie& g, Millimeter y) {
     zeichnung.emplace_back(Strich{g.TestRandLinks, y, g.TestRandLinks + g.TestBreite, y, stift});
@@ -21,7 +21,7 @@ void Senkrecht(Zeichnung& zeichnung, Millimeter x, Millimeter oben, Millimeter u
     zeichnung.emplace_back(Strich{x, oben, x, unten, stift});
 }
 
-void Text(Zeichnung& zeichnung, Millimeter x, Millimeter y, const Schrift& schrift, std::string text) {
+void Text(Zeichnung& zeichnung, Millimeter x, Millimeter y, const Druckschrift& schrift, std::string text) {
     if (!text.empty()) {
         zeichnung.emplace_back(Textstelle{x, y, schrift, std::move(text)});
     }

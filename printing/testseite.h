@@ -10,6 +10,8 @@
 struct Testdruckzeile {
     std::string frage, antwort;
     std::string punkte; // as the row shows them, "" for none
+
+    friend bool operator==(const Testdruckzeile&, const Testdruckzeile&) = default;
 };
 
 // What the page shows. Rows count from 1; index 0 isn't used. Captions stand as on the form.
@@ -19,6 +21,8 @@ struct Testdruckdaten {
     std::array<Testdruckzeile, 11> zeilen;
     int gesamtpunkte = 0;
     bool mitAntworten = false;
+
+    friend bool operator==(const Testdruckdaten&, const Testdruckdaten&) = default;
 };
 
 // Rows with a question: only they are printed.

@@ -1,7 +1,52 @@
 #include "printing/zeichnung.h"
 
+#include <algorithm>
+
+namespace {
+
+struct Verschiebung {
+    Millimeter x, y;
+
+    template <typename Teil>
+    void operator()(Teil& teil) const {
+        teil.x += x;
+        teil.y += y;
+    }
+    void operator()(Strich& strich) const {
+        strich.x1 += x;
+        strich.x2 += x;
+        strich.y1 += y;
+        strich.y2 += y;
+    }
+    void operator()(Zuschnitt& zuschnitt) const {
+        if (zuschnitt.flaeche) {
+            (*this)(*zuschnitt.flaeche);
+        }
+    }
+};
+
+struct Umrisse {
+    const Schriftmass& mass;
+
+    Flaeche operator()(const Rechteck& r) const { return {r.x, r.y, r.breite, r.hoehe}; }
+    Flaeche operator()(const Strich& s) const {
+        const Millimeter x = std::min(s.x1, s.x2);
+        const Millimeter y = std::min(s.y1, s.y2);
+        return {x, y, std::max(s.x1, s.x2) - x, std::max(s.y1, s.y2) - y};
+    }
+    Flaeche operator()(const Kreis& k) const {
+        return {k.x - k.radius, k.y - k.radius, 2.0F * k.radius, 2.0F * k.radius};
+    }
+    Flaeche operator()(const Textstelle& t) const {
+        return {t.x, t.y, mass.Breite(t.text, t.schrift), mass.Hoehe(t.schrift)};
+    }
+    Flaeche operator()(const Zuschnitt& /*zuschnitt*/) const { return {}; }
+};
+
+} // namespace
+
 void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
-                   const Schrift& schrift, std::string_view text) {
+                   const Druckschrift& schrift, std::string_view text) {
     if (text.empty()) {
         return;
     }
@@ -10,7 +55,7 @@ void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, 
 }
 
 void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
-                const Schrift& schrift, const std::vector<std::string_view>& zeilen) {
+                const Druckschrift& schrift, const std::vector<std::string_view>& zeilen) {
     const Millimeter hoehe = mass.Hoehe(schrift);
     for (const std::string_view zeile : zeilen) {
         if (!zeile.empty()) {
@@ -18,4 +63,13 @@ void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Mil
         }
         y += hoehe;
     }
+}
+
+Element Verschoben(Element element, Millimeter x, Millimeter y) {
+    std::visit(Verschiebung{x, y}, element);
+    return element;
+}
+
+Flaeche Umriss(const Element& element, const Schriftmass& mass) {
+    return std::visit(Umrisse{mass}, element);
 }

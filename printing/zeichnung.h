@@ -15,11 +15,17 @@
 // The two families that the pages use; where one is missing, a face of the same metrics serves.
 enum class Schriftart : unsigned char { Arial, ArialBlack };
 
-struct Schrift {
+struct Druckschrift {
     Schriftart art = Schriftart::Arial;
     Schriftpunkte groesse = 10_pt;
     bool fett = false;
-    friend bool operator==(const Schrift&, const Schrift&) = default;
+    friend bool operator==(const Druckschrift&, const Druckschrift&) = default;
+};
+
+// A part of a page.
+struct Flaeche {
+    Millimeter x, y, breite, hoehe;
+    friend bool operator==(const Flaeche&, const Flaeche&) = default;
 };
 
 // Width of a line and its colour.
@@ -49,11 +55,16 @@ struct Kreis {
 // Schriftmass::Hoehe.
 struct Textstelle {
     Millimeter x, y;
-    Schrift schrift;
+    Druckschrift schrift;
     std::string text; // UTF-8
 };
 
-using Element = std::variant<Rechteck, Strich, Kreis, Textstelle>;
+// From here on only what lies within is drawn; no value: the whole page again.
+struct Zuschnitt {
+    std::optional<Flaeche> flaeche;
+};
+
+using Element = std::variant<Rechteck, Strich, Kreis, Textstelle, Zuschnitt>;
 using Zeichnung = std::vector<Element>;
 
 // Measures of text as the printer will set it.
@@ -64,20 +75,25 @@ public:
     Schriftmass& operator=(const Schriftmass&) = delete;
     virtual ~Schriftmass() = default;
 
-    [[nodiscard]] virtual Millimeter Breite(std::string_view text, const Schrift& schrift) const = 0;
+    [[nodiscard]] virtual Millimeter Breite(std::string_view text, const Druckschrift& schrift) const = 0;
     // The same for a text that is only held against a limit: exact near it, else on the right side of it.
-    [[nodiscard]] virtual Millimeter BreiteGegen(std::string_view text, const Schrift& schrift,
+    [[nodiscard]] virtual Millimeter BreiteGegen(std::string_view text, const Druckschrift& schrift,
                                                  Millimeter grenze) const {
         static_cast<void>(grenze);
         return Breite(text, schrift);
     }
     // Height of a line: ascent and descent, the pitch of lines that follow one another.
-    [[nodiscard]] virtual Millimeter Hoehe(const Schrift& schrift) const = 0;
+    [[nodiscard]] virtual Millimeter Hoehe(const Druckschrift& schrift) const = 0;
 };
 
 // Adds a text centred about the point (x, y).
 void TextZentriert(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
-                   const Schrift& schrift, std::string_view text);
+                   const Druckschrift& schrift, std::string_view text);
 // Adds lines one below the other, the first one at y; empty lines take their place.
 void TextZeilen(Zeichnung& zeichnung, const Schriftmass& mass, Millimeter x, Millimeter y,
-                const Schrift& schrift, const std::vector<std::string_view>& zeilen);
+                const Druckschrift& schrift, const std::vector<std::string_view>& zeilen);
+
+// The element as much further to the right and down.
+[[nodiscard]] Element Verschoben(Element element, Millimeter x, Millimeter y);
+// What the element covers on the page: for a text its line box, for a line its ends, for a Zuschnitt nothing.
+[[nodiscard]] Flaeche Umriss(const Element& element, const Schriftmass& mass);

@@ -42,6 +42,14 @@ public:
         maler_.drawText(Punkt(t.x, t.y) + QPointF(0.0, eintrag.mass.ascent()),
                         QString::fromStdString(t.text));
     }
+    void operator()(const Zuschnitt& z) {
+        if (z.flaeche) {
+            const Flaeche& f = *z.flaeche;
+            maler_.setClipRect(QRectF(Punkt(f.x, f.y), Punkt(f.x + f.breite, f.y + f.hoehe)));
+        } else {
+            maler_.setClipping(false);
+        }
+    }
 
 private:
     static QColor Qfarbe(Farbe farbe) { return {farbe.rot, farbe.gruen, farbe.blau}; }
@@ -63,17 +71,23 @@ private:
 
 } // namespace
 
-void SchriftenLaden(const Zeichnung& zeichnung, const Druckschriften& schriften,
+void SchriftenLaden(std::span<const Zeichnung> seiten, const Druckschriften& schriften,
                     const std::function<void()>& fortschritt) {
+    std::size_t alle = 0;
+    for (const Zeichnung& seite : seiten) {
+        alle += seite.size();
+    }
     std::size_t gelesen = 0;
     std::size_t gemeldet = 0;
-    for (const Element& element : zeichnung) {
-        if (const Textstelle* text = std::get_if<Textstelle>(&element)) {
-            static_cast<void>(schriften.Finden(text->schrift));
-        }
-        ++gelesen;
-        for (; fortschritt && gemeldet < gelesen * schritte / zeichnung.size(); ++gemeldet) {
-            fortschritt();
+    for (const Zeichnung& seite : seiten) {
+        for (const Element& element : seite) {
+            if (const Textstelle* text = std::get_if<Textstelle>(&element)) {
+                static_cast<void>(schriften.Finden(text->schrift));
+            }
+            ++gelesen;
+            for (; fortschritt && gemeldet < gelesen * schritte / alle; ++gemeldet) {
+                fortschritt();
+            }
         }
     }
 }
@@ -84,4 +98,5 @@ void ZeichnungMalen(QPainter& maler, const Zeichnung& zeichnung, const Druckschr
     for (const Element& element : zeichnung) {
         std::visit(gang, element);
     }
+    maler.setClipping(false);
 }

@@ -8,7 +8,8 @@ WURZEL = pathlib.Path(__file__).resolve().parent.parent
 # The declared order of the folders: each may include what stands before it, and nothing behind it.
 SUBSYSTEME = [
     "core", "tooltips", "dialogs", "rules", "catalogue", "quizform", "testform", "persistence",
-    "printing", "filetools", "settings", "editor", "periphery", "forms", "search", "filling", "checking", "mainwindow",
+    "printing", "filetools", "settings", "editor", "periphery", "forms", "search", "filling", "checking", "sheets",
+    "mainwindow",
 ]
 SCHICHTEN = ["modell", "rand", "fenster"]  # from the bottom up
 

@@ -58,6 +58,13 @@ QString Elementzeile(const Textstelle& text) {
              abbild::Gefasst(QString::fromStdString(text.text)));
 }
 
+QString Elementzeile(const Zuschnitt& zuschnitt) {
+    return zuschnitt.flaeche ? QStringLiteral("within %1 %2x%3")
+                                   .arg(Ort(zuschnitt.flaeche->x, zuschnitt.flaeche->y),
+                                        Mass(zuschnitt.flaeche->breite), Mass(zuschnitt.flaeche->hoehe))
+                             : QStringLiteral("within the page");
+}
+
 QString Oder(const std::string& farbe) {
     return farbe.empty() ? QStringLiteral("none") : QString::fromStdString(farbe);
 }

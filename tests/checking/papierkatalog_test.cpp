@@ -34,9 +34,9 @@ TEST(Papierkatalog, TheCheckMeasuresAsThePrintDoes) {
     const Druckseite seite(QPageLayout::Landscape, EigenerPfad(ordner.filePath(QStringLiteral("Blatt.pdf"))),
                            "Blatt");
     const Pruefschriften schriften;
-    for (const Schrift& schrift :
-         {Schrift{Schriftart::Arial, 8_pt, false}, Schrift{Schriftart::Arial, 5.6_pt, true},
-          Schrift{Schriftart::Arial, 14_pt, true}, Schrift{Schriftart::ArialBlack, 20_pt, true}}) {
+    for (const Druckschrift& schrift :
+         {Druckschrift{Schriftart::Arial, 8_pt, false}, Druckschrift{Schriftart::Arial, 5.6_pt, true},
+          Druckschrift{Schriftart::Arial, 14_pt, true}, Druckschrift{Schriftart::ArialBlack, 20_pt, true}}) {
         EXPECT_NEAR(schriften.mass().Hoehe(schrift).zahl(), seite.schriftmass().Hoehe(schrift).zahl(), 0.01F);
         for (const char* text : {"i", "Wie heißt die Hauptstadt von Spanien?", "WWW Öl-Fässer 1234567890"}) {
             EXPECT_NEAR(schriften.mass().Breite(text, schrift).zahl(),

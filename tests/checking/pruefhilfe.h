@@ -11,10 +11,10 @@
 // A letter is as wide as the font's size in tenths of a millimetre, a line half of it high.
 class Pruefmass final : public Schriftmass {
 public:
-    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Druckschrift& schrift) const override {
         return Millimeter(static_cast<float>(text.size()) * schrift.groesse.zahl() * 0.1F);
     }
-    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Hoehe(const Druckschrift& schrift) const override {
         return Millimeter(schrift.groesse.zahl() * 0.5F);
     }
 };

@@ -18,10 +18,10 @@ namespace {
 // Every letter as wide as the next.
 class Gleichbreit : public Schriftmass {
 public:
-    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Druckschrift& schrift) const override {
         return Millimeter(0.2F * schrift.groesse.zahl() * static_cast<float>(text.size()));
     }
-    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Hoehe(const Druckschrift& schrift) const override {
         return Millimeter(0.35F * schrift.groesse.zahl());
     }
 };
@@ -108,8 +108,10 @@ void LinienPruefen(const Zeichnung& zeichnung) {
             [](const auto& e) {
                 if constexpr (requires { e.x1; }) {
                     return std::isfinite(e.x1.zahl() + e.y1.zahl() + e.x2.zahl() + e.y2.zahl());
-                } else {
+                } else if constexpr (requires { e.x; }) {
                     return std::isfinite(e.x.zahl() + e.y.zahl());
+                } else {
+                    return !e.flaeche || std::isfinite(e.flaeche->x.zahl() + e.flaeche->y.zahl());
                 }
             },
             element);

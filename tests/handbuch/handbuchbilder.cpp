@@ -159,6 +159,8 @@ private Q_SLOTS:
     void spielregel();
     void suche();
     void pruefung();
+    void vorschau_data();
+    void vorschau();
 };
 
 void Handbuchbilder::feldkranz() {
@@ -281,6 +283,31 @@ void Handbuchbilder::pruefung() {
     FK_GelesenesZeigen(" Feldkranz-Formular");
     Finden<QAction>(MDIFenster(), QStringLiteral("mExtra(6)"))->trigger();
     Kindbild(FensterAbwarten(QStringLiteral("frmPruefung")), QStringLiteral("frmPruefung"));
+}
+
+void Handbuchbilder::vorschau_data() {
+    QTest::addColumn<QString>("blatt");
+    QTest::addColumn<QString>("bild");
+    for (const char* blatt :
+         {"Bogen", "Antwortbogen", "Brett A4", "Brett A3", "Brett A2", "Brett A0", "8 Karten", "16 Karten"}) {
+        const QString name = QString::fromUtf8(blatt);
+        QTest::newRow(blatt) << name << QStringLiteral("frmVorschau_") + QString(name).remove(u' ');
+    }
+}
+
+void Handbuchbilder::vorschau() {
+    QFETCH(QString, blatt);
+    QFETCH(QString, bild);
+    Programm programm;
+    programm.NeuesQuizformular();
+    QuizFuellen();
+    FK_GelesenesZeigen(" Feldkranz-Formular");
+    Finden<QAction>(MDIFenster(), QStringLiteral("mExtra(8)"))->trigger();
+    QWidget* vorschau = FensterAbwarten(QStringLiteral("frmVorschau"));
+    auto* liste = Finden<QComboBox>(vorschau, QStringLiteral("cmbBlatt"));
+    liste->setCurrentText(blatt);
+    QCOMPARE(liste->currentText(), blatt);
+    Kindbild(vorschau, bild);
 }
 
 QTEST_MAIN(Handbuchbilder)

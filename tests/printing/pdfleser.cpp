@@ -144,12 +144,12 @@ void WorteLesen(const QByteArray& xhtml, PdfSeite& seite) {
 
 } // namespace
 
-PdfSeite PdfLesen(const QString& datei) {
+PdfSeite PdfLesen(const QString& datei, int nummer) {
     PdfSeite seite;
-    const QByteArray svg =
-        Ausgabe(QStringLiteral("pdftocairo"), {QStringLiteral("-svg"), datei, QStringLiteral("-")});
-    const QByteArray text =
-        Ausgabe(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), datei, QStringLiteral("-")});
+    const QString n = QString::number(nummer);
+    const QStringList wahl{QStringLiteral("-f"), n, QStringLiteral("-l"), n, datei, QStringLiteral("-")};
+    const QByteArray svg = Ausgabe(QStringLiteral("pdftocairo"), QStringList(QStringLiteral("-svg")) + wahl);
+    const QByteArray text = Ausgabe(QStringLiteral("pdftotext"), QStringList(QStringLiteral("-bbox")) + wahl);
     if (svg.isEmpty() || text.isEmpty()) {
         seite.fehler = "poppler can't read " + datei.toStdString();
         return seite;
@@ -157,6 +157,11 @@ PdfSeite PdfLesen(const QString& datei) {
     seite.pfade = PfadeLesen(svg);
     WorteLesen(text, seite);
     return seite;
+}
+
+QString PdfText(const QString& datei) {
+    return QString::fromUtf8(
+        Ausgabe(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), datei, QStringLiteral("-")}));
 }
 
 int PdfSeitenzahl(const QString& datei) {

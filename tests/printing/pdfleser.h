@@ -27,7 +27,10 @@ struct PdfSeite {
     std::string fehler; // why it couldn't be read, "" if it could
 };
 
-[[nodiscard]] PdfSeite PdfLesen(const QString& datei);
+// nummer: of the page, from 1.
+[[nodiscard]] PdfSeite PdfLesen(const QString& datei, int nummer = 1);
+// Its text as it stands in the file, page for page, with a form feed behind each.
+[[nodiscard]] QString PdfText(const QString& datei);
 // Number of pages, -1 for a file that can't be read.
 [[nodiscard]] int PdfSeitenzahl(const QString& datei);
 // Names of the fonts in the file.

@@ -7,10 +7,10 @@
 
 class Probemass final : public Schriftmass {
 public:
-    [[nodiscard]] Millimeter Breite(std::string_view text, const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Breite(std::string_view text, const Druckschrift& schrift) const override {
         return Millimeter(static_cast<float>(text.size()) * schrift.groesse.zahl() * 0.1F);
     }
-    [[nodiscard]] Millimeter Hoehe(const Schrift& schrift) const override {
+    [[nodiscard]] Millimeter Hoehe(const Druckschrift& schrift) const override {
         return Millimeter(schrift.groesse.zahl() * 0.5F);
     }
 };

@@ -64,7 +64,7 @@ std::string Nummer(const FKDruckdaten& daten, int n) {
     const auto texte = Texte(daten);
     std::string ergebnis;
     for (const Textstelle& t : texte) {
-        const bool zwoelf = t.schrift == Schrift{Schriftart::Arial, 12_pt, true};
+        const bool zwoelf = t.schrift == Druckschrift{Schriftart::Arial, 12_pt, true};
         if (zwoelf && t.x > FeldX(n) && t.x < FeldX(n) + geometrie.NummerBreite && t.y > FeldY(n) &&
             t.y < FeldY(n) + geometrie.FrageHoehe) {
             ergebnis += t.text;
@@ -110,7 +110,7 @@ TEST(Seitenlayout, TheHeadStrip) {
         EXPECT_EQ(texte[i].text, soll[i].text);
         EXPECT_NEAR(D(texte[i].x), D(soll[i].x), genau);
         EXPECT_NEAR(D(texte[i].y), D(soll[i].y), genau);
-        EXPECT_EQ(texte[i].schrift, (Schrift{Schriftart::Arial, soll[i].groesse, true}));
+        EXPECT_EQ(texte[i].schrift, (Druckschrift{Schriftart::Arial, soll[i].groesse, true}));
     }
 }
 
@@ -133,7 +133,7 @@ TEST(Seitenlayout, ATitleStandsCentredInItsHead) {
     const auto texte = Texte(daten);
     ASSERT_EQ(texte.size(), 31U);
     EXPECT_EQ(texte[0].text, "Musik");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 14_pt, true}));
+    EXPECT_EQ(texte[0].schrift, (Druckschrift{Schriftart::Arial, 14_pt, true}));
     EXPECT_NEAR(D(texte[0].x), D(FeldX(11) + geometrie.SpaltenBreite / 2.0F - 3.5_mm), genau);
     EXPECT_NEAR(D(texte[0].y), D(25_mm + 12_mm + 3_mm + 4.5_mm - 3.5_mm), genau);
 }
@@ -272,7 +272,7 @@ TEST(Seitenlayout, JokerAndEventShowTheirWordOnTheWholeFieldWithoutDividersAndTe
         const auto texte = Texte(daten);
         const Textstelle* wort = Finden(texte, zeile.wort);
         ASSERT_NE(wort, nullptr);
-        EXPECT_EQ(wort->schrift, (Schrift{Schriftart::Arial, 18_pt, true}));
+        EXPECT_EQ(wort->schrift, (Druckschrift{Schriftart::Arial, 18_pt, true}));
         const Millimeter breite = static_cast<float>(wort->text.size()) * 1.8_mm;
         EXPECT_NEAR(D(wort->x), D(FeldX(9) + geometrie.SpaltenBreite / 2.0F - breite / 2.0F), genau);
         EXPECT_NEAR(D(wort->y), D(FeldY(9) + geometrie.ZeileGanz / 2.0F - 4.5_mm), genau);
@@ -337,7 +337,7 @@ TEST(Seitenlayout, AQuestionBreaksAndItsLinesFollowOneAnother) {
     // 35.67 mm hold 44 characters of 0.8 mm.
     EXPECT_EQ(texte[0].text, "Welches Meer liegt zwischen Europa und");
     EXPECT_EQ(texte[1].text, "Afrika und wie tief ist es dort ?");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8_pt, false}));
+    EXPECT_EQ(texte[0].schrift, (Druckschrift{Schriftart::Arial, 8_pt, false}));
     EXPECT_NEAR(D(texte[0].x), D(FeldX(1) + 8.5_mm), genau);
     EXPECT_NEAR(D(texte[0].y), D(FeldY(1) + 1.5_mm), genau);
     EXPECT_NEAR(D(texte[1].x), D(FeldX(1) + 8.5_mm), genau);
@@ -349,7 +349,7 @@ TEST(Seitenlayout, AnAnswerIsBoldAndStandsBelowTheDividingLine) {
     daten.felder[6].antwort = "das Mittelmeer";
     const auto texte = Texte(daten);
     EXPECT_EQ(texte[0].text, "das Mittelmeer");
-    EXPECT_EQ(texte[0].schrift, (Schrift{Schriftart::Arial, 8_pt, true}));
+    EXPECT_EQ(texte[0].schrift, (Druckschrift{Schriftart::Arial, 8_pt, true}));
     EXPECT_NEAR(D(texte[0].x), D(FeldX(6) + 8.5_mm), genau);
     EXPECT_NEAR(D(texte[0].y), D(FeldY(6) + geometrie.FrageHoehe + 1.5_mm), genau);
 }

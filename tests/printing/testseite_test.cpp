@@ -89,7 +89,8 @@ TEST(Testseite, TheHeadStandsInItsFourBoxes) {
         ASSERT_EQ(stellen.size(), 1U) << soll.text;
         EXPECT_EQ(stellen[0].x, soll.x) << soll.text;
         EXPECT_EQ(stellen[0].y, soll.y) << soll.text;
-        EXPECT_EQ(stellen[0].schrift, (Schrift{soll.art, soll.groesse, soll.art == Schriftart::ArialBlack}))
+        EXPECT_EQ(stellen[0].schrift,
+                  (Druckschrift{soll.art, soll.groesse, soll.art == Schriftart::ArialBlack}))
             << soll.text;
     }
 }
