@@ -97,7 +97,11 @@ std::optional<Blattvorlage> VorlageJetzt() {
 
 Fertigblatt BlattFertigen(const Blattvorlage& vorlage, const Blattwunsch& wunsch) {
     const Druckseite seite(Ziel(vorlage, wunsch, {}));
-    return {Machen(vorlage, wunsch, seite), seite.masse()};
+    const Seitenmasse& m = seite.masse();
+    Fertigblatt fertig{Machen(vorlage, wunsch, seite), m};
+    RandPruefen(fertig.blatt, {0_mm, 0_mm, m.breite - m.links - m.rechts, m.hoehe - m.oben - m.unten},
+                seite.schriftmass());
+    return fertig;
 }
 
 void BlattDrucken(const Blattvorlage& vorlage, const Blattwunsch& wunsch) {

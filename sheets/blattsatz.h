@@ -29,6 +29,9 @@ inline constexpr Millimeter a4Kurz = 210_mm;
 // What stays free around boards and cards: more than any printer leaves, and the marks stand in it.
 inline constexpr Millimeter schnittrand = 10_mm;
 
+// Adds what lies outside of that part of its page, where no printer reaches.
+void RandPruefen(Blattsatz& blatt, const Flaeche& druckbar, const Schriftmass& mass);
+
 // "Gebiet 2, Frage 3 : Der Text ..."
 [[nodiscard]] inline std::string Befundsatz(const Befundort& ort, std::string_view text) {
     return Ortsname(ort).append(" : ").append(text);

@@ -3,6 +3,7 @@ feldkranz_quellen(modell
   sheets/blaetter.cpp
   sheets/blattart.cpp
   sheets/blatthinweis.cpp
+  sheets/blattsatz.cpp
   sheets/karten.cpp
   sheets/spielbrett.cpp
   sheets/textfluss.cpp

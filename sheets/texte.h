@@ -32,6 +32,8 @@ inline constexpr std::string_view gesamt = "Gesamtpunkte : {}";
 inline constexpr std::string_view titelZuLang = "Der Titel ist für das Brett zu lang.";
 inline constexpr std::string_view ohnePlatz = "Der Text findet auf der Karte keinen Platz.";
 
+inline constexpr std::string_view imRand = "Der Drucker reicht nicht bis zum Rand und schneidet ab : {}";
+
 // --- The window ---
 
 inline constexpr std::string_view fenstertitel = "Druckvorschau";

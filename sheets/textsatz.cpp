@@ -18,13 +18,21 @@ bool Passt(const Textsatz& satz, Millimeter breite, Millimeter hoehe, const Schr
     });
 }
 
+std::string_view OhneEnde(std::string_view text, std::string_view zeichen) {
+    return text.substr(0, text.find_last_not_of(zeichen) + 1);
+}
+
 } // namespace
 
 std::vector<std::string_view> Zeilen(std::string_view text, Millimeter breite, const Druckschrift& schrift,
                                      const Schriftmass& mass) {
-    return Umbrechen(
-        text, breite, [&](std::string_view teil) { return mass.BreiteGegen(teil, schrift, breite); },
-        Wortmass::JedesWort);
+    std::vector<std::string_view> zeilen = Umbrechen(
+        OhneEnde(text, " \r\n"), breite,
+        [&](std::string_view teil) { return mass.BreiteGegen(teil, schrift, breite); }, Wortmass::JedesWort);
+    for (std::string_view& zeile : zeilen) {
+        zeile = OhneEnde(zeile, " ");
+    }
+    return zeilen;
 }
 
 // What fits in one size fits in every smaller one, so that the size is found by halving.

@@ -16,7 +16,8 @@ struct Textsatz {
 [[nodiscard]] Textsatz Einpassen(std::string_view text, Millimeter breite, Millimeter hoehe,
                                  const Druckschrift& groesste, Schriftpunkte kleinste,
                                  const Schriftmass& mass);
-// The lines of a text in a font that is given, not wider than that where words allow it.
+// The lines of a text in a font that is given, not wider than that where words allow it. Blanks at the end of
+// a line and line ends at the end of the text, which can't be seen, take no room.
 [[nodiscard]] std::vector<std::string_view> Zeilen(std::string_view text, Millimeter breite,
                                                    const Druckschrift& schrift, const Schriftmass& mass);
 

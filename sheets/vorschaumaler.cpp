@@ -15,7 +15,7 @@ constexpr Farbe warnfarbe{220, 0, 0};
 void RandZeichnen(Zeichnung& auflage, const Seitenmasse& m) {
     if (m.links + m.oben + m.rechts + m.unten > 0_mm) {
         auflage.emplace_back(Rechteck{
-            0_mm, 0_mm, m.breite - m.links - m.rechts, m.hoehe - m.oben - m.unten, {4_dp, randfarbe}, {}});
+            0_mm, 0_mm, m.breite - m.links - m.rechts, m.hoehe - m.oben - m.unten, {6_dp, randfarbe}, {}});
     }
 }
 
