@@ -3,6 +3,7 @@
 #include "sheets/vorschau.h"
 #include "benchmarks/kennzahl.h"
 #include "core/formularfenster.h"
+#include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "dialogs/modal.h"
@@ -138,7 +139,7 @@ double Drucken(const Programmordner& ordner, const Blattvorlage& vorlage, Blatta
             Blattsatz weiteres = BlattMachen(vorlage, {art, false, false}, {}, seite.schriftmass());
             std::ranges::move(weiteres.seiten, std::back_inserter(blatt.seiten));
         }
-        if (blatt.seiten.size() != seiten || seite.Drucken(blatt.seiten, {}) != ziel) {
+        if (blatt.seiten.size() != seiten || seite.SeitenDrucken(blatt.seiten, {}) != ziel) {
             Aufgeben("No sheet");
         }
     });
@@ -170,6 +171,7 @@ void Fuellen() {
     Spiel.Papierformat = "A4 quer";
     FK_FormularZeigen();
     FormularWechselt();
+    FormStatusSetzen(false);
 }
 
 std::vector<double> Mal(int anzahl, const std::function<double()>& arbeit) {

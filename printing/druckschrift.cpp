@@ -1,5 +1,6 @@
 #include "printing/druckschrift.h"
 
+#include <QFontInfo>
 #include <QPaintDevice>
 #include <QString>
 #include <QStringList>
@@ -20,11 +21,18 @@ QStringList Familien(Schriftart art) {
                                     : QStringList{QStringLiteral("Arial Black")} + gleicheMasse;
 }
 
+// The one of them that is there: a font that names all of them is heavier in everything that keeps it.
+QString Familie(Schriftart art) {
+    QFont font;
+    font.setFamilies(Familien(art));
+    return QFontInfo(font).family();
+}
+
 } // namespace
 
 QFont DruckFont(const Druckschrift& schrift) {
     QFont font;
-    font.setFamilies(Familien(schrift.art));
+    font.setFamily(Familie(schrift.art));
     font.setStyleHint(QFont::SansSerif, QFont::PreferOutline);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setPointSizeF(static_cast<double>(schrift.groesse.zahl()));

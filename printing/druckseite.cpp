@@ -35,7 +35,8 @@ Druckseite::~Druckseite() {
     }
 }
 
-std::string Druckseite::Drucken(std::span<const Zeichnung> seiten, const std::function<void()>& fortschritt) {
+std::string Druckseite::SeitenDrucken(std::span<const Zeichnung> seiten,
+                                      const std::function<void()>& fortschritt) {
     SchriftenLaden(seiten, schriften_, fortschritt);
     if (ziel_.alsPdf || drucker_.outputFormat() == QPrinter::PdfFormat) {
         return AlsPdf(seiten);

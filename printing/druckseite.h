@@ -40,9 +40,9 @@ public:
     // Paints the pages, relative to the printable origin, and sends them; fortschritt is called thirty times.
     // Returns the path of the PDF file in the program's notation, or "" when the sheet went to a printer.
     // Throws Laufzeitfehler; no page is sent and no file is touched then.
-    std::string Drucken(std::span<const Zeichnung> seiten, const std::function<void()>& fortschritt);
+    std::string SeitenDrucken(std::span<const Zeichnung> seiten, const std::function<void()>& fortschritt);
     std::string Drucken(const Zeichnung& seite, const std::function<void()>& fortschritt) {
-        return Drucken(std::span(&seite, 1), fortschritt);
+        return SeitenDrucken(std::span(&seite, 1), fortschritt);
     }
 
 private:

@@ -38,7 +38,10 @@ public:
     void operator()(const Textstelle& t) {
         const Druckschriften::Eintrag& eintrag = schriften_.Finden(t.schrift);
         maler_.setPen(Qt::black);
-        maler_.setFont(eintrag.font);
+        if (schrift_ != t.schrift) { // a picture that is recorded keeps each font that is set
+            maler_.setFont(eintrag.font);
+            schrift_ = t.schrift;
+        }
         maler_.drawText(Punkt(t.x, t.y) + QPointF(0.0, eintrag.mass.ascent()),
                         QString::fromStdString(t.text));
     }
@@ -67,6 +70,7 @@ private:
     const Druckschriften& schriften_;
     Aufloesung waagerecht_, senkrecht_;
     Millimeter ursprungX_, ursprungY_;
+    Druckschrift schrift_{Schriftart::Arial, 0_pt, false}; // in force; none at first
 };
 
 } // namespace

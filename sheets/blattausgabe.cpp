@@ -58,7 +58,7 @@ std::string Ausgeben(const Blattvorlage& vorlage, const Blattwunsch& wunsch, Dru
     Druckseite seite(ziel);
     const Blattsatz blatt = Machen(vorlage, wunsch, seite);
     FortschrittSchritt(4);
-    return seite.Drucken(blatt.seiten, [] { FortschrittSchritt(1); });
+    return seite.SeitenDrucken(blatt.seiten, [] { FortschrittSchritt(1); });
 }
 
 // Path in the program's notation, "" when the user changed his mind.

@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "forms/verlauf.h"
 #include "persistence/extrasdatei.h"
+#include "printing/druckschrift.h"
 #include "sheets/blatthinweis.h"
 #include "sheets/texte.h"
 #include "sheets/vorschaumaler.h"
@@ -46,6 +47,7 @@ frmVorschau::frmVorschau() : drucker_(std::make_unique<QPrinter>(QPrinter::HighR
     drucker_->setOutputFormat(QPrinter::PdfFormat); // nothing is ever written
     drucker_->setPageSize(QPageSize(QPageSize::A4));
     drucker_->setFullPage(true);
+    schriften_ = std::make_unique<Druckschriften>(*drucker_);
     Aufbauen();
     Verbinden();
     chkOhneTitel_->setChecked(ExtraWert("Vorschau.OhneTitel") == "1");
@@ -187,5 +189,5 @@ QString frmVorschau::Hinweis() const {
 }
 
 void frmVorschau::Malen(QPrinter* drucker) const {
-    VorschauMalen(*drucker, fertig_);
+    VorschauMalen(*drucker, fertig_, *schriften_);
 }

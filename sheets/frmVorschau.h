@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class Druckschriften;
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
@@ -56,8 +57,9 @@ private:
     Formart angeboten_ = Formart::Keine; // the kind that the sheets in the list belong to
     Fertigblatt fertig_;
     std::unique_ptr<QPrinter> drucker_; // of the preview: nothing comes out of it
-    QPointer<QWidget> beobachtet_;      // the form's window whose end is waited for
-    QTimer* bald_ = nullptr;            // many changes in a row are one
+    std::unique_ptr<Druckschriften> schriften_;
+    QPointer<QWidget> beobachtet_; // the form's window whose end is waited for
+    QTimer* bald_ = nullptr;       // many changes in a row are one
 
     QLabel* lblBlatt_ = nullptr;
     QComboBox* cmbBlatt_ = nullptr;

@@ -36,12 +36,11 @@ void UmrandungenZeichnen(Zeichnung& auflage, const Blattsatz& blatt, std::size_t
 
 } // namespace
 
-void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig) {
+void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig, const Druckschriften& schriften) {
     QPainter maler;
     if (!maler.begin(&drucker)) {
         return; // nothing to see is all that comes of it
     }
-    const Druckschriften schriften(drucker);
     for (std::size_t i = 0; i < fertig.blatt.seiten.size(); ++i) {
         if (i > 0) {
             drucker.newPage();

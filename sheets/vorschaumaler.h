@@ -4,6 +4,8 @@
 
 #include "sheets/blattausgabe.h"
 
+class Druckschriften;
 class QPrinter;
 
-void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig);
+// schriften: those of the preview's printer.
+void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig, const Druckschriften& schriften);

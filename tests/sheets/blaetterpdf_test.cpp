@@ -33,7 +33,7 @@ protected:
                           EigenerPfad(datei), "Probe", Wenden::Nicht, false});
         blatt = BlattMachen(vorlage, {art, false, false}, {seite.masse().links, seite.masse().oben},
                             seite.schriftmass());
-        EXPECT_EQ(seite.Drucken(blatt.seiten, {}), EigenerPfad(datei));
+        EXPECT_EQ(seite.SeitenDrucken(blatt.seiten, {}), EigenerPfad(datei));
         return datei;
     }
 
