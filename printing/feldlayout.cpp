@@ -3,11 +3,14 @@
 #include "printing/feldwert.h"
 #include "printing/zeilenumbruch.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <utility>
 
 namespace {
 
-// A cell with its place on the page and everything the passes need.
+// A cell with its place on the page and everything that drawing it needs.
 struct Feldplatz {
     const FKDruckdaten& daten;
     const Druckgeometrie& g;
@@ -64,16 +67,13 @@ void FeldtextZeichnen(Zeichnung& zeichnung, const Feldplatz& s, const std::strin
     TextZeilen(zeichnung, s.mass, s.x + s.g.TextEinzug, y, schrift, zeilen);
 }
 
+// The question, or the kind's word over the whole cell.
 void FrageZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
-    RahmenZeichnen(zeichnung, s);
     if (HatWort(s.art)) {
         const Druckschrift schrift{Schriftart::Arial, 18_pt * s.g.Massstab, true};
         TextZentriert(zeichnung, s.mass, s.x + s.g.SpaltenBreite / 2.0F,
                       s.y + (s.g.FrageHoehe + s.g.AntwortHoehe) / 2.0F, schrift, s.art->druckWort);
-        return;
-    }
-    TeilerZeichnen(zeichnung, s);
-    if (s.feld.frageSichtbar) {
+    } else if (s.feld.frageSichtbar) {
         FeldtextZeichnen(zeichnung, s, s.feld.frage, s.y + s.g.TextOben, false);
     }
 }
@@ -98,20 +98,64 @@ void NummerZeichnen(Zeichnung& zeichnung, const Feldplatz& s) {
     }
 }
 
+void FeldZeichnen(Blattlagen& lagen, Zeichnung& texte, const Feldplatz& s) {
+    RahmenZeichnen(lagen.grund, s);
+    if (!HatWort(s.art)) {
+        TeilerZeichnen(lagen.grund, s);
+    }
+    NummerZeichnen(texte, s);
+    Zeichnung frage;
+    FrageZeichnen(frage, s);
+    const Rechteck feld{s.x, s.y, s.g.SpaltenBreite, s.g.FrageHoehe + s.g.AntwortHoehe, {}, {}};
+    Einordnen(lagen.grund, texte, std::move(frage), feld, s.mass);
+    AntwortZeichnen(texte, s); // wherever it ends, no frame covers an answer
+}
+
+bool Innerhalb(const Textstelle& text, const Rechteck& platz, const Schriftmass& mass) {
+    const Millimeter breite = platz.x + platz.breite - text.x;
+    return text.x >= platz.x && text.y >= platz.y &&
+           text.y + mass.Hoehe(text.schrift) <= platz.y + platz.hoehe &&
+           mass.BreiteGegen(text.text, text.schrift, breite) <= breite;
+}
+
+void Anhaengen(Zeichnung& zeichnung, Zeichnung teile) {
+    zeichnung.insert(zeichnung.end(), std::make_move_iterator(teile.begin()),
+                     std::make_move_iterator(teile.end()));
+}
+
 } // namespace
+
+void Einordnen(Zeichnung& grund, Zeichnung& texte, Zeichnung zeilen, const Rechteck& platz,
+               const Schriftmass& mass) {
+    const bool innerhalb = std::ranges::all_of(zeilen, [&](const Element& element) {
+        return Innerhalb(std::get<Textstelle>(element), platz, mass);
+    });
+    Anhaengen(innerhalb ? texte : grund, std::move(zeilen));
+}
+
+Zeichnung Uebereinander(Blattlagen lagen) {
+    for (Zeichnung& texte : lagen.texte) {
+        Anhaengen(lagen.grund, std::move(texte));
+    }
+    return std::move(lagen.grund);
+}
+
+void FelderZeichnen(Blattlagen& lagen, const FKDruckdaten& daten, const Druckgeometrie& g,
+                    const Schriftmass& mass) {
+    for (std::size_t n = 1; n < daten.felder.size(); ++n) {
+        const std::size_t spalte = (n - 1) / 5;
+        const std::size_t zeile = (n - 1) % 5;
+        const FKDruckfeld& feld = daten.felder[n];
+        FeldZeichnen(lagen, lagen.texte[spalte],
+                     Feldplatz{daten, g, mass, feld, Feldart(feld), static_cast<int>(zeile) + 1,
+                               g.RandLinks + static_cast<float>(spalte) * g.SpaltenRaster,
+                               g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
+    }
+}
 
 void FelderZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
                     const Schriftmass& mass) {
-    using Durchgang = void (*)(Zeichnung&, const Feldplatz&);
-    for (const Durchgang durchgang :
-         {Durchgang{FrageZeichnen}, Durchgang{AntwortZeichnen}, Durchgang{NummerZeichnen}}) {
-        for (std::size_t n = 1; n < daten.felder.size(); ++n) {
-            const std::size_t spalte = (n - 1) / 5;
-            const std::size_t zeile = (n - 1) % 5;
-            const FKDruckfeld& feld = daten.felder[n];
-            durchgang(zeichnung, Feldplatz{daten, g, mass, feld, Feldart(feld), static_cast<int>(zeile) + 1,
-                                           g.RandLinks + static_cast<float>(spalte) * g.SpaltenRaster,
-                                           g.ZeilenOben + static_cast<float>(zeile) * g.ZeilenRaster});
-        }
-    }
+    Blattlagen lagen{std::move(zeichnung), {}};
+    FelderZeichnen(lagen, daten, g, mass);
+    zeichnung = Uebereinander(std::move(lagen));
 }

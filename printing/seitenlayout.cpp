@@ -4,6 +4,7 @@
 #include "printing/texte.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace {
 
@@ -36,7 +37,7 @@ void KopfZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckge
     setzen(5.0F, drucktexte::nummer, daten.nummer);
 }
 
-void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druckgeometrie& g,
+void GebieteZeichnen(Blattlagen& lagen, const FKDruckdaten& daten, const Druckgeometrie& g,
                      const Schriftmass& mass) {
     const Druckschrift schrift{Schriftart::Arial, 14_pt * g.Massstab, true};
     const Millimeter y = g.RandOben + g.KopfHoehe + g.KopfLuecke;
@@ -46,11 +47,13 @@ void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druc
         if (daten.gebieteGrau) {
             kopf.fuellung = gebietGrund;
         }
-        zeichnung.emplace_back(kopf);
+        lagen.grund.emplace_back(kopf);
         const FKDruckgebiet& gebiet = daten.gebiete[a];
         if (!daten.blanko && gebiet.benutzbar && gebiet.titel != drucktexte::keinTitel) {
-            TextZentriert(zeichnung, mass, x + g.SpaltenBreite / 2.0F, y + g.GebietHoehe / 2.0F, schrift,
+            Zeichnung titel;
+            TextZentriert(titel, mass, x + g.SpaltenBreite / 2.0F, y + g.GebietHoehe / 2.0F, schrift,
                           gebiet.titel);
+            Einordnen(lagen.grund, lagen.texte[a - 1], std::move(titel), kopf, mass);
         }
     }
 }
@@ -58,10 +61,10 @@ void GebieteZeichnen(Zeichnung& zeichnung, const FKDruckdaten& daten, const Druc
 } // namespace
 
 Zeichnung FormularZeichnen(const FKDruckdaten& daten, const Druckgeometrie& g, const Schriftmass& mass) {
-    Zeichnung zeichnung;
-    zeichnung.reserve(300);
-    KopfZeichnen(zeichnung, daten, g);
-    GebieteZeichnen(zeichnung, daten, g, mass);
-    FelderZeichnen(zeichnung, daten, g, mass);
-    return zeichnung;
+    Blattlagen lagen;
+    lagen.grund.reserve(300);
+    KopfZeichnen(lagen.grund, daten, g);
+    GebieteZeichnen(lagen, daten, g, mass);
+    FelderZeichnen(lagen, daten, g, mass);
+    return Uebereinander(std::move(lagen));
 }

@@ -77,21 +77,23 @@ void PunkteZeichnen(Zeichnung& zeichnung, const Testgeometrie& g, const Schriftm
 
 void FragenZeichnen(Zeichnung& zeichnung, const Testdruckdaten& daten, const Testgeometrie& g,
                     const Schriftmass& mass) {
-    // The page of an empty test is laid out for one question, and its number stands there.
-    for (int i = 0; i < std::max(1, AnzahlTestfragen(daten)); ++i) {
-        NummerZeichnen(zeichnung, g, mass, i, g.TestFragenOben + static_cast<float>(i) * g.TestRaster);
-    }
+    int i = 0;
     Millimeter y = g.TestFragenOben;
     for (const Testdruckzeile& zeile : daten.zeilen) {
         if (zeile.frage.empty()) {
             continue;
         }
-        PunkteZeichnen(zeichnung, g, mass, y + 10_mm, zeile.punkte);
+        NummerZeichnen(zeichnung, g, mass, i, g.TestFragenOben + static_cast<float>(i) * g.TestRaster);
         AbsatzZeichnen(zeichnung, g, mass, y, zeile.frage);
         if (daten.mitAntworten) {
             AbsatzZeichnen(zeichnung, g, mass, y + g.TestZeile / 2.0F, zeile.antwort);
         }
+        PunkteZeichnen(zeichnung, g, mass, y + 10_mm, zeile.punkte);
+        ++i;
         y += g.TestRaster;
+    }
+    if (i == 0) { // the page of an empty test is laid out for one question, and its number stands there
+        NummerZeichnen(zeichnung, g, mass, i, g.TestFragenOben);
     }
 }
 
