@@ -3,12 +3,15 @@
 #include "core/datei.h"
 #include "core/laufzeitfehler.h"
 #include "core/pfad.h"
+#include "printing/pdfordnung.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -18,13 +21,30 @@ std::filesystem::path Systempfad(const QString& nativ) {
 }
 
 // A disk that filled up while the toolkit wrote leaves a file without an end.
-void VollstaendigkeitPruefen(const QString& datei) {
+std::string GanzeDatei(const QString& datei) {
     QFile quelle(datei);
     if (!quelle.open(QIODevice::ReadOnly)) {
         throw Laufzeitfehler(Fehler::GeraetEA);
     }
-    constexpr qint64 ende = 32;
-    if (!quelle.seek(qMax(qint64{0}, quelle.size() - ende)) || !quelle.readAll().contains("%%EOF")) {
+    std::string bytes = quelle.readAll().toStdString();
+    constexpr std::size_t ende = 32;
+    const std::string_view schluss =
+        std::string_view(bytes).substr(bytes.size() - std::min(ende, bytes.size()));
+    if (schluss.find("%%EOF") == std::string_view::npos) {
+        throw Laufzeitfehler(Fehler::DatentraegerVoll);
+    }
+    return bytes;
+}
+
+// In its own place: there it belongs to nobody yet. What has just been written and can't be written again
+// lacks room.
+void NeuSchreiben(const QString& datei, const std::string& bytes) {
+    QFile ziel(datei);
+    const auto groesse = static_cast<qint64>(bytes.size());
+    const bool ganz = ziel.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                      ziel.write(bytes.data(), groesse) == groesse;
+    ziel.close(); // some file systems tell of a full disk only here
+    if (!ganz || ziel.error() != QFileDevice::NoError) {
         throw Laufzeitfehler(Fehler::DatentraegerVoll);
     }
 }
@@ -71,15 +91,12 @@ bool PdfDatei::DanebenAnlegen() {
 }
 
 void PdfDatei::Einsetzen() {
-    VollstaendigkeitPruefen(schreibname_);
+    const std::string bytes = PdfOrdnen(GanzeDatei(schreibname_));
     if (zwischenlager_) {
-        QFile quelle(schreibname_);
-        if (!quelle.open(QIODevice::ReadOnly)) {
-            throw Laufzeitfehler(Fehler::GeraetEA);
-        }
-        DateiSchreiben(ziel_, quelle.readAll().toStdString()); // knows what stands in the way, and says so
+        DateiSchreiben(ziel_, bytes); // knows what stands in the way, and says so
         return;
     }
+    NeuSchreiben(schreibname_, bytes);
     std::error_code fehler;
     std::filesystem::rename(Systempfad(schreibname_), Systempfad(nativ_), fehler);
     if (fehler) {

@@ -1,6 +1,6 @@
-// A PDF file on its way to its place: the toolkit writes it under another name, and only a whole one takes
-// the place, so that a print that fails leaves the old sheet as it was. A sheet can be printed again, so it
-// isn't forced to the disk as a form is.
+// A PDF file on its way to its place: the toolkit writes it under another name, there it is put in order, and
+// only a whole one takes the place, so that a print that fails leaves the old sheet as it was. A sheet can be
+// printed again, so it isn't forced to the disk as a form is.
 #pragma once
 
 #include <QString>
@@ -19,7 +19,7 @@ public:
 
     // Where the toolkit is to write, in the file system's notation.
     [[nodiscard]] const QString& schreibname() const { return schreibname_; }
-    // Puts the written file in its place. Throws Laufzeitfehler; the old file is whole then.
+    // Puts the written file in order and in its place. Throws Laufzeitfehler; the old file is whole then.
     void Einsetzen();
 
 private:

@@ -1,16 +1,14 @@
 #include "printing/pdftitel.h"
 
+#include "printing/pdfmarken.h"
+
 #include <charconv>
 #include <cstdint>
 
 namespace {
 
-bool Leer(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\0';
-}
-
 std::string_view OhneLeeresVorn(std::string_view text) {
-    while (!text.empty() && Leer(text.front())) {
+    while (!text.empty() && PdfLeer(text.front())) {
         text.remove_prefix(1);
     }
     return text;

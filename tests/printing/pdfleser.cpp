@@ -170,11 +170,39 @@ int PdfSeitenzahl(const QString& datei) {
     return treffer.hasMatch() ? treffer.captured(1).toInt() : -1;
 }
 
+namespace {
+
+// What pdffonts says, a line for each font.
+QStringList Schriftzeilen(const QString& datei) {
+    return QString::fromUtf8(Ausgabe(QStringLiteral("pdffonts"), {datei}))
+        .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+        .mid(2);
+}
+
+} // namespace
+
 std::vector<std::string> PdfSchriften(const QString& datei) {
     std::vector<std::string> namen;
-    const QString ausgabe = QString::fromUtf8(Ausgabe(QStringLiteral("pdffonts"), {datei}));
-    for (const QString& zeile : ausgabe.split(QLatin1Char('\n'), Qt::SkipEmptyParts).mid(2)) {
+    for (const QString& zeile : Schriftzeilen(datei)) {
         namen.push_back(zeile.section(QLatin1Char(' '), 0, 0).toStdString());
     }
     return namen;
+}
+
+bool PdfSchriftenDabei(const QString& datei) {
+    const QStringList zeilen = Schriftzeilen(datei);
+    return !zeilen.isEmpty() && std::all_of(zeilen.begin(), zeilen.end(), [](const QString& zeile) {
+        static const QRegularExpression muster(QStringLiteral(" yes (yes|no ) yes +\\d+ +\\d+$"));
+        return muster.match(zeile).hasMatch(); // embedded, in part, with its letters; number of the object
+    });
+}
+
+std::string PdfLauftext(const QString& datei) {
+    const QByteArray text =
+        Ausgabe(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), datei, QStringLiteral("-")});
+    std::string lauftext;
+    for (const QByteArray& wort : text.simplified().split(' ')) {
+        lauftext += wort.toStdString() + ' ';
+    }
+    return lauftext;
 }

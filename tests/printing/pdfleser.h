@@ -35,3 +35,7 @@ struct PdfSeite {
 [[nodiscard]] int PdfSeitenzahl(const QString& datei);
 // Names of the fonts in the file.
 [[nodiscard]] std::vector<std::string> PdfSchriften(const QString& datei);
+// True if the file brings along the shapes and the letters of every font.
+[[nodiscard]] bool PdfSchriftenDabei(const QString& datei);
+// The words of the first page in the order of drawing, with a blank behind each.
+[[nodiscard]] std::string PdfLauftext(const QString& datei);
