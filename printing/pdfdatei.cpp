@@ -36,13 +36,14 @@ std::string GanzeDatei(const QString& datei) {
     return bytes;
 }
 
-// In its own place: there it belongs to nobody yet. What has just been written and can't be written again
-// lacks room.
+// Over the old bytes, which belong to nobody yet and whose room is kept. What can't be written again lacks
+// room.
 void NeuSchreiben(const QString& datei, const std::string& bytes) {
     QFile ziel(datei);
     const auto groesse = static_cast<qint64>(bytes.size());
-    const bool ganz = ziel.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-                      ziel.write(bytes.data(), groesse) == groesse;
+    const bool ganz = ziel.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered) &&
+                      ziel.write(bytes.data(), groesse) == groesse &&
+                      (ziel.size() == groesse || ziel.resize(groesse));
     ziel.close(); // some file systems tell of a full disk only here
     if (!ganz || ziel.error() != QFileDevice::NoError) {
         throw Laufzeitfehler(Fehler::DatentraegerVoll);

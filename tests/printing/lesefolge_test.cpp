@@ -148,7 +148,8 @@ TEST_P(Deckung, IsAsIfThePassesWentOverAllCellsOneAfterTheOther) {
         const QImage bild = Gemalt(gelesen);
         EXPECT_TRUE(Gleich(bild, Gemalt(gezeichnet))) << "form " << nummer;
         Zeichnung obenauf = gelesen;
-        std::ranges::stable_partition(obenauf, [&](const Element& e) { return !IstFrage(e, g); });
+        std::stable_partition(obenauf.begin(), obenauf.end(),
+                              [&](const Element& e) { return !IstFrage(e, g); });
         verdeckt += Gleich(bild, Gemalt(obenauf)) ? 0 : 1;
     }
     EXPECT_EQ(verdeckt, 5) << "the forms with long texts have nothing that is covered";
