@@ -21,9 +21,8 @@ enum class Kindfenster : std::uint8_t {
 };
 
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Kindfenster fenster) {
-    constexpr std::array<std::string_view, 9> zeichen{"FKFragen", "HBFragen", "Editor",
-                                                      "Browser",  "Homepage", "Suche",
-                                                      "Fuellen",  "Pruefung", "Vorschau"};
+    constexpr std::array<std::string_view, 9> zeichen{
+        "FKFragen", "HBFragen", "Editor", "Browser", "Homepage", "Suche", "Fuellen", "Pruefung", "Vorschau"};
     return zeichen.at(static_cast<std::size_t>(fenster));
 }
 [[nodiscard]] constexpr std::string_view Fensterzeichen(Formart art) {

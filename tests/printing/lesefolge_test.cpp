@@ -131,7 +131,7 @@ std::string Fallname(const testing::TestParamInfo<Blatt>& fall) {
 
 bool IstFrage(const Element& element, const Druckgeometrie& g) {
     const auto* text = std::get_if<Textstelle>(&element);
-    return text != nullptr && text->schrift == Schrift{Schriftart::Arial, 8_pt * g.Massstab, false};
+    return text != nullptr && text->schrift == Druckschrift{Schriftart::Arial, 8_pt * g.Massstab, false};
 }
 
 } // namespace

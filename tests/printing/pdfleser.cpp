@@ -198,11 +198,5 @@ bool PdfSchriftenDabei(const QString& datei) {
 }
 
 std::string PdfLauftext(const QString& datei) {
-    const QByteArray text =
-        Ausgabe(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), datei, QStringLiteral("-")});
-    std::string lauftext;
-    for (const QByteArray& wort : text.simplified().split(' ')) {
-        lauftext += wort.toStdString() + ' ';
-    }
-    return lauftext;
+    return PdfText(datei).simplified().toStdString() + ' ';
 }
