@@ -74,11 +74,13 @@ void frmVorschau::Verbinden() {
     connect(chkOhneTitel_, &QCheckBox::toggled, this, &frmVorschau::Auffrischen);
     connect(chkMitAntworten_, &QCheckBox::toggled, this, &frmVorschau::Auffrischen);
     connect(cmdDrucken_, &QPushButton::clicked, this, [this] {
+        Auffrischen(); // what is printed is what is seen
         if (vorlage_) {
             BlattDrucken(*vorlage_, *wunsch_);
         }
     });
     connect(cmdAlsPDF_, &QPushButton::clicked, this, [this] {
+        Auffrischen();
         if (vorlage_) {
             BlattAlsPdf(*vorlage_, *wunsch_, this);
         }
@@ -103,6 +105,14 @@ void frmVorschau::FormularBeobachten(QWidget* fenster) {
         connect(fenster, &QObject::destroyed, bald_, qOverload<>(&QTimer::start));
     }
     beobachtet_ = fenster;
+}
+
+// After a dialog: paper, gap or printer may be another.
+bool frmVorschau::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::WindowActivate) {
+        bald_->start();
+    }
+    return QWidget::event(ereignis);
 }
 
 void frmVorschau::closeEvent(QCloseEvent* ereignis) {

@@ -33,13 +33,14 @@ public:
     void Auffrischen();
 
 protected:
+    bool event(QEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
 
 private:
     void Aufbauen();
     void WahlBauen(QBoxLayout& gesamt);
     void FusszeileBauen(QBoxLayout& gesamt);
-    QToolButton* LupeBauen(const char* name, std::string_view bild);
+    QToolButton* LupeBauen(const char* name, std::string_view bild, std::string_view was);
     void Verbinden();
     void LupenVerbinden();
     void FormularBeobachten(QWidget* fenster);

@@ -79,10 +79,10 @@ void frmVorschau::WahlBauen(QBoxLayout& gesamt) {
     lblBlatt_->setBuddy(cmbBlatt_);
     chkOhneTitel_ = Schalter("chkOhneTitel", blatttexte::ohneTitel, this);
     chkMitAntworten_ = Schalter("chkMitAntworten", blatttexte::mitAntworten, this);
-    cmdGanz_ = LupeBauen("cmdGanz", "seite/ganz");
-    cmdBreite_ = LupeBauen("cmdBreite", "seite/breite");
-    cmdKleiner_ = LupeBauen("cmdKleiner", "seite/kleiner");
-    cmdGroesser_ = LupeBauen("cmdGroesser", "seite/groesser");
+    cmdGanz_ = LupeBauen("cmdGanz", "seite/ganz", blatttexte::ganz);
+    cmdBreite_ = LupeBauen("cmdBreite", "seite/breite", blatttexte::breite);
+    cmdKleiner_ = LupeBauen("cmdKleiner", "seite/kleiner", blatttexte::kleiner);
+    cmdGroesser_ = LupeBauen("cmdGroesser", "seite/groesser", blatttexte::groesser);
     auto* reihe = new QHBoxLayout;
     reihe->setSpacing(saum);
     for (QWidget* element : {static_cast<QWidget*>(lblBlatt_), static_cast<QWidget*>(cmbBlatt_),
@@ -96,10 +96,12 @@ void frmVorschau::WahlBauen(QBoxLayout& gesamt) {
     gesamt.addLayout(reihe);
 }
 
-QToolButton* frmVorschau::LupeBauen(const char* name, std::string_view bild) {
+// was: for who can't see the picture.
+QToolButton* frmVorschau::LupeBauen(const char* name, std::string_view bild, std::string_view was) {
     auto* lupe = new QToolButton(this);
     lupe->setObjectName(QLatin1String(name));
     lupe->setFocusPolicy(Qt::TabFocus);
+    lupe->setAccessibleName(Anzeige(was));
     TastenbildSetzen(lupe, bild);
     return lupe;
 }

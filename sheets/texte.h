@@ -44,6 +44,12 @@ inline constexpr std::string_view drucken = "&Drucken";
 inline constexpr std::string_view alsPdf = "Als &PDF ...";
 inline constexpr std::string_view schliessen = "&Schließen";
 
+// For who can't see the pictures on the buttons.
+inline constexpr std::string_view ganz = "Ganze Seite";
+inline constexpr std::string_view breite = "Seitenbreite";
+inline constexpr std::string_view kleiner = "Kleiner";
+inline constexpr std::string_view groesser = "Größer";
+
 inline constexpr std::string_view nichtsOffen = "Es ist kein Formular offen.";
 inline constexpr std::string_view ohnePapier =
     "Mir fehlt die Angabe der Papiergröße. (Vorgaben, Darstellung)";

@@ -19,6 +19,8 @@ void Umbruch(std::string_view bytes);       // line breaking
 void Seite(std::string_view bytes);         // layout of the two sheets
 void Suche(std::string_view bytes);         // words typed, questions found
 void Fragen(std::string_view bytes);        // questions compared, quotation marks replaced
+void Blaetter(std::string_view bytes);      // the sheets beside a form's own
+void Pdf(std::string_view bytes);           // PDF files put in order
 
 struct Ziel {
     std::string_view name;
@@ -34,7 +36,9 @@ inline constexpr std::array ziele{Ziel{"formular", Formular, true},
                                   Ziel{"umbruch", Umbruch, false},
                                   Ziel{"seite", Seite, false},
                                   Ziel{"suche", Suche, false},
-                                  Ziel{"fragen", Fragen, false}};
+                                  Ziel{"fragen", Fragen, false},
+                                  Ziel{"blaetter", Blaetter, false},
+                                  Ziel{"pdf", Pdf, false}};
 
 // Ends the process with the words when the condition doesn't hold.
 void Verlange(bool bedingung, std::string_view worte);

@@ -6,6 +6,7 @@
 #include "printing/druckdaten.h"
 #include "printing/testseite.h"
 #include "printing/zeilenumbruch.h"
+#include "tests/fuzz/zeichnungspruefung.h"
 
 #include <algorithm>
 #include <charconv>
@@ -14,23 +15,6 @@
 namespace fuzz {
 
 namespace {
-
-// Every letter as wide as the next.
-class Gleichbreit : public Schriftmass {
-public:
-    [[nodiscard]] Millimeter Breite(std::string_view text, const Druckschrift& schrift) const override {
-        return Millimeter(0.2F * schrift.groesse.zahl() * static_cast<float>(text.size()));
-    }
-    [[nodiscard]] Millimeter Hoehe(const Druckschrift& schrift) const override {
-        return Millimeter(0.35F * schrift.groesse.zahl());
-    }
-};
-
-std::string OhneLeeres(std::string_view text) {
-    std::string rest(text);
-    std::erase_if(rest, [](char z) { return z == ' ' || z == '\r' || z == '\n'; });
-    return rest;
-}
 
 std::string_view OhneRand(std::string_view zeile) {
     const std::size_t beginn = zeile.find_first_not_of(' ');
@@ -102,38 +86,9 @@ void Schreiben(Eingabe eingabe) {
     }
 }
 
-void LinienPruefen(const Zeichnung& zeichnung) {
-    for (const Element& element : zeichnung) {
-        const bool endlich = std::visit(
-            [](const auto& e) {
-                if constexpr (requires { e.x1; }) {
-                    return std::isfinite(e.x1.zahl() + e.y1.zahl() + e.x2.zahl() + e.y2.zahl());
-                } else if constexpr (requires { e.x; }) {
-                    return std::isfinite(e.x.zahl() + e.y.zahl());
-                } else {
-                    return !e.flaeche || std::isfinite(e.flaeche->x.zahl() + e.flaeche->y.zahl());
-                }
-            },
-            element);
-        Verlange(endlich, "everything has a place");
-    }
-}
-
 FKDruckdaten Quizblatt(Eingabe& eingabe) {
-    Quizformular form;
-    Spielwerte spiel;
-    spiel.OptionTitel = spiel.OptionRahmen = eingabe.Wahl(2) == 1;
-    spiel.OptionMaxFelder = spiel.OptionMaxWissen = eingabe.Wahl(2) == 1;
-    spiel.FragenProWissen = static_cast<std::int16_t>(eingabe.Wahl(8) - 1);
-    spiel.AnzahlWissen = static_cast<std::int16_t>(eingabe.Wahl(9) - 1);
-    form.FormNr = eingabe.Stueck();
-    form.WissenTitel[2] = eingabe.Stueck();
-    for (std::size_t n = 1; n < form.FrageText.size() && !eingabe.rest.empty(); ++n) {
-        form.FeldSpezial[n] = std::string(1, "JGREA \"x"[eingabe.Wahl(8)]);
-        form.FrageText[n] = AusCp1252(eingabe.Stueck());
-        form.AntwortText[n] = AusCp1252(eingabe.Stueck());
-    }
-    return DruckdatenAus(form, spiel, eingabe.Wahl(2) == 1);
+    const Zufallsform form = FormAus(eingabe);
+    return DruckdatenAus(form.quiz, form.spiel, eingabe.Wahl(2) == 1);
 }
 
 void QuizblattPruefen(Eingabe eingabe) {

@@ -10,7 +10,7 @@ jobs=${2:-2}
 shift $(($# > 2 ? 2 : $#))
 ziele=("$@")
 [ ${#ziele[@]} -gt 0 ] ||
-  ziele=(formular einstellungen katalog katalogtext wertgrammatik zeichen umbruch seite suche fragen)
+  ziele=(formular einstellungen katalog katalogtext wertgrammatik zeichen umbruch seite suche fragen blaetter pdf)
 
 case $dauer in
   x*) grenze=-runs=${dauer#x} ;;

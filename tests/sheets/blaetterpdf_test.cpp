@@ -1,14 +1,20 @@
 // The sheets as another program reads them from their PDF: lines within 0.05 mm, texts within 0.3.
 #include "core/pfad.h"
 #include "printing/druckseite.h"
+#include "printing/pdfordnung.h"
 #include "sheets/spielbrett.h"
 #include "tests/printing/pdfleser.h"
 #include "tests/sheets/blattvorlagen.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -40,6 +46,17 @@ protected:
     QTemporaryDir ordner;
     Blattsatz blatt;
 };
+
+QByteArray Bytes(const QString& datei) {
+    QFile quelle(datei);
+    EXPECT_TRUE(quelle.open(QIODevice::ReadOnly)) << datei.toStdString();
+    return quelle.readAll();
+}
+
+QByteArray OhneZeit(const QByteArray& bytes) {
+    static const QRegularExpression zeit(QStringLiteral("/CreationDate \\(D:[^)]*\\)|/ID ?\\[[^\\]]*\\]"));
+    return QString::fromLatin1(bytes).remove(zeit).toLatin1();
+}
 
 // The word's middle, if it stands once on the page.
 std::pair<double, double> Mitte(const PdfSeite& seite, const std::string& text) {
@@ -311,5 +328,40 @@ TEST_F(Blattpdf, APageOfTheFullestSheetsTakesNoMoreThanSixtyKilobytes) {
     for (const Blattart art : Blattarten(Formart::Quiz)) {
         const QString datei = Drucken(quiz, art);
         EXPECT_LE(QFileInfo(datei).size(), 60000 * PdfSeitenzahl(datei)) << Blattname(art);
+    }
+}
+
+TEST_F(Blattpdf, EverySheetBringsItsFontsAlongAndIsInOrder) {
+    for (const Blattart art : Blattarten(Formart::Quiz)) {
+        const QString datei = Drucken(VollesQuiz(), art);
+        EXPECT_TRUE(PdfSchriftenDabei(datei)) << Blattname(art);
+        const std::string bytes = Bytes(datei).toStdString();
+        EXPECT_EQ(PdfOrdnen(bytes), bytes) << Blattname(art);
+        EXPECT_NE(bytes.find("/Lang (de-DE)"), std::string::npos) << Blattname(art);
+    }
+}
+
+// The toolkit draws lots anew in each process.
+TEST_F(Blattpdf, TheSameFormGivesTheSameFileInAnotherProcess) {
+    std::map<QString, QByteArray> erste;
+    for (int lauf = 0; lauf < 3; ++lauf) {
+        const QTemporaryDir ablage;
+        QProcess prozess;
+        QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
+        umgebung.insert(QStringLiteral("BLAETTER_BEHALTEN"), ablage.path());
+        prozess.setProcessEnvironment(umgebung);
+        prozess.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--gtest_filter=Blattpdf.APageOfTheFullest*")});
+        ASSERT_TRUE(prozess.waitForFinished(60000));
+        ASSERT_EQ(prozess.exitCode(), 0);
+        const QStringList dateien = QDir(ablage.path()).entryList({QStringLiteral("*.pdf")});
+        ASSERT_EQ(dateien.size(), 9);
+        for (const QString& datei : dateien) {
+            const QByteArray bytes = OhneZeit(Bytes(ablage.filePath(datei)));
+            if (lauf == 0) {
+                erste[datei] = bytes;
+            }
+            EXPECT_TRUE(erste[datei] == bytes) << datei.toStdString();
+        }
     }
 }

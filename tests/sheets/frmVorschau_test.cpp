@@ -14,6 +14,7 @@
 #include "tests/hilfe/bild.h"
 #include "tests/printing/pdfleser.h"
 #include "tests/quizform/formhilfe.h"
+#include "tests/settings/inihilfe.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -124,6 +125,7 @@ private Q_SLOTS:
     void whatSticksOutIsOutlinedAndNamed();
     void withoutTitlesThereAreNone();
     void theMarginsOfThePrinterAreAThinLine();
+    void aPaperChosenInTheSettingsIsSeenAtOnce();
     void whatIsPrintedIsTheFormsOwnSheet();
     void theOtherSheetsLieBesideTheFormsOwn();
     void asPdfAsksForAName();
@@ -290,6 +292,19 @@ void FrmVorschauTest::theMarginsOfThePrinterAreAThinLine() {
     QTRY_VERIFY(Farbtupfer(Bild(), IstBlau) > 50);
     BildVomBildschirm(name);
     Drucker().setPageLayout(sonst);
+}
+
+void FrmVorschauTest::aPaperChosenInTheSettingsIsSeenAtOnce() {
+    Programm programm;
+    GutesQuiz(programm);
+    Rufen();
+    FensterAbwarten(name);
+    QCOMPARE(Ansicht()->orientation(), QPageLayout::Landscape);
+    MitOK(programm, [](const QDialog& dialog, Dialogfolge&) {
+        Finden<QRadioButton>(&dialog, QStringLiteral("optDrucken"), 0)->click(); // A5
+    });
+    QCOMPARE(Spiel.Papierformat, std::string("A5 quer"));
+    QTRY_COMPARE(Ansicht()->orientation(), QPageLayout::Portrait);
 }
 
 void FrmVorschauTest::whatIsPrintedIsTheFormsOwnSheet() {
