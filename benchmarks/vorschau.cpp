@@ -176,6 +176,7 @@ void Fuellen() {
 
 std::vector<double> Mal(int anzahl, const std::function<double()>& arbeit) {
     std::vector<double> zeiten;
+    zeiten.reserve(static_cast<std::size_t>(anzahl));
     for (int i = 0; i < anzahl; ++i) {
         zeiten.push_back(arbeit());
     }

@@ -13,6 +13,7 @@
 #include "core/textfeld.h"
 #include "filetools/listentasten.h"
 #include "forms/einsetzen.h"
+#include "forms/formularfolger.h"
 #include "forms/verlauf.h"
 #include "search/fragendienst.h"
 
@@ -22,7 +23,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTableView>
-#include <QTimer>
 
 #include <algorithm>
 #include <map>
@@ -30,7 +30,7 @@
 
 namespace {
 
-constexpr int sammelzeit = 30; // milliseconds
+constexpr std::chrono::milliseconds sammelzeit(30);
 
 // Texts for cells and rows, by number.
 std::vector<Feldtext> Feldtexte(const std::vector<Ersatztext>& texte) {
@@ -64,17 +64,9 @@ frmPruefung::frmPruefung() {
 }
 
 void frmPruefung::Verbinden() {
-    bald_ = new QTimer(this);
-    bald_->setSingleShot(true);
-    bald_->setInterval(sammelzeit);
-    connect(bald_, &QTimer::timeout, this, &frmPruefung::Nachsehen);
-    const auto bald = [this] {
-        if (!bald_->isActive()) { // typing on and on doesn't put it off
-            bald_->start();
-        }
-    };
-    BeiFormularaenderung(this, bald);
-    connect(&Fragen(), &Fragendienst::benutzungNeu, this, bald);
+    folger_ = new Formularfolger(sammelzeit, this);
+    connect(folger_, &Formularfolger::nachsehen, this, &frmPruefung::Nachsehen);
+    connect(&Fragen(), &Fragendienst::benutzungNeu, folger_, &Formularfolger::Bald);
     connect(tblBefunde_, &QTableView::clicked, this, [this](const QModelIndex& ort) { ZumFeld(ort.row()); });
     connect(tblBefunde_, &QTableView::activated, this,
             [this](const QModelIndex& ort) { ZumFeld(ort.row()); });
@@ -94,17 +86,9 @@ bool frmPruefung::eventFilter(QObject* objekt, QEvent* ereignis) {
     return QWidget::eventFilter(objekt, ereignis);
 }
 
-// Nobody tells that a form goes, but its window does.
-void frmPruefung::FormularBeobachten(QWidget* fenster) {
-    if (fenster != nullptr && fenster != beobachtet_) {
-        connect(fenster, &QObject::destroyed, bald_, qOverload<>(&QTimer::start));
-    }
-    beobachtet_ = fenster;
-}
-
 void frmPruefung::Nachsehen() {
-    Formularfenster* form = OffenesFormular();
-    FormularBeobachten(form == nullptr ? nullptr : form->fenster());
+    const Formularfenster* form = OffenesFormular();
+    folger_->Nachgesehen();
     stand_.reset();
     if (form == nullptr) {
         Zeigen({});

@@ -6,16 +6,15 @@
 #include "checking/pruefschriften.h"
 #include "forms/formularstand.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <optional>
 
 class Befundmodell;
+class Formularfolger;
 class QLabel;
 class QPushButton;
 class QTableView;
-class QTimer;
 
 class frmPruefung : public QWidget {
     Q_OBJECT
@@ -33,7 +32,6 @@ private:
     void Aufbauen();
     void ListeBauen();
     void Verbinden();
-    void FormularBeobachten(QWidget* fenster);
 
     void Zeigen(Befunde befunde);
     void MarkierungSetzen(const std::optional<Befund>& markiert);
@@ -44,9 +42,8 @@ private:
 
     Pruefschriften schriften_;
     std::optional<Formularstand> stand_; // as of the last look, none without a form
-    QPointer<QWidget> beobachtet_;       // the form's window whose end is waited for
+    Formularfolger* folger_ = nullptr;
     Befundmodell* modell_ = nullptr;
-    QTimer* bald_ = nullptr; // many changes in a row are one look
     QLabel* lblBefunde_ = nullptr;
     QTableView* tblBefunde_ = nullptr;
     QPushButton* cmdErsetzen_ = nullptr;

@@ -5,6 +5,7 @@
 #include "core/bilder.h"
 #include "core/fensterzeichen.h"
 #include "core/oberflaeche.h"
+#include "core/taste.h"
 #include "tooltips/hinweise.h"
 
 #include <QHBoxLayout>
@@ -16,15 +17,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QPushButton* Taste(const char* name, std::string_view aufschrift, std::string_view bild, QWidget* eltern) {
-    auto* taste = new QPushButton(Anzeige(aufschrift), eltern);
-    taste->setObjectName(QLatin1String(name));
-    taste->setFont(Schrift(9_pt));
-    taste->setAutoDefault(true); // Enter presses the one that has the focus
-    TastenbildSetzen(taste, bild);
-    return taste;
-}
 
 // A row is marked as a whole, and no single cell of it.
 class Zeilenmaler : public QStyledItemDelegate {
@@ -52,8 +44,8 @@ void frmPruefung::Aufbauen() {
     lblBefunde_->setTextFormat(Qt::PlainText);
     lblBefunde_->setFont(Schrift(9_pt, true));
     ListeBauen();
-    cmdErsetzen_ = Taste("cmdErsetzen", pruefungtexte::ueberallErsetzen, "editor/schreiben", this);
-    cmdAbbruch_ = Taste("cmdAbbruch", pruefungtexte::schliessen, "datei/abbrechen", this);
+    cmdErsetzen_ = TasteBauen("cmdErsetzen", pruefungtexte::ueberallErsetzen, "editor/schreiben", this);
+    cmdAbbruch_ = TasteBauen("cmdAbbruch", pruefungtexte::schliessen, "datei/abbrechen", this);
 
     auto* unten = new QHBoxLayout;
     unten->addWidget(cmdErsetzen_);

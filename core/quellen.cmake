@@ -25,6 +25,7 @@ feldkranz_quellen(fenster
   core/oberflaeche.cpp
   core/palettenstil.cpp core/palettenstil.h
   core/panel.cpp core/panel.h
+  core/taste.cpp
   core/textfeld.cpp core/textfeld.h
   core/eigenverlauf.cpp core/textpruefung.cpp core/textzeile.cpp
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp)

@@ -4,6 +4,7 @@ feldkranz_quellen(modell
 feldkranz_quellen(fenster
   forms/einsetzen.cpp
   forms/formulare.cpp
+  forms/formularfolger.cpp forms/formularfolger.h
   forms/formularjournal.cpp
   forms/formularlesen.cpp
   forms/formularpfad.cpp

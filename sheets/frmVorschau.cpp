@@ -1,9 +1,8 @@
 #include "sheets/frmVorschau.h"
 
-#include "core/formularfenster.h"
 #include "core/meldungstext.h"
 #include "core/oberflaeche.h"
-#include "forms/verlauf.h"
+#include "forms/formularfolger.h"
 #include "persistence/extrasdatei.h"
 #include "printing/druckschrift.h"
 #include "sheets/blatthinweis.h"
@@ -19,7 +18,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -27,7 +25,7 @@
 
 namespace {
 
-constexpr int sammelzeit = 10; // milliseconds
+constexpr std::chrono::milliseconds sammelzeit(10);
 constexpr double lupenschritt = 1.25;
 
 std::string Schluessel(Formart art) {
@@ -57,15 +55,8 @@ frmVorschau::frmVorschau() : drucker_(std::make_unique<QPrinter>(QPrinter::HighR
 frmVorschau::~frmVorschau() = default;
 
 void frmVorschau::Verbinden() {
-    bald_ = new QTimer(this);
-    bald_->setSingleShot(true);
-    bald_->setInterval(sammelzeit);
-    connect(bald_, &QTimer::timeout, this, &frmVorschau::Auffrischen);
-    BeiFormularaenderung(this, [this] {
-        if (!bald_->isActive()) { // typing on and on doesn't put it off
-            bald_->start();
-        }
-    });
+    folger_ = new Formularfolger(sammelzeit, this);
+    connect(folger_, &Formularfolger::nachsehen, this, &frmVorschau::Auffrischen);
     connect(picBlatt_, &QPrintPreviewWidget::paintRequested, this, &frmVorschau::Malen);
     connect(cmbBlatt_, &QComboBox::currentIndexChanged, this, [this] {
         Auffrischen();
@@ -99,18 +90,10 @@ void frmVorschau::LupenVerbinden() {
     connect(cmdGroesser_, &QToolButton::clicked, picBlatt_, [this] { picBlatt_->zoomIn(lupenschritt); });
 }
 
-// Nobody tells that a form goes, but its window does.
-void frmVorschau::FormularBeobachten(QWidget* fenster) {
-    if (fenster != nullptr && fenster != beobachtet_) {
-        connect(fenster, &QObject::destroyed, bald_, qOverload<>(&QTimer::start));
-    }
-    beobachtet_ = fenster;
-}
-
 // After a dialog: paper, gap or printer may be another.
 bool frmVorschau::event(QEvent* ereignis) {
     if (ereignis->type() == QEvent::WindowActivate) {
-        bald_->start();
+        folger_->Bald();
     }
     return QWidget::event(ereignis);
 }
@@ -155,8 +138,7 @@ Blattwunsch frmVorschau::Wunsch() const {
 }
 
 void frmVorschau::Auffrischen() {
-    Formularfenster* form = OffenesFormular();
-    FormularBeobachten(form == nullptr ? nullptr : form->fenster());
+    folger_->Nachgesehen();
     std::optional<Blattvorlage> jetzt = VorlageJetzt();
     if (jetzt) {
         BlaetterAnbieten(FormartVon(*jetzt));

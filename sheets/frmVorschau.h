@@ -5,13 +5,13 @@
 
 #include "sheets/blattausgabe.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
 #include <optional>
 
 class Druckschriften;
+class Formularfolger;
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
@@ -19,7 +19,6 @@ class QLabel;
 class QPrinter;
 class QPrintPreviewWidget;
 class QPushButton;
-class QTimer;
 class QToolButton;
 
 class frmVorschau : public QWidget {
@@ -43,7 +42,6 @@ private:
     QToolButton* LupeBauen(const char* name, std::string_view bild, std::string_view was);
     void Verbinden();
     void LupenVerbinden();
-    void FormularBeobachten(QWidget* fenster);
 
     void BlaetterAnbieten(Formart art);
     void WahlZeigen();
@@ -59,8 +57,7 @@ private:
     Fertigblatt fertig_;
     std::unique_ptr<QPrinter> drucker_; // of the preview: nothing comes out of it
     std::unique_ptr<Druckschriften> schriften_;
-    QPointer<QWidget> beobachtet_; // the form's window whose end is waited for
-    QTimer* bald_ = nullptr;       // many changes in a row are one
+    Formularfolger* folger_ = nullptr;
 
     QLabel* lblBlatt_ = nullptr;
     QComboBox* cmbBlatt_ = nullptr;

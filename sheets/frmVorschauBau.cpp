@@ -2,6 +2,7 @@
 #include "core/bilder.h"
 #include "core/fensterzeichen.h"
 #include "core/oberflaeche.h"
+#include "core/taste.h"
 #include "sheets/frmVorschau.h"
 #include "sheets/texte.h"
 #include "tooltips/hinweise.h"
@@ -19,15 +20,6 @@
 namespace {
 
 constexpr int saum = 6; // pixels
-
-QPushButton* Taste(const char* name, std::string_view aufschrift, std::string_view bild, QWidget* eltern) {
-    auto* taste = new QPushButton(Anzeige(aufschrift), eltern);
-    taste->setObjectName(QLatin1String(name));
-    taste->setFont(Schrift(9_pt));
-    taste->setAutoDefault(true); // Enter presses the one that has the focus
-    TastenbildSetzen(taste, bild);
-    return taste;
-}
 
 QCheckBox* Schalter(const char* name, std::string_view aufschrift, QWidget* eltern) {
     auto* schalter = new QCheckBox(Anzeige(aufschrift), eltern);
@@ -107,9 +99,9 @@ QToolButton* frmVorschau::LupeBauen(const char* name, std::string_view bild, std
 }
 
 void frmVorschau::FusszeileBauen(QBoxLayout& gesamt) {
-    cmdDrucken_ = Taste("cmdDrucken", blatttexte::drucken, "leiste/drucken", this);
-    cmdAlsPDF_ = Taste("cmdAlsPDF", blatttexte::alsPdf, "leiste/speichern", this);
-    cmdAbbruch_ = Taste("cmdAbbruch", blatttexte::schliessen, "datei/abbrechen", this);
+    cmdDrucken_ = TasteBauen("cmdDrucken", blatttexte::drucken, "leiste/drucken", this);
+    cmdAlsPDF_ = TasteBauen("cmdAlsPDF", blatttexte::alsPdf, "leiste/speichern", this);
+    cmdAbbruch_ = TasteBauen("cmdAbbruch", blatttexte::schliessen, "datei/abbrechen", this);
     auto* reihe = new QHBoxLayout;
     reihe->setSpacing(saum);
     reihe->addWidget(cmdDrucken_);

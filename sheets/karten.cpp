@@ -16,9 +16,9 @@ namespace {
 
 // Both kinds are wider than high. kante: along which the paper is turned, so that left and right change.
 struct Kartenmasse {
-    bool quer;
-    Wenden kante;
-    int spalten, zeilen;
+    bool quer = false;
+    Wenden kante = Wenden::LangeKante;
+    int spalten = 0, zeilen = 0;
     Schriftpunkte titel, kopf, text, kleinste;
     Millimeter innen; // free around what is printed: printers turn paper a little askew
 };
@@ -88,8 +88,9 @@ private:
     [[nodiscard]] Flaeche Platz(std::size_t i, bool gespiegelt) const {
         const auto spalten = static_cast<std::size_t>(m_.spalten);
         const std::size_t spalte = gespiegelt ? spalten - 1 - i % spalten : i % spalten;
+        const std::size_t zeile = i / spalten;
         return {schnittrand + static_cast<float>(spalte) * breite_,
-                schnittrand + static_cast<float>(i / spalten) * hoehe_, breite_, hoehe_};
+                schnittrand + static_cast<float>(zeile) * hoehe_, breite_, hoehe_};
     }
 
     // The lines to cut along are in front only: behind they would stand beside them.

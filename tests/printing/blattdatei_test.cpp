@@ -14,25 +14,12 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <csignal>
 #include <sys/resource.h>
 
 namespace {
-
-QByteArray Bytes(const QString& datei) {
-    QFile quelle(datei);
-    EXPECT_TRUE(quelle.open(QIODevice::ReadOnly)) << datei.toStdString();
-    return quelle.readAll();
-}
-
-// Without what may differ between two sheets of the same form.
-QByteArray OhneZeit(const QByteArray& bytes) {
-    static const QRegularExpression zeit(QStringLiteral("/CreationDate \\(D:[^)]*\\)|/ID ?\\[[^\\]]*\\]"));
-    return QString::fromLatin1(bytes).remove(zeit).toLatin1();
-}
 
 class Blattdatei : public testing::Test {
 protected:
@@ -66,7 +53,7 @@ void StehtInDerReihe(const std::string& text, const std::vector<std::string>& te
 TEST_F(Blattdatei, BringsItsFontsAlongAndSaysItsTitleAndItsLanguage) {
     for (const QString& datei : {Quizblatt(VollesQuizblatt()), Testblatt()}) {
         EXPECT_TRUE(PdfSchriftenDabei(datei)) << datei.toStdString();
-        const std::string bytes = Bytes(datei).toStdString();
+        const std::string bytes = PdfBytes(datei).toStdString();
         const auto aufbau = PdfAufbauLesen(bytes);
         ASSERT_TRUE(aufbau);
         const PdfObjekt& katalog = aufbau->objekte.at(static_cast<std::size_t>(aufbau->katalog));
@@ -119,9 +106,9 @@ TEST_F(Blattdatei, TheWordsOfATestSheetComeAsOneReadsThem) {
 }
 
 TEST_F(Blattdatei, TakesLessThanSixtyKilobytes) {
-    EXPECT_LE(Bytes(Quizblatt(VollesQuizblatt())).size(), 60000);
-    EXPECT_LE(Bytes(Quizblatt(Ueberquellendes(1))).size(), 60000);
-    EXPECT_LE(Bytes(Testblatt()).size(), 60000);
+    EXPECT_LE(PdfBytes(Quizblatt(VollesQuizblatt())).size(), 60000);
+    EXPECT_LE(PdfBytes(Quizblatt(Ueberquellendes(1))).size(), 60000);
+    EXPECT_LE(PdfBytes(Testblatt()).size(), 60000);
 }
 
 TEST_F(Blattdatei, IsTheSameFromEveryProcess) {
@@ -131,8 +118,8 @@ TEST_F(Blattdatei, IsTheSameFromEveryProcess) {
     QByteArray test;
     for (int lauf = 0; lauf < laeufe; ++lauf) {
         ASSERT_EQ(QProcess::execute(QStringLiteral(FELDKRANZ_BLATTDRUCKER), {ordner.path()}), 0);
-        const QByteArray quizblatt = OhneZeit(Bytes(Datei("Quiz.pdf")));
-        const QByteArray testblatt = OhneZeit(Bytes(Datei("Test.pdf")));
+        const QByteArray quizblatt = PdfOhneZeit(PdfBytes(Datei("Quiz.pdf")));
+        const QByteArray testblatt = PdfOhneZeit(PdfBytes(Datei("Test.pdf")));
         ASSERT_GT(quizblatt.size(), 10000);
         ASSERT_GT(testblatt.size(), 10000);
         EXPECT_TRUE(lauf == 0 || quizblatt == quiz) << lauf;
@@ -144,7 +131,7 @@ TEST_F(Blattdatei, IsTheSameFromEveryProcess) {
 
 TEST_F(Blattdatei, ThatNoLongerFitsTheDiskWhenItIsPutInOrderLeavesTheOldOne) {
     const QString ziel = Quizblatt({});
-    const QByteArray alt = Bytes(ziel);
+    const QByteArray alt = PdfBytes(ziel);
     {
         PdfDatei datei(EigenerPfad(ziel));
         QFile neu(datei.schreibname());
@@ -169,7 +156,7 @@ TEST_F(Blattdatei, ThatNoLongerFitsTheDiskWhenItIsPutInOrderLeavesTheOldOne) {
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &grenze), 0);
         std::signal(SIGXFSZ, vorher);
     }
-    EXPECT_EQ(Bytes(ziel), alt);
+    EXPECT_EQ(PdfBytes(ziel), alt);
     EXPECT_EQ(QDir(ordner.path()).entryList(QDir::Files | QDir::Hidden),
               QStringList{QStringLiteral("Quiz.pdf")});
 }
@@ -183,5 +170,5 @@ TEST_F(Blattdatei, ThatIsntUnderstoodTakesItsPlaceAsItIs) {
     neu.write(fremd);
     neu.close();
     datei.Einsetzen();
-    EXPECT_EQ(Bytes(ziel), fremd);
+    EXPECT_EQ(PdfBytes(ziel), fremd);
 }

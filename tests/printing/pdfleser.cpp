@@ -1,5 +1,6 @@
 #include "tests/printing/pdfleser.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
@@ -162,6 +163,16 @@ PdfSeite PdfLesen(const QString& datei, int nummer) {
 QString PdfText(const QString& datei) {
     return QString::fromUtf8(
         Ausgabe(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), datei, QStringLiteral("-")}));
+}
+
+QByteArray PdfBytes(const QString& datei) {
+    QFile quelle(datei);
+    return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
+}
+
+QByteArray PdfOhneZeit(const QByteArray& bytes) {
+    static const QRegularExpression zeit(QStringLiteral("/CreationDate \\(D:[^)]*\\)|/ID ?\\[[^\\]]*\\]"));
+    return QString::fromLatin1(bytes).remove(zeit).toLatin1();
 }
 
 int PdfSeitenzahl(const QString& datei) {

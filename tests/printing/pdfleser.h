@@ -3,6 +3,7 @@
 // top left corner of the sheet. Knows nothing of what a page should hold.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -31,6 +32,10 @@ struct PdfSeite {
 [[nodiscard]] PdfSeite PdfLesen(const QString& datei, int nummer = 1);
 // Its text as it stands in the file, page for page, with a form feed behind each.
 [[nodiscard]] QString PdfText(const QString& datei);
+// The file as it is, a null array where it can't be read; and without what may differ between two sheets of
+// the same form, its date and its mark.
+[[nodiscard]] QByteArray PdfBytes(const QString& datei);
+[[nodiscard]] QByteArray PdfOhneZeit(const QByteArray& bytes);
 // Number of pages, -1 for a file that can't be read.
 [[nodiscard]] int PdfSeitenzahl(const QString& datei);
 // Names of the fonts in the file.

@@ -10,11 +10,9 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QPrinter>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -46,17 +44,6 @@ protected:
     QTemporaryDir ordner;
     Blattsatz blatt;
 };
-
-QByteArray Bytes(const QString& datei) {
-    QFile quelle(datei);
-    EXPECT_TRUE(quelle.open(QIODevice::ReadOnly)) << datei.toStdString();
-    return quelle.readAll();
-}
-
-QByteArray OhneZeit(const QByteArray& bytes) {
-    static const QRegularExpression zeit(QStringLiteral("/CreationDate \\(D:[^)]*\\)|/ID ?\\[[^\\]]*\\]"));
-    return QString::fromLatin1(bytes).remove(zeit).toLatin1();
-}
 
 // The word's middle, if it stands once on the page.
 std::pair<double, double> Mitte(const PdfSeite& seite, const std::string& text) {
@@ -335,7 +322,7 @@ TEST_F(Blattpdf, EverySheetBringsItsFontsAlongAndIsInOrder) {
     for (const Blattart art : Blattarten(Formart::Quiz)) {
         const QString datei = Drucken(VollesQuiz(), art);
         EXPECT_TRUE(PdfSchriftenDabei(datei)) << Blattname(art);
-        const std::string bytes = Bytes(datei).toStdString();
+        const std::string bytes = PdfBytes(datei).toStdString();
         EXPECT_EQ(PdfOrdnen(bytes), bytes) << Blattname(art);
         EXPECT_NE(bytes.find("/Lang (de-DE)"), std::string::npos) << Blattname(art);
     }
@@ -357,7 +344,7 @@ TEST_F(Blattpdf, TheSameFormGivesTheSameFileInAnotherProcess) {
         const QStringList dateien = QDir(ablage.path()).entryList({QStringLiteral("*.pdf")});
         ASSERT_EQ(dateien.size(), 9);
         for (const QString& datei : dateien) {
-            const QByteArray bytes = OhneZeit(Bytes(ablage.filePath(datei)));
+            const QByteArray bytes = PdfOhneZeit(PdfBytes(ablage.filePath(datei)));
             if (lauf == 0) {
                 erste[datei] = bytes;
             }
