@@ -65,10 +65,11 @@ std::string Punktetext(const std::string& wert) {
 class Kartensatz {
 public:
     Kartensatz(const FKDruckdaten& daten, const Kartenmasse& m, const Schriftmass& mass)
-        : daten_(daten), m_(m), mass_(mass) {
-        breite_ = ((m.quer ? a4Lang : a4Kurz) - 2.0F * schnittrand) / static_cast<float>(m.spalten);
-        hoehe_ = ((m.quer ? a4Kurz : a4Lang) - 2.0F * schnittrand) / static_cast<float>(m.zeilen);
-    }
+        : daten_(daten),
+          m_(m),
+          mass_(mass),
+          breite_(((m.quer ? a4Lang : a4Kurz) - 2.0F * schnittrand) / static_cast<float>(m.spalten)),
+          hoehe_(((m.quer ? a4Kurz : a4Lang) - 2.0F * schnittrand) / static_cast<float>(m.zeilen)) {}
 
     [[nodiscard]] Blattsatz Blaetter() {
         blatt_.quer = m_.quer;

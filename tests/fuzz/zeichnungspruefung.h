@@ -30,20 +30,23 @@ inline std::string OhneLeeres(std::string_view text) {
     return rest;
 }
 
+// True where everything has a place.
+struct Endlich {
+    template <typename Teil>
+    bool operator()(const Teil& teil) const {
+        return std::isfinite(teil.x.zahl() + teil.y.zahl());
+    }
+    bool operator()(const Strich& strich) const {
+        return std::isfinite(strich.x1.zahl() + strich.y1.zahl() + strich.x2.zahl() + strich.y2.zahl());
+    }
+    bool operator()(const Zuschnitt& zuschnitt) const {
+        return !zuschnitt.flaeche || (*this)(*zuschnitt.flaeche);
+    }
+};
+
 inline void LinienPruefen(const Zeichnung& zeichnung) {
     for (const Element& element : zeichnung) {
-        const bool endlich = std::visit(
-            [](const auto& e) {
-                if constexpr (requires { e.x1; }) {
-                    return std::isfinite(e.x1.zahl() + e.y1.zahl() + e.x2.zahl() + e.y2.zahl());
-                } else if constexpr (requires { e.x; }) {
-                    return std::isfinite(e.x.zahl() + e.y.zahl());
-                } else {
-                    return !e.flaeche || std::isfinite(e.flaeche->x.zahl() + e.flaeche->y.zahl());
-                }
-            },
-            element);
-        Verlange(endlich, "everything has a place");
+        Verlange(std::visit(Endlich{}, element), "everything has a place");
     }
 }
 

@@ -149,7 +149,7 @@ bool Druckdienst::befehl(const QString& programm, const QStringList& argumente) 
     return fertig && lauf.exitStatus() == QProcess::NormalExit && lauf.exitCode() == 0;
 }
 
-QString Druckdienst::warten(const QString& auftrag) {
+QString Druckdienst::warten(const QString& auftrag, int seiten) {
     const QStringList ordner{Ablage(), QStringLiteral("/var/spool/cups-pdf/ANONYMOUS")};
     QString datei;
     Warten([&] {
@@ -158,7 +158,7 @@ QString Druckdienst::warten(const QString& auftrag) {
                 QDir(stelle).entryList({auftrag + QStringLiteral("*.pdf")}, QDir::Files);
             if (!namen.isEmpty()) {
                 datei = stelle + QLatin1Char('/') + namen.first();
-                return PdfSeitenzahl(datei) == 1;
+                return PdfSeitenzahl(datei) == seiten;
             }
         }
         return false;

@@ -21,8 +21,9 @@ public:
     // Runs one of the service's commands; true when it succeeded.
     bool befehl(const QString& programm, const QStringList& argumente) const;
 
-    // The file that a job of that name became, once it is finished; "" when it doesn't come.
-    [[nodiscard]] static QString warten(const QString& auftrag);
+    // The file that a job of that name became, once it is finished and has all its pages; "" when it doesn't
+    // come.
+    [[nodiscard]] static QString warten(const QString& auftrag, int seiten = 1);
 
     static constexpr const char* warteschlange = "Feldkranz-Test";
 

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPrinter>
+#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -118,6 +119,44 @@ TEST_F(Warteschlange, TheA4SheetLiesAcrossAtTenAndTwentyFiveMillimetresOfPaper) 
     for (const Pfad& pfad : FormularSoll(daten, Papier::A4Quer, 1.0).pfade) {
         EXPECT_TRUE(Steht(gelesen, pfad)) << pfad.links << " " << pfad.oben << " " << pfad.linie;
     }
+}
+
+TEST_F(Warteschlange, SeveralPagesAreOneJobAndBothSidesAreAskedForOnlyThen) {
+    const QString auftrag =
+        QStringLiteral("Feldkranz-Test-Seiten-%1").arg(QCoreApplication::applicationPid());
+    const QPrinter::DuplexMode sonst = Drucker().duplex();
+    {
+        Druckseite seite(
+            Druckziel{QPageLayout::Portrait, "", auftrag.toStdString(), Wenden::LangeKante, false});
+        std::vector<Zeichnung> seiten;
+        for (const Millimeter x : {20_mm, 40_mm, 60_mm}) {
+            seiten.push_back({Rechteck{x, 30_mm, 50_mm, 20_mm, {}, {}}});
+        }
+        EXPECT_EQ(seite.SeitenDrucken(seiten, {}), "");
+    }
+    EXPECT_EQ(Drucker().duplex(), sonst);
+    const QString datei = Druckdienst::warten(auftrag, 3);
+    EXPECT_EQ(PdfSeitenzahl(datei), 3);
+    for (int nummer = 1; nummer <= 3; ++nummer) {
+        const PdfSeite gelesen = PdfLesen(datei, nummer);
+        ASSERT_EQ(gelesen.pfade.size(), 1U) << nummer;
+        EXPECT_NEAR(gelesen.pfade.front().links, 20.0 * nummer + 5, 0.1); // and the printer's own margin
+        EXPECT_NEAR(gelesen.pfade.front().oben, 38.0, 0.1);
+    }
+    QFile::remove(datei);
+}
+
+TEST_F(Warteschlange, ASheetGoesIntoAFileThoughThereIsAPrinter) {
+    const QTemporaryDir ordner;
+    const std::string ziel = EigenerPfad(ordner.filePath(QStringLiteral("Blatt.pdf")));
+    Druckseite seite(Druckziel{QPageLayout::Landscape, ziel, "Probe", Wenden::Nicht, true});
+    EXPECT_EQ(seite.Drucken(Zeichnung{Textstelle{20_mm, 30_mm, {}, "Blatt"}}, {}), ziel);
+    const PdfSeite gelesen = PdfLesen(NativerPfad(ziel));
+    EXPECT_NEAR(gelesen.breite, 297.0, 0.3);
+    ASSERT_EQ(gelesen.worte.size(), 1U);
+    // Where the printer would have put it.
+    EXPECT_NEAR(gelesen.worte.front().links, 20.0 + static_cast<double>(seite.masse().links.zahl()), 0.3);
+    EXPECT_EQ(Drucker().outputFormat(), QPrinter::NativeFormat);
 }
 
 TEST_F(Warteschlange, AJobThatTheServiceRefusesIsARunTimeError) {

@@ -140,8 +140,9 @@ TEST_P(Posterpdf, EachPageIsItsPartOfTheBoard) {
     for (int nummer = 1; nummer <= k.spalten * k.zeilen; ++nummer) {
         const PdfSeite seite = PdfLesen(datei, nummer);
         EXPECT_NEAR(seite.breite, breite + 20, 0.2);
+        const int zeile = (nummer - 1) / k.spalten;
         const double dx = 10 - (nummer - 1) % k.spalten * breite;
-        const double dy = 10 - (nummer - 1) / k.spalten * hoehe;
+        const double dy = 10 - zeile * hoehe;
         for (const double x : {10.0, 10 + breite}) {
             for (const double y : {10.0, 10 + hoehe}) {
                 const double seitlich = x < 50 ? -1 : 1;
@@ -209,8 +210,9 @@ TEST_P(Kartenpdf, FrontAndBackOfACardMeetWhenThePaperIsTurned) {
         }
         for (int i = 0; i < jeSeite && (nummer - 1) / 2 * jeSeite + i < 30; ++i) {
             const int n = (nummer - 1) / 2 * jeSeite + i + 1;
+            const int reihe = i / spalten;
             const double x = 10 + i % spalten * breite;
-            const double y = 10 + i / spalten * hoehe;
+            const double y = 10 + reihe * hoehe;
             const std::string zeile = std::to_string((n - 1) % 5 + 1);
             const auto inKarte = [&](const Wort& wort, double links) {
                 return wort.links > links && wort.rechts < links + breite && wort.oben > y &&
