@@ -10,6 +10,7 @@ feldkranz_quellen(fenster
   mainwindow/frmStart.cpp mainwindow/frmStart.h
   mainwindow/hauptfensterdienste.cpp
   mainwindow/hilfepanel.cpp mainwindow/hilfepanel.h
+  mainwindow/mehrmenue.cpp
   mainwindow/menueleiste.cpp
   mainwindow/programmende.cpp
   mainwindow/spezialraster.cpp

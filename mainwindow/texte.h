@@ -13,6 +13,11 @@ inline constexpr std::string_view zuletztAbgelegt =
 inline constexpr std::string_view startfenster = "Am Start ...";
 inline constexpr std::string_view startZeile = "Mit Grüßen von Tarvo und Brennek - weiter !";
 
+// The menu of the buttons for which the window is too narrow.
+inline constexpr std::string_view mehr = "Mehr";
+inline constexpr std::string_view mehrTipp = "Knöpfe, für die das Fenster zu schmal ist.";
+inline constexpr std::string_view mehrStatus = " Weitere Knöpfe zeigen";
+
 // Start picture missing; {} is its full path.
 inline constexpr MeldungsText startbildFehlt{5, "Ich kann [ {} ] nicht finden !", "1",
                                              "Hab ich das denn ins Programmverzeichnis kopiert ?"};

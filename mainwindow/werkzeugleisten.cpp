@@ -7,6 +7,7 @@
 #include "forms/quizformulare.h"
 #include "mainwindow/befehle.h"
 #include "mainwindow/flaggen.h"
+#include "mainwindow/mehrmenue.h"
 #include "mainwindow/schaltflaechen.h"
 #include "mainwindow/spezialraster.h"
 #include "tooltips/hinweise.h"
@@ -78,21 +79,39 @@ constexpr std::array<std::string_view, 18> verzicht{
     "leiste/neu_",    "leiste/hilfe",   "leiste/drucker", "leiste/ende",     "leiste/brennek",
     "leiste/tarvo",   "leiste/punkte_", "leiste/antwor",  "leiste/schliess", "leiste/fragen_",
     "leiste/spezial", "leiste/editor",  "leiste/regel"};
+// Where not even all pictures have room, buttons go into the menu cmdMehr, again from the front: what the
+// menu bar offers all the same, then what is used seldom. The others stay in any case.
+constexpr std::array<std::string_view, 14> auslagern{
+    "leiste/mail",   "leiste/netz",    "leiste/brennek", "leiste/tarvo",    "leiste/hilfe",
+    "leiste/editor", "leiste/regel",   "leiste/drucker", "leiste/vorgaben", "leiste/spezial",
+    "leiste/antwor", "leiste/punkte_", "leiste/fragen_", "leiste/schliess"};
 constexpr int polster = 8;    // around picture and caption
 constexpr int bildluecke = 4; // between the two
 
-// Face of the captions, the gap between groups, and which places of the list above go without a caption.
+// Face of the captions, the gap between groups, and which places of the lists above go without a caption, or
+// into the menu.
 struct Leistenmass {
     QFont schrift;
     int luecke;
     std::bitset<verzicht.size()> ohneWort;
+    std::bitset<auslagern.size()> imMenue;
 };
 
+// Place of the button's picture in one of the lists, the end for none.
+std::size_t Platz(std::span<const std::string_view> liste, const Schaltflaeche& zeile) {
+    const auto platz =
+        std::ranges::find_if(liste, [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
+    return static_cast<std::size_t>(platz - liste.begin());
+}
+
 bool OhneWort(const Schaltflaeche& zeile, const Leistenmass& mass) {
-    const auto* platz =
-        std::ranges::find_if(verzicht, [&](std::string_view bild) { return zeile.bild.starts_with(bild); });
-    const auto stelle = static_cast<std::size_t>(platz - verzicht.begin());
-    return zeile.leiste != Leiste::Kranz && platz != verzicht.end() && mass.ohneWort.test(stelle);
+    const std::size_t platz = Platz(verzicht, zeile);
+    return zeile.leiste != Leiste::Kranz && platz < verzicht.size() && mass.ohneWort.test(platz);
+}
+
+bool Ausgelagert(const Schaltflaeche& zeile, const Leistenmass& mass) {
+    const std::size_t platz = Platz(auslagern, zeile);
+    return platz < auslagern.size() && mass.imMenue.test(platz);
 }
 
 QString Aufschrift(const Schaltflaeche& zeile, const Leistenmass& mass) {
@@ -108,7 +127,7 @@ int Tastenbreite(const Schaltflaeche& zeile, const Leistenmass& mass) {
 // Whether the bar's row of buttons has that one; the end of the program is hidden while a form is open.
 bool Steht(const QWidget* pnlKranz, const Schaltflaeche& zeile, Leiste leiste) {
     const auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
-    return zeile.leiste == leiste && taste != nullptr && !taste->isHidden();
+    return zeile.leiste == leiste && taste != nullptr && (!taste->isHidden() || ImMenue(*taste));
 }
 
 // Places the buttons of one bar from the left and returns where the next would stand, in pixels.
@@ -118,6 +137,10 @@ int Aufreihen(QWidget* pnlKranz, Leiste leiste, int x, int oben, const Leistenma
             continue;
         }
         auto* taste = pnlKranz->findChild<QToolButton*>(Anzeige(zeile.name));
+        InsMenue(*taste, Ausgelagert(zeile, mass));
+        if (ImMenue(*taste)) {
+            continue;
+        }
         taste->setFont(mass.schrift);
         taste->setText(Aufschrift(zeile, mass));
         taste->setToolButtonStyle(taste->text().isEmpty() ? Qt::ToolButtonIconOnly
@@ -150,9 +173,11 @@ std::vector<Gemessen> Messen(const QWidget* pnlKranz, const QFont& schrift) {
 
 // Width that a toolbar, what stands behind it and the constant buttons need together.
 int Bedarf(std::span<const Gemessen> tasten, Leiste leiste, const Leistenmass& mass) {
-    int bedarf = Pixel(2 * leistenRand + 525_tw + 120_tw) + 4 + 24 + 4;
+    int bedarf =
+        Pixel(2 * leistenRand + 525_tw + 120_tw) + 4 + 24 + 4 + (mass.imMenue.any() ? mehrBreite : 0);
     for (const auto& [zeile, steht, wortbreite] : tasten) {
-        if (steht && (zeile->leiste == leiste || zeile->leiste == Leiste::Immer)) {
+        if (steht && (zeile->leiste == leiste || zeile->leiste == Leiste::Immer) &&
+            !Ausgelagert(*zeile, mass)) {
             bedarf += tastenbildKante + polster + (OhneWort(*zeile, mass) ? 0 : wortbreite) +
                       (zeile->abstand ? mass.luecke : 0);
         }
@@ -161,9 +186,10 @@ int Bedarf(std::span<const Gemessen> tasten, Leiste leiste, const Leistenmass& m
 }
 
 // As many captions as find their place beside the toolbar that stands: they go from the front of the list
-// until the rest fits, and what still has room then comes back.
+// until the rest fits, and what still has room then comes back. Only where no caption is left to go do
+// buttons.
 Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
-    Leistenmass mass{Schrift(8.25_pt), 7, {}};
+    Leistenmass mass{Schrift(8.25_pt), 7, {}, {}};
     const std::vector<Gemessen> tasten = Messen(pnlKranz, mass.schrift);
     const auto passt = [&] {
         return std::ranges::all_of(leistennamen, [&](const Leistenname& eintrag) {
@@ -174,6 +200,9 @@ Leistenmass LeistenmassFuer(const QWidget* pnlKranz) {
     std::size_t weg = 0;
     while (weg < verzicht.size() && !passt()) {
         mass.ohneWort.set(weg++);
+    }
+    for (std::size_t i = 0; i < auslagern.size() && !passt(); ++i) {
+        mass.imMenue.set(i);
     }
     while (weg > 0) {
         mass.ohneWort.reset(--weg);
@@ -216,6 +245,7 @@ void WerkzeugleistenBauen(QWidget* pnlKranz) {
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         SchaltflaecheBauen(pnlKranz, zeile);
     }
+    MehrBauen(pnlKranz);
     FlaggenBauen(pnlKranz);
 }
 
@@ -227,9 +257,12 @@ void WerkzeugleistenAnordnen(QWidget* pnlKranz) {
     Aufreihen(pnlKranz, Leiste::Kranz, 0, 0, mass);
     FKLeisteAnordnen(pnlKranz, mass);
     // The constant buttons end at the right edge, above the toolbars' empty right part.
-    const int laenge = Aufreihen(pnlKranz, Leiste::Immer, 0, Pixel(leistenRand), mass);
-    Aufreihen(pnlKranz, Leiste::Immer, std::max(0, pnlKranz->width() - Pixel(leistenRand) - laenge),
-              Pixel(leistenRand), mass);
+    const int laenge = Aufreihen(pnlKranz, Leiste::Immer, 0, Pixel(leistenRand), mass) +
+                       (mass.imMenue.any() ? mehrBreite : 0);
+    const int ende =
+        Aufreihen(pnlKranz, Leiste::Immer, std::max(0, pnlKranz->width() - Pixel(leistenRand) - laenge),
+                  Pixel(leistenRand), mass);
+    MehrAnordnen(pnlKranz, ende, Pixel(leistenRand), Pixel(leistenHoehe));
     for (const Schaltflaeche& zeile : Schaltflaechen()) {
         if (zeile.leiste == Leiste::Immer) {
             pnlKranz->findChild<QWidget*>(Anzeige(zeile.name))->raise();
