@@ -1,11 +1,11 @@
 #include "checking/fuehren.h"
 
 #include "core/formularfenster.h"
+#include "core/insbild.h"
 #include "core/oberflaeche.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QScrollBar>
 
 namespace {
 
@@ -13,22 +13,6 @@ constexpr int luft = 8;
 
 QRect Platz(const QWidget& element, const QWidget& flaeche) {
     return {element.mapTo(&flaeche, QPoint(0, 0)), element.size()};
-}
-
-// By how much the bar has to move so that from..to is within 0..groesse.
-void Rollen(QScrollBar& leiste, int von, int bis, int groesse) {
-    if (bis > groesse) {
-        leiste.setValue(leiste.value() + bis - groesse);
-    } else if (von < 0) {
-        leiste.setValue(leiste.value() + von);
-    }
-}
-
-void InsBild(QMdiArea& flaeche, const QWidget& element) {
-    const QWidget* sicht = flaeche.viewport();
-    const QRect platz = Platz(element, *sicht).adjusted(-luft, -luft, luft, luft);
-    Rollen(*flaeche.verticalScrollBar(), platz.top(), platz.bottom(), sicht->height());
-    Rollen(*flaeche.horizontalScrollBar(), platz.left(), platz.right(), sicht->width());
 }
 
 // To the top or to the bottom, whichever leaves the control free.
@@ -54,7 +38,7 @@ void ZumOrt(Formularfenster& form, const Befundort& ort, QWidget& liste) {
     auto* rahmen = qobject_cast<QMdiSubWindow*>(liste.parentWidget());
     if (rahmen != nullptr && rahmen->mdiArea() != nullptr) {
         const QPoint vorher = rahmen->pos();
-        InsBild(*rahmen->mdiArea(), *element);
+        InsBild(*element);
         rahmen->move(vorher); // it doesn't scroll with the form
         AusDemWeg(*rahmen, Platz(*element, *rahmen->parentWidget()));
     }

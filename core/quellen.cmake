@@ -21,6 +21,7 @@ endif()
 feldkranz_quellen(fenster
   core/bilder.cpp
   core/drehfeld.cpp core/drehfeld.h
+  core/insbild.cpp
   core/klappliste.cpp
   core/oberflaeche.cpp
   core/palettenstil.cpp core/palettenstil.h

@@ -18,6 +18,7 @@
 #include "mainwindow/hilfepanel.h"
 #include "mainwindow/hinweistexte.h"
 #include "mainwindow/menueleiste.h"
+#include "mainwindow/stationen.h"
 #include "mainwindow/texte.h"
 #include "mainwindow/werkzeugleisten.h"
 #include "periphery/tray.h"
@@ -67,6 +68,7 @@ frmMDI::frmMDI() {
     AblageBauen(pnlHilfe_);
     FortschrittsbalkenBauen(pnlHilfe_);
     MenueleisteBauen(*this);
+    StationenEinrichten(*this);
     HinweiseSetzen(*this, kerntexte::haupthinweise);
     connect(kindflaeche_, &QMdiArea::subWindowActivated, this, &frmMDI::KindGewechselt);
     findChild<QAction*>(QStringLiteral("mBackUp"))->setChecked(Spiel.OptionDatei);

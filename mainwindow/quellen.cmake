@@ -14,5 +14,6 @@ feldkranz_quellen(fenster
   mainwindow/menueleiste.cpp
   mainwindow/programmende.cpp
   mainwindow/spezialraster.cpp
+  mainwindow/stationen.cpp
   mainwindow/testbefehle.cpp
   mainwindow/werkzeugleisten.cpp)
