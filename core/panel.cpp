@@ -1,6 +1,7 @@
 #include "core/panel.h"
 
 #include "core/oberflaeche.h"
+#include "core/panelansage.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -10,6 +11,7 @@
 #include <algorithm>
 
 Panel::Panel(QWidget* eltern, const QString& name) : QFrame(eltern) {
+    PanelansageEinrichten();
     setObjectName(name);
     setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Raised));
 }
@@ -19,8 +21,20 @@ void Panel::setCaption(const QString& caption) {
         return;
     }
     caption_ = caption;
-    setAccessibleName(caption.trimmed());
+    NamenSetzen();
     update();
+    Q_EMIT captionGeaendert();
+}
+
+void Panel::setAnsage(const QString& ansage) {
+    ansage_ = ansage;
+    NamenSetzen();
+}
+
+void Panel::NamenSetzen() {
+    const QString wort = caption_.trimmed();
+    setAccessibleName(ansage_.isEmpty() || wort.isEmpty() ? ansage_ + wort
+                                                          : ansage_ + QStringLiteral(": ") + wort);
 }
 
 void Panel::setValue(double prozent) {

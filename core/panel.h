@@ -14,6 +14,8 @@ public:
 
     [[nodiscard]] QString caption() const { return caption_; }
     void setCaption(const QString& caption);
+    // What the panel is, for those who can't see its place: "Natur, Zeile 3, Punkte". Its caption follows.
+    void setAnsage(const QString& ansage);
 
     // Fill level in per cent; below 0 the panel shows none.
     [[nodiscard]] double value() const { return value_; }
@@ -27,6 +29,7 @@ public:
     void setAusrichtung(Qt::Alignment ausrichtung);
 
 Q_SIGNALS:
+    void captionGeaendert();
     void geklickt();
     void doppeltGeklickt();
 
@@ -37,7 +40,10 @@ protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
 
 private:
+    void NamenSetzen();
+
     QString caption_;
+    QString ansage_;
     double value_ = -1.0;
     QColor grund_;
     QColor schrift_;

@@ -26,6 +26,7 @@ feldkranz_quellen(fenster
   core/oberflaeche.cpp
   core/palettenstil.cpp core/palettenstil.h
   core/panel.cpp core/panel.h
+  core/panelansage.cpp
   core/taste.cpp
   core/textfeld.cpp core/textfeld.h
   core/eigenverlauf.cpp core/textpruefung.cpp core/textzeile.cpp

@@ -6,6 +6,7 @@
 #include "core/klappliste.h"
 #include "core/oberflaeche.h"
 #include "core/ziehbilder.h"
+#include "quizform/fkansage.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
 #include "quizform/texte.h"
@@ -49,6 +50,7 @@ frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_
     for (int n = 1; n <= anzahlFelder; ++n) {
         FeldBauen(n);
     }
+    AnsagenEinrichten(*this);
     ListenBauen();
     BilderBauen();
     Anordnen(masse);
@@ -125,9 +127,6 @@ void frmFKFragen::FeldBauen(int n) {
     pnlSpezial.at(Stelle(n)) = spezial;
     txtFrage.at(Stelle(n)) = new Textfeld(this, Name("txtFrage", n));
     txtAntwort.at(Stelle(n)) = new Textfeld(this, Name("txtAntwort", n));
-    const QString ort = QStringLiteral(" %1, Wissensgebiet %2").arg(ZeileVon(n)).arg(GebietVon(n));
-    txtFrage.at(Stelle(n))->setAccessibleName(QStringLiteral("Frage") + ort);
-    txtAntwort.at(Stelle(n))->setAccessibleName(QStringLiteral("Antwort") + ort);
 }
 
 void frmFKFragen::ListenBauen() {

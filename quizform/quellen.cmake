@@ -1,9 +1,11 @@
 feldkranz_quellen(modell
   quizform/feldbild.cpp
   quizform/feldregeln.cpp
+  quizform/zellenansage.cpp
   quizform/ziehregeln.cpp)
 feldkranz_quellen(fenster
   quizform/fkanordnung.cpp
+  quizform/fkansage.cpp
   quizform/fkblanko.cpp
   quizform/fkereignisse.cpp
   quizform/fkfarben.cpp

@@ -72,6 +72,7 @@ private:
 
 void FormularjournalTest::init() {
     lauf.Vorbereiten();
+    FormularjournalAbwarten(); // the last form's journal may still be on its way out
     for (const QString& rest : Reste()) {
         QFile::remove(lauf.programm().ordner().nativ(QStringLiteral("KRANZ/") + rest));
     }
