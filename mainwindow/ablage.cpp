@@ -84,6 +84,8 @@ std::string AblageAntwort() {
 void AblageBauen(QWidget* hilfepanel) {
     pnlCopyF = PanelBauen(hilfepanel, "pnlCopyF");
     pnlCopyA = PanelBauen(hilfepanel, "pnlCopyA");
+    pnlCopyF->setAnsage(QStringLiteral("Abgelegte Frage"));
+    pnlCopyA->setAnsage(QStringLiteral("Abgelegte Antwort"));
     pnlCopyF->setFocusPolicy(Qt::TabFocus);
     pnlCopyF->installEventFilter(new Druckwaechter(pnlCopyF));
     TastenEinrichten(pnlCopyF, [](Qt::KeyboardModifiers tasten) { Druck(tasten); });

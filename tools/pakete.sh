@@ -6,7 +6,8 @@ pakete_bau=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n qt6-pdf-dev
 pakete_lauf=(libqt6gui6 qt6-qpa-plugins fonts-liberation fonts-dejavu-core)
 # A virtual screen, and what turns a printed page into a picture.
 pakete_schirm=(xvfb openbox x11-xkb-utils xkb-data poppler-utils)
-pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-client printer-driver-cups-pdf)
+pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-client printer-driver-cups-pdf
+  dbus at-spi2-core python3-pyatspi)
 pakete_stil=(clang-format python3)
 pakete_lint=(clang clang-tidy cppcheck python3)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)

@@ -1,0 +1,158 @@
+#!/usr/bin/python3
+"""Walks the running program as a screen reader does, over the desktop's accessibility bus.
+
+Usage: vorlesen.py <program folder>
+Started on a virtual screen with a bus of its own (vorlesen.sh). Every control that one can do something with
+must have a name; the cells of the form are found by area, row and part, with their letter and points.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import pyatspi
+
+FRIST = 30.0  # seconds
+BEDIENBAR = {
+    pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TOGGLE_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON,
+    pyatspi.ROLE_TEXT, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_TABLE, pyatspi.ROLE_LIST,
+    pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_MENU, pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_CHECK_MENU_ITEM,
+}
+# What the toolkit builds these controls of is told by the whole.
+GANZES = {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_SCROLL_BAR}
+
+fehler = []
+
+
+def warten(bedingung, was):
+    ende = time.monotonic() + FRIST
+    while time.monotonic() < ende:
+        try:
+            ergebnis = bedingung()
+        except Exception:  # a control that has just gone
+            ergebnis = None
+        if ergebnis:
+            return ergebnis
+        time.sleep(0.05)
+    raise SystemExit(f"{was} didn't come")
+
+
+def kinder(element):
+    return [kind for kind in element if kind is not None]
+
+
+def alle(element):
+    yield element
+    if element.getRole() not in GANZES:
+        for kind in kinder(element):
+            yield from alle(kind)
+
+
+def sichtbar(element):
+    return element.getState().contains(pyatspi.STATE_SHOWING)
+
+
+def programm():
+    return next((a for a in kinder(pyatspi.Registry.getDesktop(0)) if a.name == "Feldkranz!"), None)
+
+
+def finden(name, rolle=None):
+    for element in alle(programm()):
+        if element.name == name and sichtbar(element) and (rolle is None or element.getRole() == rolle):
+            return element
+    return None
+
+
+def fenster(titel):
+    """A window with that title, by itself or within the main window."""
+    for element in alle(programm()):
+        if element.name.strip() == titel and sichtbar(element) and element.getRole() not in BEDIENBAR:
+            return element
+    return None
+
+
+def namen_pruefen(wo, woher):
+    gezaehlt = 0
+    for element in alle(wo):
+        if element.getRole() in BEDIENBAR and sichtbar(element):
+            gezaehlt += 1
+            if not element.name.strip():
+                fehler.append(f"{woher}: a {element.getRoleName()} without a name at {element.get_index_in_parent()}"
+                              f" of {element.parent.name!r}")
+    if gezaehlt == 0:
+        fehler.append(f"{woher}: nothing to do anything with")
+
+
+def taste(*tasten):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *tasten], check=True)
+
+
+def zellen_pruefen():
+    da = {(element.name, element.getRole()) for element in alle(programm()) if sichtbar(element)}
+    for gebiet in range(1, 7):
+        for zeile in range(1, 6):
+            ort = f"Gebiet {gebiet}, Zeile {zeile}, "
+            for teil in ("Frage", "Antwort"):
+                if (ort + teil, pyatspi.ROLE_TEXT) not in da:
+                    fehler.append(f"no {ort}{teil}")
+            if (ort + "Spezialfeld", pyatspi.ROLE_PUSH_BUTTON) not in da:
+                fehler.append(f"no {ort}Spezialfeld")
+            if not any(name.startswith(ort + "Punkte: ") for name, _ in da):
+                fehler.append(f"no {ort}Punkte")
+
+
+def tippen_pruefen():
+    zelle = warten(lambda: finden("Gebiet 2, Zeile 3, Frage"), "the cell")
+    zelle.queryComponent().grabFocus()
+    warten(lambda: zelle.getState().contains(pyatspi.STATE_FOCUSED), "the focus")
+    subprocess.run(["xdotool", "type", "Wer"], check=True)
+    warten(lambda: zelle.queryText().getText(0, -1) == "Wer", "the text")
+
+
+def fenster_pruefen():
+    for kuerzel, titel in (("ctrl+f", "Fragen suchen"), ("ctrl+b", "Brett füllen"), ("F9", "Formular prüfen"),
+                           ("ctrl+shift+p", "Druckvorschau")):
+        taste(kuerzel)
+        namen_pruefen(warten(lambda gesucht=titel: fenster(gesucht), titel), titel)
+        taste("Escape")
+        warten(lambda gesucht=titel: fenster(gesucht) is None, f"the end of {titel}")
+
+
+def gang(ordner):
+    warten(programm, "the program")
+    warten(lambda: taste("Return") or fenster("Feldkranz! 2008"), "the main window")
+    namen_pruefen(warten(lambda: fenster("Dateiliste"), "the list of forms"), "Dateiliste")
+    warten(lambda: finden("Neues Formular für Feldkranz anlegen.", pyatspi.ROLE_PUSH_BUTTON), "the bar")
+    taste("ctrl+n")
+    frage = warten(lambda: fenster("Neues Feldkranz-Formular"), "the question")
+    namen_pruefen(frage, "the question")
+    taste("alt+j")
+    warten(lambda: finden("Gebiet 1, Zeile 1, Frage"), "the form")
+    zellen_pruefen()
+    namen_pruefen(fenster("Feldkranz! 2008"), "the main window")
+    tippen_pruefen()
+    fenster_pruefen()
+
+
+def main():
+    with tempfile.TemporaryDirectory() as ablage:
+        ordner = pathlib.Path(ablage, "Feldkranz")
+        shutil.copytree(sys.argv[1], ordner)
+        umgebung = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        lauf = subprocess.Popen([ordner / "feldkranz"], env=umgebung)
+        try:
+            gang(ordner)
+        finally:
+            lauf.kill()
+            lauf.wait()
+    for zeile in fehler:
+        print(zeile)
+    return 1 if fehler else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
