@@ -6,6 +6,9 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr Farbe randfarbe{120, 150, 200};
@@ -34,6 +37,24 @@ void UmrandungenZeichnen(Zeichnung& auflage, const Blattsatz& blatt, std::size_t
     }
 }
 
+// Texts that follow one another, by their fonts: black on black, their order can't be seen, and the recorded
+// picture keeps each change of a font.
+Zeichnung NachSchriften(Zeichnung seite) {
+    const auto text = [](const Element& element) { return std::get_if<Textstelle>(&element); };
+    for (auto von = seite.begin(); von != seite.end();) {
+        von = std::find_if(von, seite.end(), text);
+        const auto bis = std::find_if_not(von, seite.end(), text);
+        std::stable_sort(von, bis, [&text](const Element& a, const Element& b) {
+            const Druckschrift& links = text(a)->schrift;
+            const Druckschrift& rechts = text(b)->schrift;
+            return links.groesse == rechts.groesse ? links.fett < rechts.fett
+                                                   : links.groesse < rechts.groesse;
+        });
+        von = bis;
+    }
+    return seite;
+}
+
 } // namespace
 
 void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig, const Druckschriften& schriften) {
@@ -45,7 +66,8 @@ void VorschauMalen(QPrinter& drucker, const Fertigblatt& fertig, const Druckschr
         if (i > 0) {
             drucker.newPage();
         }
-        ZeichnungMalen(maler, fertig.blatt.seiten.at(i), schriften, fertig.masse.links, fertig.masse.oben);
+        ZeichnungMalen(maler, NachSchriften(fertig.blatt.seiten.at(i)), schriften, fertig.masse.links,
+                       fertig.masse.oben);
         Zeichnung auflage;
         RandZeichnen(auflage, fertig.masse);
         UmrandungenZeichnen(auflage, fertig.blatt, i);
