@@ -31,7 +31,7 @@ std::optional<std::string_view> Angaben(std::string_view bytes) {
     if (std::from_chars(verweis->data(), ende, nummer).ec != std::errc()) {
         return std::nullopt;
     }
-    const auto objekt = Hinter(bytes, "\n" + std::to_string(nummer) + " 0 obj");
+    const auto objekt = Hinter(bytes, std::string("\n").append(std::to_string(nummer)).append(" 0 obj"));
     return objekt ? std::optional(objekt->substr(0, objekt->find("endobj"))) : std::nullopt;
 }
 
