@@ -91,6 +91,7 @@ void PdfObjektleser::Schliessen(const PdfMarke& marke) {
     if (!klammern_.empty()) {
         WertVerlaengern(marke);
     } else if (marke.text == ">>") {
+        PdfVerlange(!WertErwartet());
         objekt_.listenende = marke.anfang;
     }
 }

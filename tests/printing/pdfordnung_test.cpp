@@ -287,6 +287,7 @@ std::vector<Seltsam> SeltsameObjekte() {
             {"brackets across each other", Mit(0, "<< /A [ 1 >> ]")},
             {"a bracket that nothing opens", Mit(0, ") 1")},
             {"half a bracket", Mit(0, "<< /A 1 > >")},
+            {"a name without a value", Mit(0, "<< /A 1 /B >>")},
             {"a text that doesn't close", Mit(0, "<< /A (1 >>")},
             {"a text that ends in a backslash", Mit(0, "<< /A (1\\) >>")},
             {"digits that don't close", Mit(0, "<< /A <12 ")},
