@@ -59,6 +59,9 @@ void BefehlVerbinden(QAbstractButton* schaltflaeche);
 
 // Puts a child window into the main window and gives its frame; the window itself decides about its closing.
 QMdiSubWindow* KindfensterAufnehmen(QWidget* fenster);
+// Gives the open form's window the size that the user wants or the room allows; in its original size it stays
+// where it stands.
+void FormularEinpassen();
 // Content of the active child window, nullptr for none.
 QWidget* AktivesKind();
 // Brings the child window around that content to the front.

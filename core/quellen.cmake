@@ -4,6 +4,7 @@ feldkranz_quellen(modell
   core/formularfenster.cpp
   core/fortschritt.cpp
   core/laufzeitfehler.cpp
+  core/massstab.cpp
   core/meldungstext.cpp
   core/pfadname.cpp
   core/schritt.cpp
@@ -23,6 +24,7 @@ feldkranz_quellen(fenster
   core/drehfeld.cpp core/drehfeld.h
   core/insbild.cpp
   core/klappliste.cpp
+  core/massfenster.cpp core/massfenster.h
   core/oberflaeche.cpp
   core/palettenstil.cpp core/palettenstil.h
   core/panel.cpp core/panel.h

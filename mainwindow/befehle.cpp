@@ -12,6 +12,7 @@
 #include "forms/quizformulare.h"
 #include "mainwindow/extras.h"
 #include "mainwindow/formularbefehle.h"
+#include "mainwindow/formulargroesse.h"
 #include "mainwindow/testbefehle.h"
 #include "mainwindow/texte.h"
 #include "periphery/frmHomepage.h"
@@ -129,6 +130,10 @@ constexpr std::array zuordnungen{
     Zuordnung{"mExtra(5)", FuellenZeigen},
     Zuordnung{"mExtra(6)", PruefungZeigen},
     Zuordnung{"mExtra(8)", VorschauZeigen},
+    Zuordnung{"mExtra(10)", befehle::FormularGroesser},
+    Zuordnung{"mExtra(11)", befehle::FormularKleiner},
+    Zuordnung{"mExtra(12)", befehle::FormularOriginal},
+    Zuordnung{"mExtra(13)", befehle::FormularAnpassen},
     Zuordnung{"mBackUpHB", befehle::HBSicherungUmschalten},
     Zuordnung{"cmdIni", VorgabenZeigen},
     Zuordnung{"grpFKHB", befehle::ThemenquelleUebernehmen},

@@ -8,6 +8,7 @@
 #include "filling/fuellen.h"
 #include "forms/einsetzen.h"
 #include "forms/verlauf.h"
+#include "mainwindow/formulargroesse.h"
 #include "search/suchen.h"
 
 #include <QAction>
@@ -33,13 +34,15 @@ void EintragSetzen(QAction& eintrag, const QString& text, const std::string& sch
     eintrag.setEnabled(!schritt.empty() || (!FormularVorn() && Kasten() != nullptr));
 }
 
-// In the rule document the same key goes on searching there.
-void SuchtasteZeigen(QMainWindow& fenster) {
-    auto* suchen = fenster.findChild<QAction*>(QStringLiteral("mExtra(4)"));
+// In the rule document the same keys search and scale there.
+void TastenZeigen(QMainWindow& fenster) {
     const QWidget* kind = AktivesKind();
     const bool frei =
         kind == nullptr || kind->property("tag") != Anzeige(Fensterzeichen(Kindfenster::Spielregel));
-    suchen->setShortcutContext(frei ? Qt::WindowShortcut : Qt::WidgetShortcut);
+    for (const char* name : {"mExtra(4)", "mExtra(10)", "mExtra(11)", "mExtra(12)"}) {
+        fenster.findChild<QAction*>(QLatin1String(name))
+            ->setShortcutContext(frei ? Qt::WindowShortcut : Qt::WidgetShortcut);
+    }
 }
 
 void Zeigen(QMainWindow& fenster) {
@@ -49,17 +52,19 @@ void Zeigen(QMainWindow& fenster) {
         EintragSetzen(*zurueck, QStringLiteral("&Rückgängig"), FormularVorn() ? Rueckschritt() : "");
         EintragSetzen(*vor, QStringLiteral("&Wiederholen"), FormularVorn() ? Vorschritt() : "");
     }
+    FormulargroesseZeigen();
     FuellenAngleichen();
 }
 
 } // namespace
 
 void ExtrasEinrichten(QMainWindow& fenster) {
+    FormulargroesseEinrichten(fenster);
     VerlaufEinrichten(fenster, [&fenster] { Zeigen(fenster); });
     if (auto* flaeche = fenster.findChild<QMdiArea*>(); flaeche != nullptr) {
         QObject::connect(flaeche, &QMdiArea::subWindowActivated, &fenster, [&fenster] {
             Zeigen(fenster);
-            SuchtasteZeigen(fenster);
+            TastenZeigen(fenster);
         });
     }
     BesucheVerfolgen(fenster);

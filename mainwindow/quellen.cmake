@@ -5,6 +5,7 @@ feldkranz_quellen(fenster
   mainwindow/extras.cpp
   mainwindow/flaggen.cpp
   mainwindow/formularbefehle.cpp
+  mainwindow/formulargroesse.cpp
   mainwindow/fortschrittsbalken.cpp
   mainwindow/frmMDI.cpp mainwindow/frmMDI.h
   mainwindow/frmStart.cpp mainwindow/frmStart.h

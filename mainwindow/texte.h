@@ -82,6 +82,17 @@ inline constexpr NachrichtText brennek{
     4, "Programmierer", "Programm-Design und Computer-Umsetzung\r\n\r\nBrennek\r\nbrennek@feldkranz.example",
     0, 1001};
 
+// How large the form is now on the screen, in per cent.
+inline constexpr std::string_view formulargroesse = " Das Formular ist jetzt auf {} % seiner Größe.";
+inline constexpr std::string_view formularGroesstes =
+    " Größer mache ich das Formular nicht, es ist schon auf {} % seiner Größe.";
+inline constexpr std::string_view formularKleinstes =
+    " Kleiner mache ich das Formular nicht, es ist schon auf {} % seiner Größe.";
+inline constexpr std::string_view formularAngepasst =
+    " Das Formular richtet sich jetzt nach dem Fenster und ist auf {} % seiner Größe.";
+inline constexpr std::string_view formularFest =
+    " Das Formular richtet sich nicht mehr nach dem Fenster und bleibt auf {} % seiner Größe.";
+
 inline constexpr std::string_view kranzordner = "\\KRANZ";
 inline constexpr std::string_view startbild = "\\BITMAP\\FK_START.bmp";
 inline constexpr std::string_view wissensliste = "\\WISSEN\\WISSEN.TXT";

@@ -1,5 +1,6 @@
 // Where the controls of the quiz form stand, in which order Tab visits them and what they tell about
 // themselves.
+#include "core/bilder.h"
 #include "core/oberflaeche.h"
 #include "quizform/fkereignisse.h"
 #include "quizform/fkformular.h"
@@ -16,53 +17,76 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
-void FeldAnordnen(frmFKFragen& form, int n, const FormMasse& masse) {
+void FeldAnordnen(frmFKFragen& form, int n, const FormMasse& masse, Massstab massstab) {
     const Twips x = FormMasse::links + (GebietVon(n) - 1) * masse.SpaltenRaster();
     const Twips y = masse.RasterOben() + (ZeileVon(n) - 1) * masse.ZeilenRaster();
     const Twips textLinks = x + masse.punkteBreite + masse.textAbstand;
-    TwipsGeometrie(form.pnlPunkte.at(Stelle(n)), x, y, masse.punkteBreite, masse.frageHoehe);
+    TwipsGeometrie(form.pnlPunkte.at(Stelle(n)), x, y, masse.punkteBreite, masse.frageHoehe, massstab);
     TwipsGeometrie(form.pnlSpezial.at(Stelle(n)), x, y + masse.frageHoehe, masse.punkteBreite,
-                   masse.antwortHoehe - 15_tw);
-    TwipsGeometrie(form.txtFrage.at(Stelle(n)), textLinks, y, masse.frageBreite, masse.frageHoehe);
+                   masse.antwortHoehe - 15_tw, massstab);
+    TwipsGeometrie(form.txtFrage.at(Stelle(n)), textLinks, y, masse.frageBreite, masse.frageHoehe, massstab);
     TwipsGeometrie(form.txtAntwort.at(Stelle(n)), textLinks, y + masse.frageHoehe - 15_tw, masse.frageBreite,
-                   masse.antwortHoehe);
-    TwipsGeometrie(form.shpFrage.at(Stelle(n)), textLinks - 15_tw, y - 15_tw, masse.frageBreite + 45_tw,
-                   masse.frageHoehe + masse.antwortHoehe + 30_tw);
+                   masse.antwortHoehe, massstab);
+    // The frame sticks out on all sides, at every size.
+    const int davor = massstab.Strich(Pixel(15_tw));
+    const int dahinter = massstab.Strich(Pixel(30_tw));
+    form.shpFrage.at(Stelle(n))->setGeometry(form.txtFrage.at(Stelle(n))
+                                                 ->geometry()
+                                                 .united(form.txtAntwort.at(Stelle(n))->geometry())
+                                                 .adjusted(-davor, -davor, dahinter, dahinter));
 }
 
 // The label stands at the left of its panel, the box takes the rest.
-void KopfzeileEinpassen(Panel* panel, QWidget* zeile) {
-    const int beschriftung = panel->fontMetrics().horizontalAdvance(panel->caption()) + 8;
-    zeile->setGeometry(beschriftung, 2, panel->width() - beschriftung - 3, panel->height() - 4);
+void KopfzeileEinpassen(Panel* panel, QWidget* zeile, Massstab massstab) {
+    const int links = panel->fontMetrics().horizontalAdvance(panel->caption()) + massstab.Kante(8);
+    const int oben = std::min(massstab.Strich(2), 2);
+    zeile->setGeometry(links, oben, panel->width() - links - oben - 1, panel->height() - 2 * oben);
 }
 
 } // namespace
 
-void frmFKFragen::Anordnen(const FormMasse& masse) {
-    setFixedSize(Pixel(masse.InnenBreite()), Pixel(masse.InnenHoehe()));
+QSize frmFKFragen::Originalgroesse() const {
+    return {Pixel(masse_->InnenBreite()), Pixel(masse_->InnenHoehe())};
+}
+
+void frmFKFragen::KopfAnordnen(Massstab massstab) {
+    const FormMasse& masse = *masse_;
     const Twips raster = masse.SpaltenRaster();
     TwipsGeometrie(pnlKranz, FormMasse::links, FormMasse::kopfOben, 2 * raster - masse.spaltenAbstand,
-                   masse.kopfHoehe);
+                   masse.kopfHoehe, massstab);
     int spalte = 2;
     for (QWidget* teil : std::initializer_list<QWidget*>{pnlDatum, pnlZeit, pnlNr, cmdFKSchliessen}) {
         TwipsGeometrie(teil, FormMasse::links + spalte++ * raster, FormMasse::kopfOben, masse.TitelBreite(),
-                       masse.kopfHoehe);
+                       masse.kopfHoehe, massstab);
     }
-    pnlKranz->setFont(Schrift(12_pt, true));
-    KopfzeileEinpassen(pnlDatum, txtDatum);
-    KopfzeileEinpassen(pnlZeit, txtZeit);
-    KopfzeileEinpassen(pnlNr, txtNr);
+    pnlKranz->setFont(Schrift(12_pt, true, massstab));
+    KopfzeileEinpassen(pnlDatum, txtDatum, massstab);
+    KopfzeileEinpassen(pnlZeit, txtZeit, massstab);
+    KopfzeileEinpassen(pnlNr, txtNr, massstab);
+    cmdFKSchliessen->setIconSize(QSize(tastenbildKante, tastenbildKante) * massstab.prozent() /
+                                 Massstab::original);
+}
+
+void frmFKFragen::Anordnen(Massstab massstab) {
+    const FormMasse& masse = *masse_;
+    const QSize groesse = Originalgroesse();
+    setFixedSize(massstab.Kante(groesse.width()), massstab.Kante(groesse.height()));
+    setFont(Schrift(masse.schrift, false, massstab));
+    KopfAnordnen(massstab);
     for (int a = 1; a <= anzahlGebiete; ++a) {
         Panel* titel = pnlWissen.at(Stelle(a));
-        TwipsGeometrie(titel, FormMasse::links + (a - 1) * raster, masse.TitelOben(), masse.TitelBreite(),
-                       masse.titelHoehe);
+        TwipsGeometrie(titel, FormMasse::links + (a - 1) * masse.SpaltenRaster(), masse.TitelOben(),
+                       masse.TitelBreite(), masse.titelHoehe, massstab);
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
-        FeldAnordnen(*this, n, masse);
-        // Two lines of an answer fit its box only without the toolkit's own margin.
-        txtFrage.at(Stelle(n))->document()->setDocumentMargin(1);
-        txtAntwort.at(Stelle(n))->document()->setDocumentMargin(1);
+        FeldAnordnen(*this, n, masse, massstab);
+        // Two lines of an answer fit its box only without the toolkit's own margin, and a small one without
+        // any.
+        const int saum = massstab.prozent() < Massstab::original ? 0 : 1;
+        txtFrage.at(Stelle(n))->document()->setDocumentMargin(saum);
+        txtAntwort.at(Stelle(n))->document()->setDocumentMargin(saum);
     }
+    OffeneListeStellen(*this);
 }
 
 QPoint frmFKFragen::Platz(QSize mitRahmen, QPoint wieGeoeffnet) const {

@@ -52,10 +52,18 @@ int FokusZelle(const frmFKFragen& form) {
     return 0;
 }
 
-// Puts a list over a panel and opens it.
-void ListeZeigen(frmFKFragen& form, QComboBox* liste, QWidget* panel, int breite) {
+// A letter's list is wider than its panel.
+void ListeStellen(const frmFKFragen& form, QComboBox* liste, const QWidget* panel) {
+    const int breite = liste == form.cmbSpezial
+                           ? std::max(form.massstab().Kante(140), liste->sizeHint().width())
+                           : panel->width();
     const int links = std::min(panel->x(), form.width() - breite - 2);
-    liste->setGeometry(links, panel->y(), breite, std::max(panel->height(), 22));
+    liste->setGeometry(links, panel->y(), breite, std::max(panel->height(), form.massstab().Kante(22)));
+}
+
+// Puts a list over a panel and opens it.
+void ListeZeigen(const frmFKFragen& form, QComboBox* liste, QWidget* panel) {
+    ListeStellen(form, liste, panel);
     panel->hide();
     liste->show();
     liste->raise();
@@ -117,6 +125,15 @@ void FK_EingabeGilt() {
     }
 }
 
+void OffeneListeStellen(frmFKFragen& form) {
+    if (!form.cmbSpezial->isHidden()) {
+        ListeStellen(form, form.cmbSpezial, form.pnlSpezial.at(Stelle(form.AktuellesFeld)));
+    }
+    if (!form.cmbWissen->isHidden()) {
+        ListeStellen(form, form.cmbWissen, form.pnlWissen.at(Stelle(form.AktuellesFeld)));
+    }
+}
+
 void ListenSchliessen(frmFKFragen& form) {
     SpezialListeSchliessen(form);
     WissenListeSchliessen(form);
@@ -160,7 +177,7 @@ void SpezialListeOeffnen(frmFKFragen& form, int feld) {
             form.cmbSpezial->setCurrentIndex(i);
         }
     }
-    ListeZeigen(form, form.cmbSpezial, panel, std::max(140, form.cmbSpezial->sizeHint().width()));
+    ListeZeigen(form, form.cmbSpezial, panel);
 }
 
 void SpezialGewaehlt(frmFKFragen& form, int eintrag) {
@@ -191,7 +208,7 @@ void WissenListeOeffnen(frmFKFragen& form, int gebiet) {
     form.AktuellesFeld = gebiet;
     Panel* panel = form.pnlWissen.at(Stelle(gebiet));
     form.cmbWissen->setCurrentIndex(form.cmbWissen->findText(panel->caption()));
-    ListeZeigen(form, form.cmbWissen, panel, panel->width());
+    ListeZeigen(form, form.cmbWissen, panel);
 }
 
 void WissenGewaehlt(frmFKFragen& form, int eintrag) {

@@ -13,6 +13,8 @@ void SpezialListeOeffnen(frmFKFragen& form, int feld);
 void SpezialGewaehlt(frmFKFragen& form, int eintrag);
 void WissenListeOeffnen(frmFKFragen& form, int gebiet);
 void WissenGewaehlt(frmFKFragen& form, int eintrag);
+// Puts a list that is open over its panel, wherever that is now.
+void OffeneListeStellen(frmFKFragen& form);
 // Takes an open list away without a choice; the panels come back.
 void ListenSchliessen(frmFKFragen& form);
 

@@ -55,6 +55,7 @@ void Platzieren() {
         return; // without a main window the form stands alone
     }
     rahmen->move(fenster->Platz(rahmen->size(), rahmen->pos()));
+    FormularEinpassen();
 }
 
 // The child window around the form, or the form itself where it stands alone.

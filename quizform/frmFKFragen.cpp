@@ -30,14 +30,14 @@ QString Name(const char* feld, int n) {
 
 } // namespace
 
-frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_(std::move(darfSchliessen)) {
+frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen)
+    : darfSchliessen_(std::move(darfSchliessen)), masse_(&FormMasseFuer(HolAuflösungX())) {
     setObjectName(QStringLiteral("frmFKFragen"));
     setProperty("tag", Anzeige(Fensterzeichen(Formart::Quiz)));
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
     // Face and colours first: the controls take them over as they are made, all in one go.
-    const FormMasse& masse = FormMasseFuer(HolAuflösungX());
-    setFont(Schrift(masse.schrift));
+    setFont(Schrift(masse_->schrift));
     if (Spiel.FarbeHintergrund == 0) {
         Spiel.FarbeHintergrund = 7;
     }
@@ -53,7 +53,7 @@ frmFKFragen::frmFKFragen(std::function<bool()> darfSchliessen) : darfSchliessen_
     AnsagenEinrichten(*this);
     ListenBauen();
     BilderBauen();
-    Anordnen(masse);
+    Anordnen(Massstab());
     TabfolgeSetzen();
     HinweiseSetzen();
     EreignisseVerbinden();

@@ -3,6 +3,7 @@
 // that act on the controls in quizform/fkformular.h and its sources.
 #pragma once
 
+#include "core/massfenster.h"
 #include "core/panel.h"
 #include "core/textfeld.h"
 #include "quizform/formmasse.h"
@@ -11,7 +12,6 @@
 
 #include <QComboBox>
 #include <QPushButton>
-#include <QWidget>
 
 #include <array>
 #include <functional>
@@ -20,7 +20,7 @@
 template <typename Steuerelement>
 using JeFeld = std::array<Steuerelement*, anzahlFelder + 1>; // index 0 isn't used
 
-class frmFKFragen : public QWidget {
+class frmFKFragen : public Massfenster {
     Q_OBJECT
 
 public:
@@ -31,6 +31,7 @@ public:
     [[nodiscard]] int HolAuflösungX() const;
     [[nodiscard]] int HolAuflösungY() const;
 
+    [[nodiscard]] QSize Originalgroesse() const override;
     // Where the window belongs in the main window's child area, for its size with the frame.
     [[nodiscard]] QPoint Platz(QSize mitRahmen, QPoint wieGeoeffnet) const;
 
@@ -77,6 +78,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
+    void Auslegen(Massstab massstab) override { Anordnen(massstab); }
 
 private:
     void KopfBauen();
@@ -84,10 +86,12 @@ private:
     void FeldBauen(int n);
     void ListenBauen();
     void BilderBauen();
-    void Anordnen(const FormMasse& masse);
+    void Anordnen(Massstab massstab);
+    void KopfAnordnen(Massstab massstab);
     void TabfolgeSetzen();
     void HinweiseSetzen();
     void EreignisseVerbinden();
 
     std::function<bool()> darfSchliessen_;
+    const FormMasse* masse_; // of the class chosen when the window was made
 };

@@ -49,7 +49,8 @@ Kopfwahl WahlBauen(QWidget* eltern, const QString& wort, std::string_view aufsch
 
 } // namespace
 
-frmHBFragen::frmHBFragen(std::function<bool()> darfSchliessen) : darfSchliessen_(std::move(darfSchliessen)) {
+frmHBFragen::frmHBFragen(std::function<bool()> darfSchliessen)
+    : darfSchliessen_(std::move(darfSchliessen)), masse_(&TestMasseFuer(Bildschirmgroesse(this).width())) {
     setObjectName(QStringLiteral("frmHBFragen"));
     setProperty("tag", Anzeige(Fensterzeichen(Formart::Test)));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -60,7 +61,8 @@ frmHBFragen::frmHBFragen(std::function<bool()> darfSchliessen) : darfSchliessen_
         ZeileBauen(n);
     }
     FussBauen();
-    Anordnen(TestMasseFuer(Bildschirmgroesse(this).width()));
+    UeberschriftenBauen();
+    Anordnen(Massstab());
     TabfolgeSetzen();
     if (Spiel.FarbeHintergrund == 0) {
         Spiel.FarbeHintergrund = 7;
@@ -101,6 +103,14 @@ void frmHBFragen::ListenFuellen() {
     }
     for (const std::string_view eintrag : hbtexte::gruppenListe) {
         gruppe.liste->addItem(Anzeige(eintrag));
+    }
+}
+
+void frmHBFragen::UeberschriftenBauen() {
+    for (const auto& [name, wort] : {std::pair{"lblFrage", "Frage"}, std::pair{"lblAntwort", "Antwort"},
+                                     std::pair{"lblPunkte", "Punkte"}}) {
+        auto* ueberschrift = new QLabel(QLatin1String(wort), this);
+        ueberschrift->setObjectName(QLatin1String(name));
     }
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/drehfeld.h"
+#include "core/massfenster.h"
 #include "core/panel.h"
 #include "core/textfeld.h"
 #include "testform/formmasse.h"
@@ -13,7 +14,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QToolButton>
-#include <QWidget>
 
 #include <array>
 #include <functional>
@@ -29,13 +29,14 @@ struct Kopfwahl {
     QToolButton* taste = nullptr;
 };
 
-class frmHBFragen : public QWidget {
+class frmHBFragen : public Massfenster {
     Q_OBJECT
 
 public:
     // darfSchliessen is asked before the window closes.
     explicit frmHBFragen(std::function<bool()> darfSchliessen);
 
+    [[nodiscard]] QSize Originalgroesse() const override;
     // Where the window belongs in the main window's child area, for its size with the frame.
     [[nodiscard]] QPoint Platz(QSize mitRahmen, QPoint wieGeoeffnet) const;
     // Paints the background for FarbeHintergrund.
@@ -64,18 +65,21 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
+    void Auslegen(Massstab massstab) override { Anordnen(massstab); }
 
 private:
     void KopfBauen();
     void ListenFuellen();
     void ZeileBauen(int n);
     void FussBauen();
-    void Anordnen(const TestMasse& masse);
-    void KopfAnordnen(const TestMasse& masse);
-    void FussAnordnen(const TestMasse& masse);
-    void UeberschriftenBauen(const TestMasse& masse);
+    void UeberschriftenBauen();
+    void Anordnen(Massstab massstab);
+    void KopfAnordnen(Massstab massstab);
+    void UeberschriftenAnordnen(Massstab massstab);
+    void FussAnordnen(Massstab massstab);
     void TabfolgeSetzen();
     void HinweiseSetzen();
 
     std::function<bool()> darfSchliessen_;
+    const TestMasse* masse_; // of the class chosen when the window was made
 };

@@ -14,91 +14,99 @@ std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
 }
 
-void ZeileAnordnen(frmHBFragen& form, int n, const TestMasse& masse) {
+void ZeileAnordnen(frmHBFragen& form, int n, const TestMasse& masse, Massstab massstab) {
     const auto i = Stelle(n);
     const int y = masse.ZeileOben(n);
-    form.pnlNr.at(i)->setGeometry(TestMasse::rand, y, masse.nummerBreite, masse.zeilenHoehe);
-    form.txtFrage.at(i)->setGeometry(masse.FrageLinks(), y, masse.frageBreite, masse.zeilenHoehe);
-    form.txtAntwort.at(i)->setGeometry(masse.AntwortLinks(), y, masse.antwortBreite, masse.zeilenHoehe);
-    form.pnlPunkte.at(i)->setGeometry(masse.PunkteLinks(), y, masse.punkteBreite, masse.zeilenHoehe);
-    form.spnPunkte.at(i)->setGeometry(masse.DrehLinks(), y, masse.drehBreite, masse.zeilenHoehe);
-    const QFont schrift = Schrift(masse.schrift);
-    form.pnlNr.at(i)->setFont(schrift);
-    form.txtFrage.at(i)->setFont(schrift);
-    form.txtAntwort.at(i)->setFont(schrift);
-    form.pnlPunkte.at(i)->setFont(Schrift(masse.schrift, true));
+    const auto setzen = [&](QWidget* teil, int x, int breite, bool fett) {
+        PixelGeometrie(teil, {x, y, breite, masse.zeilenHoehe}, massstab);
+        teil->setFont(Schrift(masse.schrift, fett, massstab));
+    };
+    setzen(form.pnlNr.at(i), TestMasse::rand, masse.nummerBreite, false);
+    setzen(form.txtFrage.at(i), masse.FrageLinks(), masse.frageBreite, false);
+    setzen(form.txtAntwort.at(i), masse.AntwortLinks(), masse.antwortBreite, false);
+    setzen(form.pnlPunkte.at(i), masse.PunkteLinks(), masse.punkteBreite, true);
+    PixelGeometrie(form.spnPunkte.at(i), {masse.DrehLinks(), y, masse.drehBreite, masse.zeilenHoehe},
+                   massstab);
 }
 
 // The panel with its button at the right, the list in the panel's place.
-void WahlAnordnen(const Kopfwahl& wahl, QRect platz, const QFont& schrift) {
+void WahlAnordnen(const Kopfwahl& wahl, QRect platz, const QFont& schrift, Massstab massstab) {
     constexpr int tastenBreite = 24;
-    wahl.panel->setGeometry(platz.adjusted(0, 0, -tastenBreite, 0));
-    wahl.taste->setGeometry(platz.right() + 1 - tastenBreite, platz.y(), tastenBreite, platz.height());
+    PixelGeometrie(wahl.panel, platz.adjusted(0, 0, -tastenBreite, 0), massstab);
+    PixelGeometrie(wahl.taste, {platz.right() + 1 - tastenBreite, platz.y(), tastenBreite, platz.height()},
+                   massstab);
     wahl.liste->setGeometry(wahl.panel->geometry());
     wahl.panel->setFont(schrift);
     wahl.liste->setFont(schrift);
 }
 
+// Behind the words on its panel.
+void GruppeAnordnen(const frmHBFragen& form, Massstab massstab) {
+    const Panel& panel = *form.gruppe.panel;
+    const int links = QFontMetrics(panel.font()).horizontalAdvance(panel.caption()) + massstab.Kante(8);
+    const int oben = std::min(massstab.Strich(2), 2);
+    form.lblGruppe->setGeometry(links, oben, panel.width() - links - oben - 1, panel.height() - 2 * oben);
+}
+
 } // namespace
 
-void frmHBFragen::Anordnen(const TestMasse& masse) {
-    setFixedSize(masse.Breite(), masse.Hoehe());
-    KopfAnordnen(masse);
-    UeberschriftenBauen(masse);
+QSize frmHBFragen::Originalgroesse() const {
+    return {masse_->Breite(), masse_->Hoehe()};
+}
+
+void frmHBFragen::Anordnen(Massstab massstab) {
+    setFixedSize(massstab.Kante(masse_->Breite()), massstab.Kante(masse_->Hoehe()));
+    KopfAnordnen(massstab);
+    UeberschriftenAnordnen(massstab);
     for (int n = 1; n <= anzahlTestfragen; ++n) {
-        ZeileAnordnen(*this, n, masse);
+        ZeileAnordnen(*this, n, *masse_, massstab);
     }
-    FussAnordnen(masse);
+    FussAnordnen(massstab);
 }
 
 // As on paper: title and subject at the left, number and group at the right of them, the name below.
-void frmHBFragen::KopfAnordnen(const TestMasse& masse) {
+void frmHBFragen::KopfAnordnen(Massstab massstab) {
+    const TestMasse& masse = *masse_;
     const int rechts = masse.AntwortLinks();
     const int linksBreite = rechts - TestMasse::rand - TestMasse::luecke;
     const int rechtsBreite = masse.Breite() - TestMasse::rand - rechts;
-    const QFont gross = Schrift(masse.kopfSchrift, true);
-    const QFont klein = Schrift(masse.schrift);
-    WahlAnordnen(titel, {TestMasse::rand, masse.KopfOben(0), linksBreite, masse.kopfHoehe}, gross);
-    WahlAnordnen(fach, {TestMasse::rand, masse.KopfOben(1), linksBreite, masse.kopfHoehe}, gross);
-    WahlAnordnen(gruppe, {rechts, masse.KopfOben(1), rechtsBreite, masse.kopfHoehe}, klein);
-    pnlTest->setGeometry(rechts, masse.KopfOben(0), rechtsBreite, masse.kopfHoehe);
-    pnlName->setGeometry(TestMasse::rand, masse.KopfOben(2), masse.Breite() - 2 * TestMasse::rand,
-                         masse.kopfHoehe);
+    const QFont gross = Schrift(masse.kopfSchrift, true, massstab);
+    const QFont klein = Schrift(masse.schrift, false, massstab);
+    WahlAnordnen(titel, {TestMasse::rand, masse.KopfOben(0), linksBreite, masse.kopfHoehe}, gross, massstab);
+    WahlAnordnen(fach, {TestMasse::rand, masse.KopfOben(1), linksBreite, masse.kopfHoehe}, gross, massstab);
+    WahlAnordnen(gruppe, {rechts, masse.KopfOben(1), rechtsBreite, masse.kopfHoehe}, klein, massstab);
+    PixelGeometrie(pnlTest, {rechts, masse.KopfOben(0), rechtsBreite, masse.kopfHoehe}, massstab);
+    PixelGeometrie(
+        pnlName, {TestMasse::rand, masse.KopfOben(2), masse.Breite() - 2 * TestMasse::rand, masse.kopfHoehe},
+        massstab);
     pnlTest->setFont(klein);
     pnlName->setFont(klein);
     lblGruppe->setFont(gross);
-    const int beschriftung = QFontMetrics(klein).horizontalAdvance(gruppe.panel->caption()) + 8;
-    lblGruppe->setGeometry(beschriftung, 2, gruppe.panel->width() - beschriftung - 3, masse.kopfHoehe - 4);
+    GruppeAnordnen(*this, massstab);
 }
 
-void frmHBFragen::UeberschriftenBauen(const TestMasse& masse) {
-    struct Spalte {
-        const char* name;
-        const char* wort;
-        int links;
-    };
-    for (const auto& [name, wort, links] : {Spalte{"lblFrage", "Frage", masse.FrageLinks()},
-                                            Spalte{"lblAntwort", "Antwort", masse.AntwortLinks()},
-                                            Spalte{"lblPunkte", "Punkte", masse.PunkteLinks()}}) {
-        auto* ueberschrift = new QLabel(QString::fromUtf8(wort), this);
-        ueberschrift->setObjectName(QLatin1String(name));
-        ueberschrift->setFont(Schrift(8_pt));
-        ueberschrift->setGeometry(links, masse.KopfOben(3) - 2, 54, TestMasse::ueberschrift);
+void frmHBFragen::UeberschriftenAnordnen(Massstab massstab) {
+    for (const auto& [name, links] :
+         {std::pair{"lblFrage", masse_->FrageLinks()}, std::pair{"lblAntwort", masse_->AntwortLinks()},
+          std::pair{"lblPunkte", masse_->PunkteLinks()}}) {
+        auto* ueberschrift = findChild<QWidget*>(QLatin1String(name));
+        ueberschrift->setFont(Schrift(8_pt, false, massstab));
+        PixelGeometrie(ueberschrift, {links, masse_->KopfOben(3) - 2, 54, TestMasse::ueberschrift}, massstab);
+        ueberschrift->resize(std::max(ueberschrift->width(), ueberschrift->sizeHint().width()),
+                             ueberschrift->height());
     }
 }
 
 // The lines that are filled in by hand, and the total below the points.
-void frmHBFragen::FussAnordnen(const TestMasse& masse) {
+void frmHBFragen::FussAnordnen(Massstab massstab) {
     const std::array<Panel*, 4> fuss{pnlGesamtpunkte, pnlNote, pnlBewertet, pnlPunktkontrolle};
-    const int breite = masse.Breite() - 2 * TestMasse::rand;
+    const int breite = masse_->Breite() - 2 * TestMasse::rand;
     const int raster = (breite + TestMasse::luecke) / static_cast<int>(fuss.size());
     int x = TestMasse::rand;
     for (Panel* panel : fuss) {
-        const bool letztes = panel == fuss.back();
-        panel->setGeometry(x, masse.FussOben(),
-                           letztes ? TestMasse::rand + breite - x : raster - TestMasse::luecke,
-                           masse.kopfHoehe);
-        panel->setFont(Schrift(masse.schrift, panel == pnlPunktkontrolle));
+        const int ende = panel == fuss.back() ? TestMasse::rand + breite : x + raster - TestMasse::luecke;
+        PixelGeometrie(panel, {x, masse_->FussOben(), ende - x, masse_->kopfHoehe}, massstab);
+        panel->setFont(Schrift(masse_->schrift, panel == pnlPunktkontrolle, massstab));
         x += raster;
     }
 }
