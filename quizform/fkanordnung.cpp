@@ -9,12 +9,32 @@
 #include "rules/spezialfelder.h"
 #include "tooltips/hinweise.h"
 
+#include <QFontMetricsF>
+#include <QtMath>
+
 #include <algorithm>
 
 namespace {
 
+constexpr int saum = 1; // two lines of an answer fit its box only without the toolkit's own margin
+
 std::size_t Stelle(int n) {
     return static_cast<std::size_t>(n);
+}
+
+// Two lines of an answer may lack a pixel or three in another size, and then their box would scroll; its
+// question spares them.
+FormMasse MitZweiZeilen(FormMasse masse, Massstab massstab, const QFont& schrift) {
+    constexpr int hoechstens = 3;
+    constexpr int drumherum = 2 + 2 * saum + 1; // frame, margins, and one that the toolkit wants to see free
+    const int noetig = 2 * qCeil(QFontMetricsF(schrift).lineSpacing()) + drumherum;
+    const Twips hoehe = TwipsAus(noetig) * Massstab::original / massstab.prozent();
+    const Twips fehlt = hoehe - masse.antwortHoehe;
+    if (!massstab.istOriginal() && fehlt > 0_tw && fehlt * massstab <= TwipsAus(hoechstens)) {
+        masse.antwortHoehe += fehlt;
+        masse.frageHoehe += -fehlt;
+    }
+    return masse;
 }
 
 void FeldAnordnen(frmFKFragen& form, int n, const FormMasse& masse, Massstab massstab) {
@@ -68,10 +88,11 @@ void frmFKFragen::KopfAnordnen(Massstab massstab) {
 }
 
 void frmFKFragen::Anordnen(Massstab massstab) {
-    const FormMasse& masse = *masse_;
+    const QFont schrift = Schrift(masse_->schrift, false, massstab);
+    const FormMasse masse = MitZweiZeilen(*masse_, massstab, schrift);
     const QSize groesse = Originalgroesse();
     setFixedSize(massstab.Kante(groesse.width()), massstab.Kante(groesse.height()));
-    setFont(Schrift(masse.schrift, false, massstab));
+    setFont(schrift);
     KopfAnordnen(massstab);
     for (int a = 1; a <= anzahlGebiete; ++a) {
         Panel* titel = pnlWissen.at(Stelle(a));
@@ -80,9 +101,6 @@ void frmFKFragen::Anordnen(Massstab massstab) {
     }
     for (int n = 1; n <= anzahlFelder; ++n) {
         FeldAnordnen(*this, n, masse, massstab);
-        // Two lines of an answer fit its box only without the toolkit's own margin, and a small one without
-        // any.
-        const int saum = massstab.prozent() < Massstab::original ? 0 : 1;
         txtFrage.at(Stelle(n))->document()->setDocumentMargin(saum);
         txtAntwort.at(Stelle(n))->document()->setDocumentMargin(saum);
     }
