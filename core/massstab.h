@@ -65,6 +65,11 @@ struct Pixelflaeche {
 [[nodiscard]] Massstab MassstabFuer(const Groessenwunsch& wunsch, Pixelflaeche original, Pixelflaeche rand,
                                     Pixelflaeche frei);
 
+// Where something is to begin so that its part from von to bis can be seen; its beginning rather than its
+// end.
+[[nodiscard]] constexpr int MitTeilZuSehen(int stelle, int von, int bis, int frei) {
+    return std::max(std::min(stelle, frei - bis), -von);
+}
 // Where something of that length is to begin so that it lies inside, or leaves nothing free where it is
 // longer.
 [[nodiscard]] constexpr int Hineingerueckt(int stelle, int laenge, int frei) {

@@ -10,6 +10,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int schmal = 20; // pixels; two digits need all of less, in a form that stands smaller
+
+} // namespace
+
 Panel::Panel(QWidget* eltern, const QString& name) : QFrame(eltern) {
     PanelansageEinrichten();
     setObjectName(name);
@@ -77,7 +83,8 @@ void Panel::paintEvent(QPaintEvent* ereignis) {
         text = QString::number(static_cast<int>(value_)) + QStringLiteral(" %");
     }
     maler.setPen(isEnabled() ? schrift() : palette().color(QPalette::Disabled, QPalette::ButtonText));
-    const QRect textflaeche = innen.adjusted(2, 0, -2, 0);
+    const int luft = innen.width() < schmal ? 0 : 2;
+    const QRect textflaeche = innen.adjusted(luft, 0, -luft, 0);
     // Blanks ahead of a caption are part of it; only what doesn't fit gives way, visibly.
     maler.drawText(textflaeche, static_cast<int>(ausrichtung_ | Qt::AlignVCenter) | Qt::TextSingleLine,
                    fontMetrics().elidedText(text, Qt::ElideRight, textflaeche.width()));

@@ -46,11 +46,28 @@ Pixelflaeche Flaeche(QSize groesse) {
     return {groesse.width(), groesse.height()};
 }
 
-// Around the same middle, but within the area as far as there is room.
-QPoint Platz(const QRect& bisher, QSize groesse, QSize frei) {
-    const int x = bisher.x() + (bisher.width() - groesse.width()) / 2;
+// The control that the user works in, within the frame; nothing for none.
+QRect Fokusort(const QWidget& rahmen) {
+    const QWidget* fokus = rahmen.window()->focusWidget();
+    return fokus == nullptr || !rahmen.isAncestorOf(fokus)
+               ? QRect()
+               : QRect(fokus->mapTo(&rahmen, QPoint(0, 0)), fokus->size());
+}
+
+// Around the same middle, but within the area as far as there is room; where there isn't, with what the user
+// works in.
+QPoint Platz(const QRect& bisher, const QWidget& rahmen, QSize frei) {
+    constexpr int rollleiste = 20; // what the area's scroll bars may cover
+    const QSize groesse = rahmen.size();
+    const QRect fokus = Fokusort(rahmen);
+    int x = bisher.x() + (bisher.width() - groesse.width()) / 2;
+    int y = bisher.y();
+    if (groesse.width() > frei.width() || groesse.height() > frei.height()) {
+        x = MitTeilZuSehen(x, fokus.left(), fokus.right() + 1, frei.width() - rollleiste);
+        y = MitTeilZuSehen(y, fokus.top(), fokus.bottom() + 1, frei.height() - rollleiste);
+    }
     return {Hineingerueckt(x, groesse.width(), frei.width()),
-            Hineingerueckt(bisher.y(), groesse.height(), frei.height())};
+            Hineingerueckt(y, groesse.height(), frei.height())};
 }
 
 void Umstellen(QMdiSubWindow& rahmen, Massfenster& inhalt, Massstab massstab, QSize rand, QSize frei) {
@@ -58,8 +75,7 @@ void Umstellen(QMdiSubWindow& rahmen, Massfenster& inhalt, Massstab massstab, QS
     const bool verschoben = bisher.topLeft() != standort.zuletzt;
     inhalt.MassstabSetzen(massstab);
     rahmen.resize(inhalt.size() + rand);
-    rahmen.move(massstab.istOriginal() && !verschoben ? standort.original
-                                                      : Platz(bisher, rahmen.size(), frei));
+    rahmen.move(massstab.istOriginal() && !verschoben ? standort.original : Platz(bisher, rahmen, frei));
     if (!verschoben) {
         standort.zuletzt = rahmen.pos();
     }

@@ -12,11 +12,11 @@ constexpr Pixelflaeche klein{941, 574};
 constexpr Pixelflaeche rand{8, 30};
 
 struct Fall {
-    const char* was;
+    const char* was = "";
     Pixelflaeche form;
     Pixelflaeche frei;
     Groessenwunsch wunsch;
-    int prozent;
+    int prozent = 0;
 };
 
 constexpr Groessenwunsch angepasst{true, Massstab(150)};
@@ -118,6 +118,13 @@ TEST(MassstabTest, WhatFitsLiesInsideAndWhatDoesNotLeavesNothingFree) {
     EXPECT_EQ(Hineingerueckt(50, 500, 400), 0);
     EXPECT_EQ(Hineingerueckt(-50, 500, 400), -50);
     EXPECT_EQ(Hineingerueckt(-250, 500, 400), -100);
+}
+
+TEST(MassstabTest, APartThatIsToBeSeenIsBroughtIn) {
+    EXPECT_EQ(MitTeilZuSehen(-50, 100, 200, 400), -50);   // it is seen
+    EXPECT_EQ(MitTeilZuSehen(-50, 500, 600, 400), -200);  // at the end
+    EXPECT_EQ(MitTeilZuSehen(-300, 100, 200, 400), -100); // at the beginning
+    EXPECT_EQ(MitTeilZuSehen(0, 100, 700, 400), -100);    // too long
 }
 
 } // namespace

@@ -74,6 +74,8 @@ private Q_SLOTS:
     void neitherTextNorHistoryNorFocusKnowsOfTheSize();
     void theTopLineOfAScrolledBoxStays();
     void aFormThatWasMovedByHandKeepsItsPlace();
+    void theCellBeingWorkedInStaysInSight();
+    void twoDigitsOfPointsFitAtEverySize();
 };
 
 void FkGroesseTest::aFormThatFitsStandsInItsOriginalSize() {
@@ -361,6 +363,40 @@ void FkGroesseTest::aFormThatWasMovedByHandKeepsItsPlace() {
     Stellen(form, 100);
     QCOMPARE(Rahmen(form)->y(), 9);
     QVERIFY(std::abs(Rahmen(form)->x() - 5) <= 1);
+}
+
+void FkGroesseTest::theCellBeingWorkedInStaysInSight() {
+    Programm programm;
+    const frmFKFragen* form = programm.NeuesQuizformular();
+    for (const Textfeld* feld : {form->txtFrage.at(1), form->txtAntwort.at(30)}) {
+        maus::Taste(QStringLiteral("ctrl+0"));
+        QTRY_COMPARE(Prozent(form), 100);
+        maus::Klicken(feld);
+        QTRY_VERIFY(feld->hasFocus());
+        for (int prozent = 110; prozent <= Massstab::groesster; prozent += 10) {
+            Stellen(form, prozent);
+            QTRY_COMPARE(feld->visibleRegion().boundingRect(), feld->rect());
+        }
+    }
+}
+
+void FkGroesseTest::twoDigitsOfPointsFitAtEverySize() {
+    for (const QSize schirm : {QSize(1024, 768), QSize(1600, 1200)}) {
+        Programm programm;
+        BildschirmgroesseVorgeben(schirm);
+        frmFKFragen* form = programm.NeuesQuizformular();
+        for (int prozent = Massstab::kleinster; prozent <= Massstab::groesster; ++prozent) {
+            form->MassstabSetzen(Massstab(prozent));
+            for (const std::size_t n : {std::size_t(1), std::size_t(26)}) {
+                Panel* punkte = form->pnlPunkte.at(n);
+                punkte->setCaption(QStringLiteral("10"));
+                const QImage zahl = punkte->grab().toImage();
+                punkte->setCaption(QStringLiteral("\u2026")); // as it would look without room
+                QVERIFY2(punkte->grab().toImage() != zahl, qPrintable(QString::number(prozent)));
+            }
+        }
+        BildschirmgroesseVorgeben(QSize());
+    }
 }
 
 QTEST_MAIN(FkGroesseTest)
