@@ -15,8 +15,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <tuple>
-
 // Waits until the window manager has given the size and no longer takes it back.
 inline void HauptfensterGroesse(const Programm& programm, QSize groesse) {
     frmMDI* haupt = programm.haupt();
@@ -46,19 +44,6 @@ inline bool GanzZuSehen(const Programm& programm, const QWidget* form) {
     return flaeche->viewport()->rect().contains(Rahmen(form)->geometry()) &&
            flaeche->horizontalScrollBar()->maximum() == flaeche->horizontalScrollBar()->minimum() &&
            flaeche->verticalScrollBar()->maximum() == flaeche->verticalScrollBar()->minimum();
-}
-
-// Scrolls the child area to a part of a form that is larger than it.
-inline void InsBild(const Programm& programm, const QWidget* teil) {
-    const QMdiArea* flaeche = programm.haupt()->Kindflaeche();
-    const QPoint mitte = teil->mapTo(flaeche->viewport(), teil->rect().center());
-    for (const auto& [leiste, ort, laenge] :
-         {std::tuple{flaeche->horizontalScrollBar(), mitte.x(), flaeche->viewport()->width()},
-          std::tuple{flaeche->verticalScrollBar(), mitte.y(), flaeche->viewport()->height()}}) {
-        if (ort < 0 || ort >= laenge) {
-            leiste->setValue(leiste->value() + ort - laenge / 2);
-        }
-    }
 }
 
 // Place, size and font of each control with a name, one line each.

@@ -1,5 +1,6 @@
 // The test form in other sizes.
 #include "core/formularfenster.h"
+#include "core/insbild.h"
 #include "core/ziehen.h"
 #include "tests/core/groessenhilfe.h"
 #include "tests/testform/testhilfe.h"
@@ -106,7 +107,7 @@ void HbGroesseTest::rowsAreTypedIntoAndPointsStepped() {
         QTRY_COMPARE(feld->text(), std::string("neu"));
     }
     for (const char* taste : {"hoch", "hoch", "runter"}) {
-        InsBild(programm, form->spnPunkte.at(2));
+        InsBild(*form->spnPunkte.at(2));
         maus::Klicken(form->spnPunkte.at(2)->findChild<QWidget*>(QLatin1String(taste)));
     }
     QTRY_COMPARE(form->pnlPunkte.at(2)->caption(), QStringLiteral("1"));
@@ -143,7 +144,7 @@ void HbGroesseTest::theListsOfTheHeadLieOnTheirPanels() {
     for (const int prozent : {60, 150}) {
         Stellen(form, prozent);
         for (const Kopfwahl* wahl : {&form->titel, &form->gruppe}) {
-            InsBild(programm, wahl->taste);
+            InsBild(*wahl->taste);
             maus::Klicken(wahl->taste);
             QTRY_VERIFY(wahl->liste->view()->isVisible());
             QCOMPARE(wahl->liste->geometry(), wahl->panel->geometry());
