@@ -64,16 +64,17 @@ void frmVorschau::Verbinden() {
     });
     connect(chkOhneTitel_, &QCheckBox::toggled, this, &frmVorschau::Auffrischen);
     connect(chkMitAntworten_, &QCheckBox::toggled, this, &frmVorschau::Auffrischen);
+    // What is printed is what is seen: as it stands now, whatever comes while a dialog is open.
     connect(cmdDrucken_, &QPushButton::clicked, this, [this] {
-        Auffrischen(); // what is printed is what is seen
-        if (vorlage_) {
-            BlattDrucken(*vorlage_, *wunsch_);
+        Auffrischen();
+        if (const auto vorlage = vorlage_; vorlage) {
+            BlattDrucken(*vorlage, Wunsch());
         }
     });
     connect(cmdAlsPDF_, &QPushButton::clicked, this, [this] {
         Auffrischen();
-        if (vorlage_) {
-            BlattAlsPdf(*vorlage_, *wunsch_, this);
+        if (const auto vorlage = vorlage_; vorlage) {
+            BlattAlsPdf(*vorlage, Wunsch(), this);
         }
     });
     const auto schliessen = [this] { (parentWidget() != nullptr ? parentWidget() : this)->close(); };
