@@ -133,7 +133,7 @@ double Drucken(const Programmordner& ordner, const Blattvorlage& vorlage, Blatta
     return Dauer([&] {
         const std::string ziel = EigenerPfad(ordner.nativ(QStringLiteral("Messung.pdf")));
         Druckseite seite(Druckziel{BlattQuer(vorlage, art) ? QPageLayout::Landscape : QPageLayout::Portrait,
-                                   ziel, "Messung", Wenden::Nicht, false});
+                                   ziel, "Messung", Wenden::Nicht, false, false});
         Blattsatz blatt;
         while (blatt.seiten.size() < seiten) {
             Blattsatz weiteres = BlattMachen(vorlage, {art, false, false}, {}, seite.schriftmass());

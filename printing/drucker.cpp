@@ -99,6 +99,10 @@ QPrinter& Drucker() {
     return *derDrucker;
 }
 
+QPrinter& DruckerWieZuletzt() {
+    return derDrucker ? *derDrucker : Drucker();
+}
+
 std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag) {
     const QPrinter& vorbild = Drucker();
     auto kopie = NeuerDrucker();

@@ -20,6 +20,9 @@ struct Seitenmasse {
 // The printer, made at the first call: the system's default one on A4, or PDF where it knows none. The
 // system's printers are looked up here, never at start-up.
 [[nodiscard]] QPrinter& Drucker();
+// The same as it was found last: asking the system's print service may take its time, and whoever only
+// measures does it often.
+[[nodiscard]] QPrinter& DruckerWieZuletzt();
 // A second object for the same printer, for the printer dialog to work on. pdfVorschlag: path of the PDF file
 // that the dialog proposes where there is no printer, in the program's notation.
 [[nodiscard]] std::unique_ptr<QPrinter> DruckerKopie(const std::string& pdfVorschlag);

@@ -10,7 +10,7 @@
 #include <QPrinterInfo>
 
 Druckseite::Druckseite(const Druckziel& ziel)
-    : drucker_(Drucker()),
+    : drucker_(ziel.nurMessen ? DruckerWieZuletzt() : Drucker()),
       AltOrientierung_(drucker_.pageLayout().orientation()),
       AltBeidseitig_(drucker_.duplex()),
       ziel_(ziel),
@@ -26,7 +26,7 @@ Druckseite::Druckseite(const Druckziel& ziel)
 
 Druckseite::Druckseite(QPageLayout::Orientation ausrichtung, const std::string& pdfPfad,
                        const std::string& titel)
-    : Druckseite(Druckziel{ausrichtung, PdfZiel(pdfPfad), titel, Wenden::Nicht, false}) {}
+    : Druckseite(Druckziel{ausrichtung, PdfZiel(pdfPfad), titel, Wenden::Nicht, false, false}) {}
 
 Druckseite::~Druckseite() {
     drucker_.setPageOrientation(AltOrientierung_);

@@ -21,6 +21,7 @@ struct Druckziel {
     std::string titel;   // name of the print job, UTF-8
     Wenden wenden = Wenden::Nicht;
     bool alsPdf = false; // as a PDF also where there is a printer, whose page and measures serve all the same
+    bool nurMessen = false; // nothing will be printed, so that nobody asks which printers there are by now
 };
 
 class Druckseite {

@@ -37,7 +37,11 @@ std::string Zielpfad(Formart art, Blattart blatt) {
 Druckziel Ziel(const Blattvorlage& vorlage, const Blattwunsch& wunsch, std::string pfad) {
     const Formart art = FormartVon(vorlage);
     return {BlattQuer(vorlage, wunsch.blatt) ? QPageLayout::Landscape : QPageLayout::Portrait,
-            std::move(pfad), Blatttitel(art, Formulardatei(art), Zusatz(wunsch.blatt)), Wenden::Nicht, false};
+            std::move(pfad),
+            Blatttitel(art, Formulardatei(art), Zusatz(wunsch.blatt)),
+            Wenden::Nicht,
+            false,
+            false};
 }
 
 Blattsatz Machen(const Blattvorlage& vorlage, const Blattwunsch& wunsch, const Druckseite& seite) {
@@ -96,7 +100,9 @@ std::optional<Blattvorlage> VorlageJetzt() {
 }
 
 Fertigblatt BlattFertigen(const Blattvorlage& vorlage, const Blattwunsch& wunsch) {
-    const Druckseite seite(Ziel(vorlage, wunsch, {}));
+    Druckziel ziel = Ziel(vorlage, wunsch, {});
+    ziel.nurMessen = true; // at each key that is typed
+    const Druckseite seite(ziel);
     const Seitenmasse& m = seite.masse();
     Fertigblatt fertig{Machen(vorlage, wunsch, seite), m};
     RandPruefen(fertig.blatt, {0_mm, 0_mm, m.breite - m.links - m.rechts, m.hoehe - m.oben - m.unten},

@@ -3,6 +3,7 @@
 #include "core/bilder.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "printing/drucker.h"
 #include "sheets/frmVorschau.h"
 #include "sheets/texte.h"
 
@@ -42,6 +43,7 @@ void VorschauZeigen() {
             rahmen->show();
         }
     }
+    static_cast<void>(Drucker()); // which printer there is by now
     offen->show();
     offen->Auffrischen();
     KindNachVorn(offen);

@@ -127,7 +127,7 @@ TEST_F(Warteschlange, SeveralPagesAreOneJobAndBothSidesAreAskedForOnlyThen) {
     const QPrinter::DuplexMode sonst = Drucker().duplex();
     {
         Druckseite seite(
-            Druckziel{QPageLayout::Portrait, "", auftrag.toStdString(), Wenden::LangeKante, false});
+            Druckziel{QPageLayout::Portrait, "", auftrag.toStdString(), Wenden::LangeKante, false, false});
         std::vector<Zeichnung> seiten;
         for (const Millimeter x : {20_mm, 40_mm, 60_mm}) {
             seiten.push_back({Rechteck{x, 30_mm, 50_mm, 20_mm, {}, {}}});
@@ -149,7 +149,7 @@ TEST_F(Warteschlange, SeveralPagesAreOneJobAndBothSidesAreAskedForOnlyThen) {
 TEST_F(Warteschlange, ASheetGoesIntoAFileThoughThereIsAPrinter) {
     const QTemporaryDir ordner;
     const std::string ziel = EigenerPfad(ordner.filePath(QStringLiteral("Blatt.pdf")));
-    Druckseite seite(Druckziel{QPageLayout::Landscape, ziel, "Probe", Wenden::Nicht, true});
+    Druckseite seite(Druckziel{QPageLayout::Landscape, ziel, "Probe", Wenden::Nicht, true, false});
     EXPECT_EQ(seite.Drucken(Zeichnung{Textstelle{20_mm, 30_mm, {}, "Blatt"}}, {}), ziel);
     const PdfSeite gelesen = PdfLesen(NativerPfad(ziel));
     EXPECT_NEAR(gelesen.breite, 297.0, 0.3);

@@ -34,7 +34,7 @@ protected:
         QString datei =
             (behalten.isEmpty() ? ordner.path() : behalten) + u'/' + name + QStringLiteral(".pdf");
         Druckseite seite({BlattQuer(vorlage, art) ? QPageLayout::Landscape : QPageLayout::Portrait,
-                          EigenerPfad(datei), "Probe", Wenden::Nicht, false});
+                          EigenerPfad(datei), "Probe", Wenden::Nicht, false, false});
         blatt = BlattMachen(vorlage, {art, false, false}, {seite.masse().links, seite.masse().oben},
                             seite.schriftmass());
         EXPECT_EQ(seite.SeitenDrucken(blatt.seiten, {}), EigenerPfad(datei));
