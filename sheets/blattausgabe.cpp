@@ -75,9 +75,14 @@ std::string PdfNameErfragen(const std::string& vorschlag, QWidget* eltern) {
     const QFileInfo ziel(NativerPfad(vorschlag));
     dialog.setDirectory(ziel.path());
     dialog.selectFile(ziel.fileName());
-    return ModalZeigen(dialog) == QDialog::Accepted && !dialog.selectedFiles().isEmpty()
-               ? EigenerPfad(dialog.selectedFiles().constFirst())
-               : std::string();
+    while (ModalZeigen(dialog) == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString datei = dialog.selectedFiles().constFirst();
+        if (datei.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+            return EigenerPfad(datei);
+        }
+        dialog.selectFile(datei + QStringLiteral(".pdf")); // a form's file never becomes a sheet
+    }
+    return {};
 }
 
 } // namespace
