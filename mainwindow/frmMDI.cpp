@@ -17,6 +17,7 @@
 #include "mainwindow/fortschrittsbalken.h"
 #include "mainwindow/hilfepanel.h"
 #include "mainwindow/hinweistexte.h"
+#include "mainwindow/listenfalte.h"
 #include "mainwindow/menueleiste.h"
 #include "mainwindow/stationen.h"
 #include "mainwindow/texte.h"
@@ -69,6 +70,7 @@ frmMDI::frmMDI() {
     FortschrittsbalkenBauen(pnlHilfe_);
     MenueleisteBauen(*this);
     StationenEinrichten(*this);
+    ListenfalteEinrichten(*this);
     HinweiseSetzen(*this, kerntexte::haupthinweise);
     connect(kindflaeche_, &QMdiArea::subWindowActivated, this, &frmMDI::KindGewechselt);
     findChild<QAction*>(QStringLiteral("mBackUp"))->setChecked(Spiel.OptionDatei);

@@ -11,6 +11,7 @@ feldkranz_quellen(fenster
   mainwindow/frmStart.cpp mainwindow/frmStart.h
   mainwindow/hauptfensterdienste.cpp
   mainwindow/hilfepanel.cpp mainwindow/hilfepanel.h
+  mainwindow/listenfalte.cpp
   mainwindow/mehrmenue.cpp
   mainwindow/menueleiste.cpp
   mainwindow/programmende.cpp

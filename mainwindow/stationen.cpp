@@ -6,6 +6,7 @@
 #include "core/insbild.h"
 #include "filetools/formularliste.h"
 #include "filetools/frmFKformulare.h"
+#include "mainwindow/listenfalte.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -37,7 +38,7 @@ QWidget* Erstes(QWidget* bereich) {
 }
 
 void Aufnehmen(std::vector<Station>& stationen, QWidget* bereich) {
-    if (bereich != nullptr && bereich->isVisible()) {
+    if (bereich != nullptr && (bereich->isVisible() || ListeGefaltet(bereich))) {
         stationen.push_back(
             {bereich, bereich->focusWidget() != nullptr ? bereich->focusWidget() : Erstes(bereich)});
     }
@@ -74,6 +75,7 @@ void Gehen(const QMainWindow& fenster, int schritt) {
     if (form != nullptr && ziel.bereich == form->fenster()) {
         form->NachVorn();
     }
+    ziel.bereich->window()->show(); // a list that only shows its title
     ziel.bereich->window()->raise();
     ziel.bereich->window()->activateWindow();
     ziel.erstes->setFocus(Qt::ShortcutFocusReason);

@@ -17,6 +17,10 @@ inline constexpr std::string_view startZeile = "Mit Grüßen von Tarvo und Brenn
 inline constexpr std::string_view mehr = "Mehr";
 inline constexpr std::string_view mehrTipp = "Knöpfe, für die das Fenster zu schmal ist.";
 inline constexpr std::string_view mehrStatus = " Weitere Knöpfe zeigen";
+inline constexpr std::string_view listentitel = "Dateiliste";
+inline constexpr std::string_view listentitelTipp =
+    "Dateiliste aufklappen. Ich habe sie eingeklappt, weil sie über dem Formular lag.";
+inline constexpr std::string_view listentitelStatus = " Dateiliste aufklappen";
 
 // Start picture missing; {} is its full path.
 inline constexpr MeldungsText startbildFehlt{5, "Ich kann [ {} ] nicht finden !", "1",
