@@ -1,6 +1,7 @@
 #include "dialogs/modal.h"
 
 #include "core/hauptfenster.h"
+#include "core/oberflaeche.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -25,6 +26,16 @@ QWidget* Bezugsfenster(const QDialog& dialog) {
     return nullptr;
 }
 
+// A dialog is never larger than the screen, its frame included; what is in it shares what there is.
+void Einpassen(QDialog& dialog) {
+    constexpr QSize rahmen{8, 32};
+    const QSize frei = Bildschirmgroesse(&dialog) - rahmen;
+    const QSize wunsch = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
+    if (wunsch.boundedTo(frei) != wunsch) {
+        dialog.resize(wunsch.boundedTo(frei));
+    }
+}
+
 } // namespace
 
 Hilfewahrer::Hilfewahrer() : vorher_(HilfeStand()) {}
@@ -35,6 +46,7 @@ Hilfewahrer::~Hilfewahrer() {
 
 int ModalZeigen(QDialog& dialog) {
     const Hilfewahrer wahrer;
+    Einpassen(dialog);
     if (vertreter && vertreter(dialog)) {
         return dialog.result();
     }

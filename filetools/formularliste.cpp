@@ -28,11 +28,8 @@ void FormularlisteZeigen() {
     if (liste == nullptr) {
         return;
     }
-    liste->setAttribute(Qt::WA_ShowWithoutActivating, false);
     liste->Auffrischen(true);
-    liste->show();
-    liste->raise();
-    liste->activateWindow();
+    liste->Rufen();
 }
 
 void FormularlisteMitStartZeigen() {

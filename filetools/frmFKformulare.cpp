@@ -83,6 +83,14 @@ void frmFKformulare::Verbinden() {
     connect(vorschau_, &QTimer::timeout, this, &frmFKformulare::Vorschau);
 }
 
+void frmFKformulare::Rufen() {
+    wartetAufFokus_ = !isActiveWindow();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    show();
+    raise();
+    activateWindow();
+}
+
 void frmFKformulare::TastenSetzen(bool fk, bool hb) {
     cmdNeuFK_->setEnabled(fk);
     cmdNeuHB_->setEnabled(hb);
@@ -131,6 +139,7 @@ void frmFKformulare::Oeffnen() {
 bool frmFKformulare::event(QEvent* ereignis) {
     // Also where a folder can't be watched the list is right when the user comes to it.
     if (ereignis->type() == QEvent::WindowActivate) {
+        wartetAufFokus_ = false;
         Auffrischen(false);
     }
     return QWidget::event(ereignis);

@@ -36,6 +36,11 @@ public:
     // marked as long as it is there.
     void Auffrischen(bool melden);
 
+    // Called by the user: it comes up and gets the focus, which takes the window system a moment.
+    void Rufen();
+    // That moment.
+    [[nodiscard]] bool WartetAufFokus() const { return wartetAufFokus_; }
+
 Q_SIGNALS:
     // The window goes; the next one is made anew.
     void geschlossen();
@@ -68,6 +73,7 @@ private:
     void Vorschau();
     void Oeffnen();
 
+    bool wartetAufFokus_ = false;
     std::string ordner_; // own notation
     std::string muster_;
     std::vector<std::string> namen_;  // as the list shows them

@@ -69,10 +69,10 @@ private:
     }
 
     void Schauen() {
-        QWidget* liste = FormularlisteOffen();
+        frmFKformulare* liste = FormularlisteOffen();
         if (liste != nullptr) {
             const bool frei = !liste->frameGeometry().intersects(Formularort(flaeche_));
-            if (liste->isVisible() && !frei && AmFormular()) {
+            if (liste->isVisible() && !liste->WartetAufFokus() && !frei && AmFormular()) {
                 Falten(liste);
             } else if (ListeGefaltet(liste) && frei) {
                 liste->setAttribute(Qt::WA_ShowWithoutActivating);

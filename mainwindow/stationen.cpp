@@ -75,7 +75,9 @@ void Gehen(const QMainWindow& fenster, int schritt) {
     if (form != nullptr && ziel.bereich == form->fenster()) {
         form->NachVorn();
     }
-    ziel.bereich->window()->show(); // a list that only shows its title
+    if (frmFKformulare* liste = FormularlisteOffen(); ziel.bereich == liste) {
+        liste->Rufen(); // it may show only its title
+    }
     ziel.bereich->window()->raise();
     ziel.bereich->window()->activateWindow();
     ziel.erstes->setFocus(Qt::ShortcutFocusReason);
