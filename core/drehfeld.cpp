@@ -1,5 +1,8 @@
 #include "core/drehfeld.h"
 
+#include "core/panel.h"
+
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolButton>
@@ -36,6 +39,18 @@ Drehfeld::Drehfeld(QWidget* eltern, const QString& name, const QString& was)
 
 QSize Drehfeld::sizeHint() const {
     return groesse;
+}
+
+void Drehfeld::setZahlpanel(const Panel* panel) {
+    panel_ = panel;
+    connect(panel, &Panel::captionGeaendert, this, [this] {
+        QAccessibleValueChangeEvent ereignis(this, Zahl());
+        QAccessible::updateAccessibility(&ereignis);
+    });
+}
+
+int Drehfeld::Zahl() const {
+    return panel_.isNull() ? 0 : panel_->caption().trimmed().toInt();
 }
 
 void Drehfeld::resizeEvent(QResizeEvent* ereignis) {

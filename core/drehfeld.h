@@ -2,8 +2,10 @@
 // changes is the listener's affair. With the focus the arrow keys, + and - step as well.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
+class Panel;
 class QToolButton;
 
 class Drehfeld : public QWidget {
@@ -14,6 +16,10 @@ public:
     explicit Drehfeld(QWidget* eltern, const QString& name, const QString& was = QString());
 
     [[nodiscard]] QSize sizeHint() const override;
+
+    // The panel that shows the number; for who is told of it.
+    void setZahlpanel(const Panel* panel);
+    [[nodiscard]] int Zahl() const;
 
 Q_SIGNALS:
     void hoch();
@@ -26,6 +32,7 @@ protected:
     void wheelEvent(QWheelEvent* ereignis) override;
 
 private:
+    QPointer<const Panel> panel_;
     QToolButton* hoch_;
     QToolButton* runter_;
 };

@@ -28,6 +28,7 @@ void Panel::setCaption(const QString& caption) {
     }
     caption_ = caption;
     NamenSetzen();
+    GewechseltAnsagen(this);
     update();
     Q_EMIT captionGeaendert();
 }

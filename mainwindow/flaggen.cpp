@@ -3,6 +3,7 @@
 #include "core/bilder.h"
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/panelansage.h"
 #include "core/programmstand.h"
 #include "editor/editor.h"
 #include "editor/editorjournal.h"
@@ -24,6 +25,7 @@ QLabel* FlaggeBauen(QWidget* pnlKranz, const char* name, std::string_view bild) 
     flagge->setObjectName(QLatin1String(name));
     flagge->setPixmap(Bild(bild, flagge->devicePixelRatioF()));
     flagge->hide();
+    WechselAnsagen(flagge);
     return flagge;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/panelansage.h"
 #include "core/pfadname.h"
 #include "mainwindow/dateihinweis.h"
 #include "mainwindow/texte.h"
@@ -58,7 +59,9 @@ bool Passt(const std::string& text) {
 
 } // namespace
 
-Hilfepanel::Hilfepanel(QWidget* eltern) : Panel(eltern, QStringLiteral("pnlHilfe")) {}
+Hilfepanel::Hilfepanel(QWidget* eltern) : Panel(eltern, QStringLiteral("pnlHilfe")) {
+    WechselAnsagen(this);
+}
 
 void Hilfepanel::DateiZeigen(std::string_view text, const std::string& pfad) {
     const std::string name = NurDateiname(pfad);

@@ -103,6 +103,8 @@ QLayout* frmIni::ArtBauen(QWidget* rahmen, Gruppe gruppe, Spezialart art) {
         QStringLiteral("%1, %2").arg(QString::fromUtf8(zeile.wort), Anzeige(ArtzeileVon(art).name));
     auto* spin = new Drehfeld(rahmen, Name(zeile.spin, Artstelle(art)), was);
     spin->setFixedSize(24, 32);
+    spin->setZahlpanel(panel);
+    panel->setAnsage(was);
     connect(spin, &Drehfeld::hoch, this, [this, gruppe, art] { ArtDrehen(gruppe, art, Richtung::Hoch); });
     connect(spin, &Drehfeld::runter, this, [this, gruppe, art] { ArtDrehen(gruppe, art, Richtung::Runter); });
     auto* paar = new QHBoxLayout;

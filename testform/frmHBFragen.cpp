@@ -131,6 +131,8 @@ void frmHBFragen::ZeileBauen(int n) {
     pnlPunkte.at(i)->setFrameShadow(QFrame::Sunken);
     pnlPunkte.at(i)->setFarben(Qt::white, Qt::black);
     spnPunkte.at(i) = new Drehfeld(this, Name("spnPunkte", n), QStringLiteral("Punkte Frage") + zeile);
+    spnPunkte.at(i)->setZahlpanel(pnlPunkte.at(i));
+    pnlPunkte.at(i)->setAnsage(QStringLiteral("Punkte Frage") + zeile);
 }
 
 void frmHBFragen::FussBauen() {

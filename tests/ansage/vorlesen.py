@@ -15,6 +15,7 @@ import tempfile
 import time
 
 import pyatspi
+from gi.repository import GLib
 
 FRIST = 30.0  # seconds
 BEDIENBAR = {
@@ -24,6 +25,9 @@ BEDIENBAR = {
 }
 # What the toolkit builds these controls of is told by the whole.
 GANZES = {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_SCROLL_BAR}
+
+# An entry of a menu says in its own words what it does, a page what is on it.
+OHNE_BESCHREIBUNG = {pyatspi.ROLE_MENU, pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_PAGE_TAB}
 
 fehler = []
 
@@ -68,9 +72,9 @@ def finden(name, rolle=None):
 
 
 def fenster(titel):
-    """A window with that title, by itself or within the main window."""
+    """A window with that title, by itself or within the main window; a document's ends with its name."""
     for element in alle(programm()):
-        if element.name.strip() == titel and sichtbar(element) and element.getRole() not in BEDIENBAR:
+        if element.name.strip().endswith(titel) and sichtbar(element) and element.getRole() not in BEDIENBAR:
             return element
     return None
 
@@ -83,6 +87,8 @@ def namen_pruefen(wo, woher):
             if not element.name.strip():
                 fehler.append(f"{woher}: a {element.getRoleName()} without a name at {element.get_index_in_parent()}"
                               f" of {element.parent.name!r}")
+            if not element.description.strip() and not element.getRole() in OHNE_BESCHREIBUNG:
+                fehler.append(f"{woher}: {element.getRoleName()} {element.name!r} isn't described")
     if gezaehlt == 0:
         fehler.append(f"{woher}: nothing to do anything with")
 
@@ -122,11 +128,85 @@ def fenster_pruefen():
         warten(lambda gesucht=titel: fenster(gesucht) is None, f"the end of {titel}")
 
 
+def druecken(name):
+    """Presses a button as a screen reader does. A process of its own waits for the answer, which comes only
+    when the dialog that the press may open has gone."""
+    warten(lambda: finden(name, pyatspi.ROLE_PUSH_BUTTON), name)
+    subprocess.Popen([sys.executable, __file__, "--druecken", name], stderr=subprocess.DEVNULL)
+
+
+def gedrueckt(name):
+    aktion = finden(name, pyatspi.ROLE_PUSH_BUTTON).queryAction()
+    stelle = next(i for i in range(aktion.nActions) if aktion.getName(i).lower() in ("press", "drücken"))
+    aktion.doAction(stelle)
+
+
+def durchsehen(titel, ende, frage=None):
+    """Looks a window through, which goes with that key, behind that question if it asks one."""
+    namen_pruefen(warten(lambda: fenster(titel), titel), titel)
+    taste(ende)
+    if frage:
+        namen_pruefen(warten(lambda: fenster(frage), frage), frage)
+        taste("alt+j")
+    warten(lambda: fenster(titel) is None, f"the end of {titel}")
+
+
+def ansagen_pruefen():
+    """What changes in the status line and in the flag is told without being asked for."""
+    gehoert = []
+    warten(lambda: finden("Ungespeicherte Änderungen", pyatspi.ROLE_NOTIFICATION), "the red flag")
+    pyatspi.Registry.registerEventListener(
+        lambda ereignis: gehoert.append(ereignis.source.name) if ereignis.detail1 else None,
+        "object:state-changed:showing")
+    taste("ctrl+plus")
+    taste("ctrl+z")  # the typed text goes, and the flag turns green
+    ende = time.monotonic() + FRIST
+    gesucht = ("Das Formular ist jetzt auf 110 %", "Alles gespeichert")
+    while time.monotonic() < ende and not all(any(w in g for g in gehoert) for w in gesucht):
+        GLib.MainContext.default().iteration(False)
+    for wort in gesucht:
+        if not any(wort in g for g in gehoert):
+            fehler.append(f"nothing was told of {wort!r}, but of {gehoert}")
+
+
+def testform_pruefen():
+    druecken("Neues Testformular anlegen.")
+    warten(lambda: fenster("Neues Test-Formular"), "the question")
+    taste("alt+j")
+    warten(lambda: finden("Frage 1"), "the test form")
+    da = {(element.name, element.getRole()) for element in alle(programm()) if sichtbar(element)}
+    for zeile in range(1, 11):
+        for gesucht in ((f"Frage {zeile}", pyatspi.ROLE_TEXT), (f"Antwort {zeile}", pyatspi.ROLE_TEXT),
+                        (f"Punkte Frage {zeile}", pyatspi.ROLE_SPIN_BUTTON)):
+            if gesucht not in da:
+                fehler.append(f"no {gesucht} in the test form")
+        if not any(name.startswith(f"Punkte Frage {zeile}") and rolle == pyatspi.ROLE_LABEL for name, rolle in da):
+            fehler.append(f"no points of {zeile}: {sorted(n for n, r in da if n.startswith('Punkte'))}")
+    punkte = finden("Punkte Frage 3", pyatspi.ROLE_SPIN_BUTTON).queryValue()
+    punkte.currentValue = 4
+    warten(lambda: punkte.currentValue == 4, "the points")
+    namen_pruefen(fenster("Feldkranz! 2008"), "the test form")
+
+
+ORTE = (
+    ("Dialogbox für die Auswahl der :", "Fragen-Auswahl", "Escape", None),
+    ("Dialogbox für verschiedene Vorgaben und Einstellungen aufrufen.", "Vorgaben", "Escape",
+     "Vorgaben für Feldkranz"),
+    ("Editor für die Fragensammlung aufrufen.", "Feldkranz! - Fragensammlung", "ctrl+w", None),
+    ("Spielregel für Feldkranz! aufrufen.", "Feldkranz.pdf", "ctrl+w", None),
+)
+
+
 def gang(ordner):
     warten(programm, "the program")
+    namen_pruefen(warten(programm, "the start window"), "the start window")
     warten(lambda: taste("Return") or fenster("Feldkranz! 2008"), "the main window")
     namen_pruefen(warten(lambda: fenster("Dateiliste"), "the list of forms"), "Dateiliste")
     warten(lambda: finden("Neues Formular für Feldkranz anlegen.", pyatspi.ROLE_PUSH_BUTTON), "the bar")
+    taste("ctrl+o")
+    durchsehen("Öffnen", "Escape")
+    warten(lambda: finden("Keine Datei ausgewählt !"), "the message")
+    taste("Return")
     taste("ctrl+n")
     frage = warten(lambda: fenster("Neues Feldkranz-Formular"), "the question")
     namen_pruefen(frage, "the question")
@@ -135,10 +215,20 @@ def gang(ordner):
     zellen_pruefen()
     namen_pruefen(fenster("Feldkranz! 2008"), "the main window")
     tippen_pruefen()
+    ansagen_pruefen()
     fenster_pruefen()
+    for knopf, titel, ende, frage in ORTE:
+        druecken(knopf)
+        durchsehen(titel, ende, frage)
+    druecken("Zurück zum Hauptmenü;")
+    warten(lambda: fenster("Formular schließen"), "the question")
+    taste("Return")
+    testform_pruefen()
 
 
 def main():
+    if sys.argv[1] == "--druecken":
+        return gedrueckt(sys.argv[2])
     with tempfile.TemporaryDirectory() as ablage:
         ordner = pathlib.Path(ablage, "Feldkranz")
         shutil.copytree(sys.argv[1], ordner)
