@@ -18,7 +18,8 @@ QSize vorgegebeneGroesse;
 QPalette HellePalette() {
     const QColor flaeche(233, 230, 223);
     const QColor schrift(24, 24, 24);
-    const QColor matt(138, 134, 126);
+    const QColor matt(138, 134, 126);       // out of use
+    const QColor platzhalter(110, 106, 99); // to be read
     QPalette palette(flaeche, flaeche);
     palette.setColor(QPalette::WindowText, schrift);
     palette.setColor(QPalette::Text, schrift);
@@ -27,7 +28,7 @@ QPalette HellePalette() {
     palette.setColor(QPalette::AlternateBase, QColor(246, 244, 239));
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 223));
     palette.setColor(QPalette::ToolTipText, Qt::black);
-    palette.setColor(QPalette::PlaceholderText, matt);
+    palette.setColor(QPalette::PlaceholderText, platzhalter);
     palette.setColor(QPalette::Highlight, QColor(38, 92, 156));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(22, 82, 150));

@@ -29,7 +29,8 @@ inline QList<QWidget*> Steuerelemente(const QWidget* fenster) {
                     qobject_cast<const QComboBox*>(v) != nullptr ||
                     qobject_cast<const QAbstractSpinBox*>(v) != nullptr;
         }
-        if (art && !darin && w->isVisible() && !w->objectName().startsWith(QStringLiteral("qt_"))) {
+        if (art && !darin && w->isVisible() && w->window() == fenster->window() &&
+            !w->objectName().startsWith(QStringLiteral("qt_"))) {
             teile << w;
         }
     }
