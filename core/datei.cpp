@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
+#include <QTemporaryFile>
 
 #include <new>
 
@@ -96,6 +97,11 @@ bool DateiDa(std::string_view pfad) {
 
 bool OrdnerDa(std::string_view pfad) {
     return ArtVonPfad(pfad) == plattform::Art::Ordner;
+}
+
+bool OrdnerBeschreibbar(std::string_view pfad) {
+    return OrdnerDa(pfad) &&
+           QTemporaryFile(NativerDateipfad(pfad) + QStringLiteral("/.feldkranz-XXXXXX")).open();
 }
 
 void DateiKopieren(std::string_view quelle, std::string_view ziel) {

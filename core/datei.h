@@ -32,6 +32,10 @@ void ResteEntfernen(std::string_view ordner);
 [[nodiscard]] bool DateiDa(std::string_view pfad);  // anything existing that is no folder
 [[nodiscard]] bool OrdnerDa(std::string_view pfad); // an existing folder
 
+// True where a folder takes a new file. Only trying tells: what the system says of rights leaves out half of
+// what may be in the way.
+[[nodiscard]] bool OrdnerBeschreibbar(std::string_view pfad);
+
 // Copies a file as DateiLesen and DateiSchreiben do; an existing target is replaced.
 void DateiKopieren(std::string_view quelle, std::string_view ziel);
 void DateiLoeschen(std::string_view pfad);  // a missing file is 53

@@ -60,6 +60,7 @@ frmStart::frmStart() {
     connect(cmdStart_, &QPushButton::clicked, this, [this] {
         // The main window first, so that the program doesn't end with its last window.
         HauptfensterZeigen();
+        QTimer::singleShot(0, MDIFenster(), [] { SchreibortPruefen(Stand.AppPfad); });
         close();
     });
     auto* Timer1 = new QTimer(this); // it never closes the window by itself: its handler does nothing
@@ -92,6 +93,12 @@ void frmStart::paintEvent(QPaintEvent* ereignis) {
     QWidget::paintEvent(ereignis);
     if (!bild_.isNull()) {
         QPainter(this).drawPixmap(rect(), bild_);
+    }
+}
+
+void SchreibortPruefen(std::string_view ordner) {
+    if (!OrdnerBeschreibbar(ordner)) {
+        Meldung(kerntexte::keinSchreibort, {ordner});
     }
 }
 

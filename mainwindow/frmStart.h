@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <string_view>
+
 class QLabel;
 class QPushButton;
 
@@ -22,6 +24,9 @@ private:
     QLabel* lblVersion_ = nullptr;
     QPushButton* cmdStart_ = nullptr;
 };
+
+// Tells, once after the start, when nothing can be saved in the program's folder.
+void SchreibortPruefen(std::string_view ordner);
 
 // Sets AppPfad to the program's folder and shows the start window.
 void StartfensterZeigen();

@@ -27,6 +27,13 @@ inline constexpr MeldungsText startbildFehlt{5, "Ich kann [ {} ] nicht finden !"
                                              "Hab ich das denn ins Programmverzeichnis kopiert ?"};
 inline constexpr MeldungsText startbildProblem{5, "Ich habe Probleme !", "1", "Das ist ja ganz ungewohnt"};
 
+// The program's own folder takes no file; {} is the folder.
+inline constexpr MeldungsText keinSchreibort{
+    4,
+    "In meinem Ordner\r\n[ {} ]\r\nkann ich nichts speichern.\r\n"
+    "Kopiere ihn dorthin, wo du schreiben darfst,\r\nund starte mich von dort.",
+    "1", "Gut, das mache ich"};
+
 // End of the program.
 inline constexpr NachrichtText iniSpeichern{1, "Feldkranz! beenden - Ini-Datei speichern !",
                                             "Sollen die aktuellen Einstellungen\r\ngespeichert werden ?", 2,

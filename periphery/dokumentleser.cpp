@@ -4,6 +4,7 @@
 #include "core/oberflaeche.h"
 #include "periphery/dokumentansicht.h"
 #include "periphery/texte.h"
+#include "periphery/uebergabe.h"
 #include "periphery/zusatz.h"
 #include "tooltips/hinweise.h"
 
@@ -11,6 +12,7 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
@@ -55,16 +57,34 @@ Dokumentleser::Dokumentleser(QWidget* eltern) : QWidget(eltern) {
         ansicht_->BeiWechsel([this] { Auffrischen(); });
         setFocusProxy(ansicht_->Steuerelement());
         spalte->addWidget(ansicht_->Steuerelement(), 1);
-    } else {
-        spalte->addStretch(1);
     }
     lblStand_ = new QLabel(this);
     lblStand_->setObjectName(QStringLiteral("lblStand"));
     lblStand_->setTextFormat(Qt::PlainText); // what was looked for stands in it
     lblStand_->setWordWrap(true);
     spalte->addWidget(lblStand_);
+    cmdSystemleser_ = SystemleserBauen();
+    if (ansicht_ == nullptr) {
+        leiste_->hide(); // nothing to turn, to size or to search
+        suchzeile_->hide();
+        setFocusProxy(cmdSystemleser_);
+        spalte->addWidget(cmdSystemleser_, 0, Qt::AlignLeft);
+        spalte->addStretch(1);
+    }
     TastenVerbinden();
     Auffrischen();
+}
+
+QPushButton* Dokumentleser::SystemleserBauen() {
+    auto* knopf = new QPushButton(Anzeige(periphertexte::imSystemleser), this);
+    knopf->setObjectName(QStringLiteral("cmdSystemleser"));
+    knopf->setVisible(ansicht_ == nullptr);
+    connect(knopf, &QPushButton::clicked, this, [this] {
+        if (!DokumentUebergeben(datei_)) {
+            lblStand_->setText(Anzeige(periphertexte::keinSystemleser));
+        }
+    });
+    return knopf;
 }
 
 QToolButton* Dokumentleser::TasteBauen(const char* name, std::string_view aufschrift,
@@ -145,7 +165,7 @@ void Dokumentleser::Kurztaste(const QKeySequence& taste, void (Dokumentleser::*r
 
 void Dokumentleser::TastenVerbinden() {
     if (ansicht_ == nullptr) {
-        return; // nothing to turn, to size or to search
+        return;
     }
     Kurztaste(Qt::CTRL | Qt::Key_F, &Dokumentleser::SucheBeginnen);
     Kurztaste(Qt::Key_Escape, &Dokumentleser::SucheVerlassen);
@@ -161,6 +181,7 @@ void Dokumentleser::TastenVerbinden() {
 }
 
 bool Dokumentleser::Laden(const QString& datei) {
+    datei_ = datei;
     txtSuche_->clear();
     Suchen();
     geladen_ = ansicht_ != nullptr && ansicht_->Laden(datei);
@@ -201,6 +222,9 @@ void Dokumentleser::GanzeSeite() {
 // Where the reader is stands below the pages; why there is nothing to read stands where they would begin: the
 // list of forms may cover the foot of the window.
 void Dokumentleser::StandEinordnen() {
+    if (ansicht_ == nullptr) {
+        return;
+    }
     auto* spalte = qobject_cast<QVBoxLayout*>(layout());
     const int platz = geladen_ ? spalte->count() - 1 : spalte->indexOf(suchzeile_) + 1;
     if (spalte->indexOf(lblStand_) != platz) {

@@ -1,6 +1,6 @@
 // The control in which a document is read: the pages, a bar to turn and size them, a line to search in them,
 // and a line that says where the reader is or why there is nothing to read. The pages themselves come from
-// the plug-in (periphery/dokumentansicht.h).
+// the plug-in (periphery/dokumentansicht.h); without it there is a button for the system's own viewer.
 #pragma once
 
 #include <QTimer>
@@ -11,6 +11,7 @@
 class Dokumentansicht;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QToolBar;
 class QToolButton;
 
@@ -26,6 +27,7 @@ public:
 private:
     void LeisteBauen();
     QWidget* SuchzeileBauen();
+    QPushButton* SystemleserBauen();
     QToolButton* TasteBauen(const char* name, std::string_view aufschrift, void (Dokumentleser::*routine)());
     void TastenVerbinden();
     void Kurztaste(const QKeySequence& taste, void (Dokumentleser::*routine)());
@@ -54,6 +56,8 @@ private:
     QWidget* suchzeile_ = nullptr;
     QLineEdit* txtSuche_ = nullptr;
     QLabel* lblStand_ = nullptr;
+    QPushButton* cmdSystemleser_ = nullptr;
+    QString datei_;
     QTimer verzoegerung_; // a search waits until the typing pauses
     QString gesucht_;
     int funde_ = 0;

@@ -17,6 +17,9 @@ inline constexpr MeldungsText regelFehlt{0, "Die Datei\r\n{}\r\nscheint nicht vo
 inline constexpr std::string_view regelTitel = " Spielregel";
 
 inline constexpr std::string_view kannNichtZeigen = " Ich kann hier leider keine PDF-Datei zeigen.";
+inline constexpr std::string_view imSystemleser = "Im &PDF-Programm öffnen";
+inline constexpr std::string_view keinSystemleser =
+    " Auf diesem Rechner finde ich kein Programm, das PDF-Dateien zeigt.";
 inline constexpr std::string_view nichtLesbar =
     " Diese Datei kann ich nicht lesen: sie ist beschädigt oder verschlüsselt.";
 inline constexpr std::string_view seiteVon = " Seite {} von {}  -  {} %";
@@ -51,6 +54,9 @@ inline constexpr std::array leserHinweise{
     Hinweistext{"lblSuche", "Mit [Strg]+[F] beginnt die Suche.", regelHinweis, suchStatus},
     Hinweistext{"cmdFundZurueck", "Zur vorigen Fundstelle.\r\n[Umschalt]+[F3]", regelHinweis,
                 " Vorige Fundstelle"},
+    Hinweistext{"cmdSystemleser",
+                "Spielregel in dem Programm öffnen, das auf diesem Rechner PDF-Dateien zeigt.", regelHinweis,
+                " Spielregel im PDF-Programm öffnen"},
     Hinweistext{"cmdFundWeiter", "Zur nächsten Fundstelle.\r\n[F3]", regelHinweis, " Nächste Fundstelle"},
 };
 

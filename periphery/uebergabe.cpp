@@ -28,6 +28,15 @@ bool AnSystemUebergeben(std::string_view adresse) {
         QUrl(QString::fromUtf8(adresse.data(), static_cast<qsizetype>(adresse.size()))));
 }
 
+bool DokumentUebergeben(const QString& datei) {
+    if (!datei.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+        return false;
+    }
+    const QUrl adresse = QUrl::fromLocalFile(datei);
+    return ersatz ? ersatz(adresse.toString(QUrl::FullyEncoded).toStdString())
+                  : QDesktopServices::openUrl(adresse);
+}
+
 void UebergabeErsetzen(std::function<bool(const std::string& adresse)> empfaenger) {
     ersatz = std::move(empfaenger);
 }

@@ -224,6 +224,16 @@ TEST(Ablage, FilesAndFoldersComeAndGo) {
     EXPECT_TRUE(ordner.namen().empty());
 }
 
+TEST(Ablage, AFolderTakesFilesWhereOneCanBeMade) {
+    const Probeordner ordner;
+    ordner.schreiben("zu/a.fkr", "x");
+    EXPECT_TRUE(OrdnerBeschreibbar(ordner.eigen("")));
+    EXPECT_FALSE(OrdnerBeschreibbar(ordner.eigen("fehlt")));
+    EXPECT_FALSE(OrdnerBeschreibbar(ordner.eigen("zu/a.fkr")));
+    EXPECT_FALSE(OrdnerBeschreibbar("\\proc")); // no rights help there
+    EXPECT_EQ(ordner.namen("zu"), std::set<std::string>{"a.fkr"});
+}
+
 TEST(Ablage, SizeAndDateOfAFile) {
     const Probeordner ordner;
     ordner.schreiben("a.fkr", "12345");

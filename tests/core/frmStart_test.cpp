@@ -51,6 +51,7 @@ private Q_SLOTS:
     void aDamagedPictureGivesTheOtherMessage();
     void onlyTheButtonGoesOnToTheMainWindow();
     void enterPressesTheButton();
+    void aFolderThatTakesNoFileIsToldWithWhatToDo();
     void whatAKilledProgramLeftGoesAndRescuedFormsStay();
 };
 
@@ -102,6 +103,20 @@ void FrmStartTest::enterPressesTheButton() {
     const QPointer<frmStart> fenster = start.Zeigen();
     QTest::keyClick(fenster->focusWidget(), Qt::Key_Return);
     QTRY_VERIFY(fenster.isNull());
+}
+
+void FrmStartTest::aFolderThatTakesNoFileIsToldWithWhatToDo() {
+    const Start start;
+    Dialogfolge dialoge;
+    SchreibortPruefen(Stand.AppPfad); // nothing to tell
+    const std::string ordner = Stand.AppPfad + "\\fehlt";
+    dialoge.meldung(
+        QStringLiteral("In meinem Ordner\n[ ") + QString::fromStdString(ordner) +
+            QStringLiteral(" ]\nkann ich nichts speichern.\n"
+                           "Kopiere ihn dorthin, wo du schreiben darfst,\nund starte mich von dort."),
+        QStringLiteral("Gut, das mache ich"));
+    SchreibortPruefen(ordner);
+    QVERIFY(dialoge.fertig());
 }
 
 void FrmStartTest::whatAKilledProgramLeftGoesAndRescuedFormsStay() {
