@@ -1,211 +1,148 @@
+#include "core/plattform_windows.h"
+
 #include "core/plattform.h"
+#include "core/windowsname.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
-#include <QFileInfo>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QSaveFile>
 
-#include <windows.h>
-// mmsystem.h needs windows.h ahead of it.
-#include <mmsystem.h>
+#include <algorithm>
+#include <vector>
 
 namespace plattform {
 
 namespace {
 
-// The run-time error for the system's last error, on reading or on writing.
-[[nodiscard]] Laufzeitfehler Systemfehler(bool lesen) {
-    switch (::GetLastError()) {
-    case ERROR_FILE_NOT_FOUND:
-        return Laufzeitfehler(Fehler::DateiNichtGefunden);
-    case ERROR_PATH_NOT_FOUND:
-        return Laufzeitfehler(lesen ? Fehler::DateiNichtGefunden : Fehler::PfadNichtGefunden);
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_WRITE_PROTECT:
-        return Laufzeitfehler(lesen ? Fehler::DateinameFalsch : Fehler::ZugriffVerweigert);
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-        return Laufzeitfehler(Fehler::DatentraegerVoll);
-    case ERROR_ALREADY_EXISTS:
-    case ERROR_FILE_EXISTS:
-    case ERROR_DIR_NOT_EMPTY:
-        return Laufzeitfehler(Fehler::PfadZugriff);
-    case ERROR_INVALID_NAME:
-    case ERROR_FILENAME_EXCED_RANGE:
-        return Laufzeitfehler(Fehler::DateinameFalsch);
-    case ERROR_NOT_READY:
-        return Laufzeitfehler(Fehler::LaufwerkNichtBereit);
-    case ERROR_BAD_UNIT:
-    case ERROR_DEV_NOT_EXIST:
-        return Laufzeitfehler(Fehler::GeraetFehlt);
-    case ERROR_CRC:
-    case ERROR_FILE_CORRUPT:
-        return Laufzeitfehler(Fehler::MediumFehler);
-    default:
-        return Laufzeitfehler(Fehler::GeraetEA);
+// A drive without a disk is an error of the call that met it, not a box of the system's in front of the
+// program.
+[[maybe_unused]] const UINT fehlerOhneKasten = ::SetErrorMode(SEM_FAILCRITICALERRORS);
+
+constexpr std::wstring_view langerPfad = L"\\\\?\\";
+constexpr std::wstring_view langerNetzpfad = L"\\\\?\\UNC\\";
+
+[[nodiscard]] bool IstLaufwerk(const QString& teil) {
+    return teil.size() == 2 && teil.at(0).isLetter() && teil.at(0).unicode() < 128 &&
+           teil.at(1) == QLatin1Char(':');
+}
+
+[[nodiscard]] bool TeileErlaubt(const QString& pfad) {
+    constexpr qsizetype laengster = 255; // that any file system takes
+    const QStringList teile = pfad.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < teile.size(); ++i) {
+        const QString& teil = teile.at(i);
+        const bool laufwerk = i == 0 && IstLaufwerk(teil);
+        if (!laufwerk && teil != QLatin1String(".") && teil != QLatin1String("..") &&
+            (teil.size() > laengster || !WindowsnameErlaubt(teil.toStdString()))) {
+            return false;
+        }
     }
+    return true;
 }
 
-void Gelungen(bool gelungen) {
-    if (!gelungen) {
-        throw Systemfehler(false);
+// The path from its drive or server on, with "." and ".." gone.
+[[nodiscard]] std::wstring Vollstaendig(const std::wstring& pfad) {
+    std::wstring ganz(MAX_PATH, L'\0');
+    DWORD laenge = ::GetFullPathNameW(pfad.c_str(), static_cast<DWORD>(ganz.size()), ganz.data(), nullptr);
+    if (laenge > ganz.size()) {
+        ganz.resize(laenge);
+        laenge = ::GetFullPathNameW(pfad.c_str(), static_cast<DWORD>(ganz.size()), ganz.data(), nullptr);
     }
+    if (laenge == 0 || laenge > ganz.size()) {
+        throw Laufzeitfehler(Fehler::DateinameFalsch);
+    }
+    ganz.resize(laenge);
+    return ganz;
 }
 
-void Fuellen(QFileDevice& datei, std::string_view bytes) {
-    const auto laenge = static_cast<qint64>(bytes.size());
-    Gelungen(datei.write(bytes.data(), laenge) == laenge && datei.flush());
+// Opens a regular file for reading. What else stands there isn't opened at all.
+[[nodiscard]] Griff RegulaereOeffnen(const std::wstring& pfad) {
+    if (Befragen(pfad).ordner()) {
+        throw Laufzeitfehler(Fehler::DateinameFalsch);
+    }
+    Griff datei(::CreateFileW(pfad.c_str(), GENERIC_READ, allesTeilen, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!datei.offen()) {
+        throw Lesefehler(::GetLastError());
+    }
+    if (::GetFileType(datei.griff()) != FILE_TYPE_DISK) {
+        throw Laufzeitfehler(Fehler::DateinameFalsch);
+    }
+    return datei;
 }
 
-// Forces to the disk what the system still holds of a file.
-void Erzwingen(const QString& pfad) {
-    const std::wstring name = QDir::toNativeSeparators(pfad).toStdWString();
-    const HANDLE datei = ::CreateFileW(name.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr);
-    Gelungen(datei != INVALID_HANDLE_VALUE);
-    const bool erzwungen = ::FlushFileBuffers(datei) != 0;
-    ::CloseHandle(datei);
-    Gelungen(erzwungen);
+// Reads on until the end or until the room is full; returns the bytes read.
+[[nodiscard]] std::size_t Auffuellen(const Griff& datei, char* ziel, std::size_t raum) {
+    constexpr std::size_t stueck = std::size_t{1} << 24U;
+    std::size_t gelesen = 0;
+    while (gelesen < raum) {
+        DWORD anzahl = 0;
+        const auto wunsch = static_cast<DWORD>(std::min(raum - gelesen, stueck));
+        if (::ReadFile(datei.griff(), ziel + gelesen, wunsch, &anzahl, nullptr) == 0) {
+            throw Lesefehler(::GetLastError());
+        }
+        if (anzahl == 0) {
+            break;
+        }
+        gelesen += anzahl;
+    }
+    return gelesen;
 }
 
 } // namespace
 
-Art ArtVon(const QString& pfad) noexcept {
-    const QFileInfo info(pfad);
-    return info.isDir()    ? Art::Ordner
-           : info.isFile() ? Art::Datei
-           : info.exists() ? Art::Anderes
-                           : Art::Nichts;
+Griff& Griff::operator=(Griff&& anderer) noexcept {
+    if (this != &anderer) {
+        Schliessen();
+        griff_ = std::exchange(anderer.griff_, INVALID_HANDLE_VALUE);
+    }
+    return *this;
 }
 
-Dateizustand Nachsehen(const QString& pfad) {
-    const QFileInfo info(pfad);
-    if (!info.exists()) {
-        throw Laufzeitfehler(Fehler::DateiNichtGefunden);
+void Griff::Schliessen() noexcept {
+    if (offen()) {
+        ::CloseHandle(std::exchange(griff_, INVALID_HANDLE_VALUE));
     }
-    return {ArtVon(pfad), info.size(), info.lastModified().toSecsSinceEpoch()};
 }
 
-std::vector<Eintrag> OrdnerLesen(const QString& ordner) {
-    if (ArtVon(ordner) != Art::Ordner) {
-        throw Laufzeitfehler(Fehler::PfadNichtGefunden);
+std::wstring Systempfad(const QString& pfad) {
+    QString eigen = QDir::toNativeSeparators(pfad);
+    if (eigen.startsWith(QString::fromWCharArray(langerNetzpfad.data(), langerNetzpfad.size()))) {
+        eigen = QStringLiteral("\\\\") + eigen.mid(static_cast<qsizetype>(langerNetzpfad.size()));
+    } else if (eigen.startsWith(QString::fromWCharArray(langerPfad.data(), langerPfad.size()))) {
+        eigen = eigen.mid(static_cast<qsizetype>(langerPfad.size()));
     }
-    std::vector<Eintrag> eintraege;
-    QDirIterator lauf(ordner, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    while (lauf.hasNext()) {
-        lauf.next();
-        eintraege.push_back({lauf.fileName(), lauf.fileInfo().isDir()});
+    if (eigen.isEmpty() || eigen.contains(QChar()) || !TeileErlaubt(eigen)) {
+        throw Laufzeitfehler(Fehler::DateinameFalsch);
     }
-    return eintraege;
-}
-
-std::vector<QString> NamenLesen(const QString& ordner) {
-    std::vector<QString> namen;
-    for (const Eintrag& eintrag : OrdnerLesen(ordner)) {
-        namen.push_back(eintrag.name);
+    if (IstLaufwerk(eigen)) {
+        eigen += QLatin1Char('\\'); // or it would be the folder that is the current one there
     }
-    return namen;
+    const std::wstring ganz = Vollstaendig(eigen.toStdWString());
+    return ganz.starts_with(L"\\\\") ? std::wstring(langerNetzpfad) + ganz.substr(2)
+                                     : std::wstring(langerPfad) + ganz;
 }
 
 std::string Lesen(const QString& datei, std::size_t grenze) {
-    QFile offen(datei);
-    const Art art = ArtVon(datei);
-    if (art != Art::Datei) {
-        throw Laufzeitfehler(art == Art::Nichts ? Fehler::DateiNichtGefunden : Fehler::DateinameFalsch);
+    const Griff offen = RegulaereOeffnen(Systempfad(datei));
+    LARGE_INTEGER groesse{};
+    if (::GetFileSizeEx(offen.griff(), &groesse) == 0) {
+        throw Lesefehler(::GetLastError());
     }
-    if (!offen.open(QIODevice::ReadOnly)) {
-        throw Systemfehler(true);
-    }
-    const QByteArray bytes = offen.read(static_cast<qint64>(grenze) + 1);
-    if (offen.error() != QFileDevice::NoError) {
-        throw Systemfehler(true);
-    }
-    if (static_cast<std::size_t>(bytes.size()) > grenze) {
-        throw Laufzeitfehler(Fehler::SpeicherVoll);
-    }
-    return bytes.toStdString();
-}
-
-bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes) {
-    const Art art = ArtVon(ziel);
-    if (art == Art::Ordner || art == Art::Anderes) {
-        throw Laufzeitfehler(Fehler::PfadZugriff);
-    }
-    if (art == Art::Datei) {
-        QFile probe(ziel);
-        Gelungen(probe.open(QIODevice::ReadWrite)); // a write-protected file must not be replaced
-    }
-    QSaveFile neu(ziel); // commit forces the bytes to the disk ahead of the renaming
-    if (!neu.open(QIODevice::WriteOnly)) {
-        if (art == Art::Datei && ::GetLastError() == ERROR_ACCESS_DENIED) {
-            return false;
+    // The size is a hint only: the file may grow meanwhile. One byte more than expected shows the end.
+    const auto erwartet = static_cast<std::size_t>(groesse.QuadPart);
+    std::size_t raum = std::max<std::size_t>(erwartet, 4095) + 1;
+    std::string bytes;
+    for (std::size_t gelesen = 0; erwartet <= grenze; raum *= 2) {
+        bytes.resize(raum);
+        gelesen += Auffuellen(offen, bytes.data() + gelesen, raum - gelesen);
+        if (gelesen > grenze) {
+            break;
         }
-        throw Systemfehler(false);
+        if (gelesen < raum) {
+            bytes.resize(gelesen);
+            return bytes;
+        }
     }
-    Fuellen(neu, bytes);
-    Gelungen(neu.commit());
-    return true;
-}
-
-void ResteLoeschen(const QString& /*ordner*/) {
-    // The names of QSaveFile's own new files can't be told from those of a user's.
-}
-
-void AnOrtUeberschreiben(const QString& ziel, std::string_view bytes) {
-    QFile datei(ziel);
-    Gelungen(datei.open(QIODevice::ReadWrite));
-    Fuellen(datei, bytes);
-    Gelungen(datei.resize(static_cast<qint64>(bytes.size())));
-    datei.close();
-    Erzwingen(ziel);
-}
-
-QString KopieAblegen(const QString& ziel, std::string_view bytes) {
-    const QString name = QStringLiteral("Feldkranz-") + QFileInfo(ziel).fileName().left(60) +
-                         QLatin1Char('-') + QString::number(QRandomGenerator::system()->generate64(), 16);
-    const QString pfad = QDir::temp().filePath(name);
-    QSaveFile kopie(pfad);
-    Gelungen(kopie.open(QIODevice::WriteOnly));
-    Fuellen(kopie, bytes);
-    Gelungen(kopie.commit());
-    return pfad;
-}
-
-void Loeschen(const QString& datei) {
-    Gelungen(QFile::remove(datei));
-}
-
-void OrdnerAnlegen(const QString& ordner) {
-    Gelungen(QDir().mkdir(ordner));
-}
-
-void OrdnerLoeschen(const QString& ordner) {
-    Gelungen(QDir().rmdir(ordner));
-}
-
-std::vector<QString> Wurzeln() {
-    std::vector<QString> wurzeln;
-    for (const QFileInfo& laufwerk : QDir::drives()) {
-        wurzeln.push_back(laufwerk.absolutePath());
-    }
-    return wurzeln;
-}
-
-bool TexteditorStarten(const QString& datei) {
-    return QProcess::startDetached(QStringLiteral("notepad.exe"), {QDir::toNativeSeparators(datei)});
-}
-
-bool ProzesseAbschirmbar() {
-    return true;
-}
-
-bool KlangAbspielen(const QString& datei) {
-    const std::wstring pfad = QDir::toNativeSeparators(datei).toStdWString();
-    return ::sndPlaySoundW(pfad.c_str(), SND_SYNC) != 0;
+    throw Laufzeitfehler(Fehler::SpeicherVoll);
 }
 
 } // namespace plattform

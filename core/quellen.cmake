@@ -9,10 +9,14 @@ feldkranz_quellen(modell
   core/pfadname.cpp
   core/schritt.cpp
   core/wertlesen.cpp core/wertschreiben.cpp
+  core/windowsname.cpp
   core/zeichenbefund.cpp)
 feldkranz_quellen(rand core/datei.cpp core/ordner.cpp core/pfad.cpp)
 if(WIN32)
-  feldkranz_quellen(rand core/plattform_windows.cpp)
+  feldkranz_quellen(rand
+    core/plattform_windows.cpp core/plattform_windows_fehler.cpp core/plattform_windows_ordner.cpp
+    core/plattform_windows_programme.cpp core/plattform_windows_reste.cpp
+    core/plattform_windows_sichern.cpp)
   target_link_libraries(rand PUBLIC winmm)
 else()
   feldkranz_quellen(rand
