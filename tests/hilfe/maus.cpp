@@ -1,12 +1,13 @@
 #include "tests/hilfe/maus.h"
 
+#include "tests/hilfe/mausbote.h"
+
 #include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHash>
 #include <QPointer>
-#include <QProcess>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -108,23 +109,6 @@ QStringList Umschalter(Qt::KeyboardModifiers tasten, const QString& befehl) {
         befehle << befehl << QStringLiteral("alt");
     }
     return befehle;
-}
-
-// Starts the process that sends the events; danach runs when it has ended, also inside another event loop.
-void Senden(const QStringList& befehle, Stelle aufrufer, const std::function<void()>& danach) {
-    auto* prozess = new QProcess(qApp);
-    QObject::connect(prozess, &QProcess::errorOccurred, qApp, [aufrufer, danach](QProcess::ProcessError) {
-        Versagen(QStringLiteral("xdotool doesn't run"), aufrufer);
-        danach();
-    });
-    QObject::connect(prozess, &QProcess::finished, qApp, [prozess, aufrufer, danach](int code) {
-        if (code != 0) {
-            Versagen(QString::fromLocal8Bit(prozess->readAllStandardError()), aufrufer);
-        }
-        prozess->deleteLater();
-        danach();
-    });
-    prozess->start(QStringLiteral("xdotool"), befehle);
 }
 
 // Sends and waits until the process has ended and the program has seen so many events of the kind.
