@@ -22,6 +22,8 @@ inline constexpr bool unterscheidetSchreibung = false;
 #else
 inline constexpr bool unterscheidetSchreibung = true;
 #endif
+// True where the system brings its own dialog for printers, which knows no files.
+inline constexpr bool systemdruckdialog = !unterscheidetSchreibung;
 
 // What stands under a name, links followed.
 enum class Art : std::uint8_t { Nichts, Datei, Ordner, Anderes };
@@ -43,7 +45,8 @@ struct Eintrag {
 
 // All names in a folder, in no order, "." and ".." left out. Asks nothing about what they stand for.
 [[nodiscard]] std::vector<QString> NamenLesen(const QString& ordner);
-// The regular files and the folders among them, links followed.
+// The regular files and the folders among them, links followed; without those that bear a mark of the
+// system's that hides them.
 [[nodiscard]] std::vector<Eintrag> OrdnerLesen(const QString& ordner);
 
 // Bytes of a regular file. Anything else is 52: a pipe or a device would hang or never end. More bytes than

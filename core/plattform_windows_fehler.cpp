@@ -80,6 +80,7 @@ constexpr std::array fehlertabelle{
     Zeile(ERROR_REM_NOT_LIST, geraetFort),
     Zeile(ERROR_BAD_NETPATH, geraetFort),
     Zeile(ERROR_BAD_NET_NAME, geraetFort),
+    Zeile(ERROR_BAD_DEV_TYPE, geraetFort),
     Zeile(ERROR_NETNAME_DELETED, geraetFort),
     Zeile(ERROR_NETWORK_BUSY, geraetFort),
     Zeile(ERROR_UNEXP_NET_ERR, geraetFort),

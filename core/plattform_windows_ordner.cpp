@@ -166,11 +166,10 @@ void OrdnerLoeschen(const QString& ordner) {
 
 std::vector<QString> Wurzeln() {
     std::vector<QString> wurzeln;
-    const DWORD vorhanden = ::GetLogicalDrives();
     const wchar_t system = Systemlaufwerk();
     for (wchar_t buchstabe = L'A'; buchstabe <= L'Z'; ++buchstabe) {
         const std::wstring wurzel{buchstabe, L':', L'\\'};
-        if ((vorhanden >> static_cast<unsigned>(buchstabe - L'A') & 1U) != 0 && MitDatentraeger(wurzel)) {
+        if (MitDatentraeger(wurzel)) {
             const auto stelle = buchstabe == system ? wurzeln.begin() : wurzeln.end();
             wurzeln.insert(stelle, QString(QChar(buchstabe)) + QStringLiteral(":/"));
         }

@@ -127,6 +127,14 @@ public:
         AllesSchreiben(datei_, bytes);
         Erzwingen(datei_);
     }
+    // Marks that the user may have given the old file.
+    void AttributeUebernehmen(DWORD attribute) const {
+        constexpr DWORD marken =
+            FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+        if ((attribute & marken) != 0) {
+            ::SetFileAttributesW(pfad_.c_str(), (attribute & marken) | FILE_ATTRIBUTE_ARCHIVE);
+        }
+    }
     // 0 or the system's code.
     [[nodiscard]] DWORD Umbenennen(const Zielort& ort);
     void Behalten() { pfad_.clear(); }
@@ -136,7 +144,7 @@ private:
     std::wstring pfad_;
 };
 
-// The old file's place, with its attributes, dates, rights and streams; where the file system can't do that,
+// The old file's place, with its dates, rights and streams; where the file system can't do that,
 // at least in one step. The renaming is forced to the disk.
 [[nodiscard]] bool Ersetzen(const Zielort& ort, const std::wstring& neu) {
     constexpr DWORD nurDieBytesZaehlen = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
@@ -184,6 +192,7 @@ bool DauerhaftErsetzen(const QString& ziel, std::string_view bytes) {
     DWORD fehler = neu.Anlegen(ort.ordner + Zufallsname());
     if (fehler == 0) {
         neu.Fuellen(bytes);
+        neu.AttributeUebernehmen(ort.vorher ? ort.vorher->attribute : 0);
         fehler = neu.Umbenennen(ort);
     }
     if (fehler == 0) {

@@ -2,6 +2,8 @@
 
 #include "core/hauptfenster.h"
 #include "core/oberflaeche.h"
+#include "core/plattform.h"
+#include "dialogs/meldung.h"
 #include "dialogs/modal.h"
 #include "printing/blattplatz.h"
 #include "printing/drucker.h"
@@ -31,6 +33,10 @@ void AlsEinstellungBenennen(QPrintDialog& dialog) {
 void DruckerWahl(Formart art, const std::string& datei) {
     constexpr int kopien = 5;
     std::unique_ptr<QPrinter> drucker = DruckerKopie(Blattplatz(art, datei));
+    if (plattform::systemdruckdialog && drucker->outputFormat() != QPrinter::NativeFormat) {
+        Meldung(drucktexte::ohneDrucker); // the dialog wouldn't come
+        return;
+    }
     drucker->setCopyCount(kopien);
     QPrintDialog dialog(drucker.get(), Hauptfenster());
     AlsEinstellungBenennen(dialog);

@@ -21,6 +21,9 @@ inline constexpr std::string_view kastentitel = "Feldkranz";
 inline constexpr std::string_view einrichten = "Drucker einrichten"; // title and button of the printer dialog
 inline constexpr std::string_view uebernehmen = "Ü&bernehmen";
 
+inline constexpr MeldungsText ohneDrucker{
+    11, "Ich finde hier keinen Drucker.\r\nDeine Blätter lege ich als PDF-Datei neben das Formular.", "11",
+    "Auch gut"};
 inline constexpr MeldungsText ohnePapier{11, "Mir fehlt die Angabe der Papiergröße.", "11",
                                          "Hole ich sofort nach !"};
 
