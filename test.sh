@@ -9,14 +9,15 @@
 #   ./test.sh asan      tests under the address and undefined-behaviour sanitizers
 #   ./test.sh fuzz 60   every reader, writer and layout of the model against made-up inputs, 60 seconds each
 #   ./test.sh coverage  tests with the share of lines and branches that they run
+#   ./test.sh windows   the program for Windows under Wine, where packaging/windows.sh has built its toolkit
 #   ./test.sh release   the program as it is shipped, and the tests that the sanitizers can't run with it
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/pakete.sh
 
 case "${1:-schnell}" in
-  schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz) ;;
-  *) sed -n '2,13p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+  schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz | windows) ;;
+  *) sed -n '2,14p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
 
 pakete=("${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_stil[@]}")
@@ -86,6 +87,27 @@ fuzz() { # seconds
   tests/fuzz/fuzz.sh "${1:-60}" "$kerne"
 }
 
+# The model's tests, those of what only Windows has, and the evening in the real windows, compared with ours.
+windows() {
+  . packaging/windows/ort.sh
+  if ! windows_bereit "$PWD"; then
+    echo "The toolkit for Windows isn't there. packaging/windows.sh builds it, once, into $windows_cache," >&2
+    echo "and the program with it; that takes half an hour. Then ./test.sh windows runs." >&2
+    return 1
+  fi
+  pakete_sichern "${pakete_windows[@]}" "${pakete_wine[@]}"
+  ueberschrift "Building the evening for this system"
+  cmake --preset debug "${zusatz[@]}" >build/debug.log 2>&1 || { cat build/debug.log; return 1; }
+  cmake --build --preset debug --target abend
+  ueberschrift "Building windows"
+  export FELDKRANZ_WINDOWS_QT="$windows_qt"
+  cmake --preset windows "${zusatz[@]}" -DFELDKRANZ_TESTS=ON >build/windows.log 2>&1 ||
+    { cat build/windows.log; return 1; }
+  cmake --build --preset windows --target windows_tests
+  ueberschrift "Testing windows"
+  ctest --test-dir build/windows -L windows -j "$kerne" --output-on-failure --no-tests=error "$@"
+}
+
 mkdir -p build
 case "${1:-schnell}" in
   schnell) stil; tests debug ;;
@@ -94,6 +116,7 @@ case "${1:-schnell}" in
   tidy) tidy ;;
   lint) stil; tidy ;;
   release) release ;;
+  windows) windows "${@:2}" ;;
   fuzz) fuzz "${2:-60}" ;;
   debug | asan) tests "$@" ;;
   coverage)

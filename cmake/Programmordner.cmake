@@ -4,7 +4,7 @@
 # The toolkit's own texts in German travel inside the program, as :/uebersetzung/qtbase_de.qm.
 find_file(FELDKRANZ_QTBASE_DE qtbase_de.qm
   PATHS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_TRANSLATIONS}" /usr/share/qt6/translations
-  NO_DEFAULT_PATH REQUIRED
+  NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED # the texts are the same on all systems
   DOC "The toolkit's German translation (Debian: qt6-translations-l10n)")
 set_source_files_properties("${FELDKRANZ_QTBASE_DE}" PROPERTIES QT_RESOURCE_ALIAS qtbase_de.qm)
 qt_add_resources(fenster uebersetzung PREFIX /uebersetzung FILES "${FELDKRANZ_QTBASE_DE}")
@@ -14,7 +14,7 @@ if(EXISTS "${PROJECT_SOURCE_DIR}/mainwindow/main.cpp")
   target_link_libraries(feldkranz PRIVATE fenster)
   set_target_properties(feldkranz PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${FELDKRANZ_PROGRAMMORDNER}")
   if(WIN32)
-    target_sources(feldkranz PRIVATE "${PROJECT_SOURCE_DIR}/packaging/feldkranz.rc") # the icon of the file
+    include(WindowsProgramm)
   endif()
   install(TARGETS feldkranz RUNTIME DESTINATION .)
 endif()

@@ -12,6 +12,11 @@ pakete_stil=(clang-format python3)
 pakete_lint=(clang clang-tidy cppcheck python3)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
 pakete_bild=(graphviz python3 librsvg2-bin imagemagick fonts-liberation fonts-urw-base35)
+# The compiler for Windows, and what of the toolkit runs here when it is built for there.
+pakete_windows=(g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev cmake ninja-build qt6-base-dev
+  qt6-base-dev-tools qt6-translations-l10n python3 xz-utils)
+# What runs programs for Windows.
+pakete_wine=(wine wine64 fonts-liberation googletest poppler-utils python3)
 
 # pakete_sichern <package>...: installs those that aren't there; asks nothing, and touches nothing when all are.
 pakete_sichern() {

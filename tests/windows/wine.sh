@@ -11,6 +11,8 @@ if [ "${1:-}" = --ort ]; then
   echo "$WINEPREFIX"
   exit
 fi
+# Debian's own "wine" asks for its 32-bit half at each start.
+wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 # Neither of the two is looked for, asked for or installed.
 export WINEDLLOVERRIDES="mscoree,mshtml=${WINEDLLOVERRIDES:+;$WINEDLLOVERRIDES}"
 
@@ -25,7 +27,7 @@ prefix_machen() {
     '"FontSmoothingType"=dword:00000001' '"FontSmoothingGamma"=dword:00000578' \
     '"FontSmoothingOrientation"=dword:00000001' '' '[HKEY_CURRENT_USER\Software\Wine\WineDbg]' \
     '"ShowCrashDialog"=dword:00000000' >"$neu/glatt.reg"
-  WINEPREFIX="$neu" DISPLAY='' wine regedit 'Z:'"${neu//\//\\}"'\glatt.reg' >/dev/null 2>&1
+  WINEPREFIX="$neu" DISPLAY='' "$wine" regedit 'Z:'"${neu//\//\\}"'\glatt.reg' >/dev/null 2>&1
   WINEPREFIX="$neu" wineserver -w
   mv "$neu" "$WINEPREFIX"
 }
@@ -38,4 +40,4 @@ if [ ! -e "$WINEPREFIX/system.reg" ]; then
   [ -e "$WINEPREFIX/system.reg" ] || prefix_machen 9>&-
   exec 9>&-
 fi
-exec wine "$@"
+exec "$wine" "$@"
