@@ -20,6 +20,11 @@ set_target_properties(fenster PROPERTIES AUTOMOC ON)
 # Where the runnable program and its folders are laid.
 set(FELDKRANZ_PROGRAMMORDNER "${PROJECT_BINARY_DIR}/Feldkranz")
 
+# Where an installed program has what the portable folder holds, below the prefix.
+include(GNUInstallDirs)
+set(FELDKRANZ_DATENORDNER "share/feldkranz")
+set(FELDKRANZ_ZUSATZORDNER "${CMAKE_INSTALL_LIBDIR}/feldkranz")
+
 configure_file("${PROJECT_SOURCE_DIR}/core/konfiguration.h.in" "${PROJECT_BINARY_DIR}/erzeugt/core/konfiguration.h" @ONLY)
 
 # feldkranz_quellen(<layer> <file>...): adds sources of the calling subsystem to a layer.

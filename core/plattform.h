@@ -87,4 +87,14 @@ bool ProzesseAbschirmbar();
 // Plays a wave file and waits for its end, 20 seconds at most. False when it could not be played.
 bool KlangAbspielen(const QString& datei);
 
+// What the program was called with, without its own name: each as a path of the file system, and as UTF-8.
+struct Argument {
+    QString pfad;
+    std::string text;
+};
+[[nodiscard]] std::vector<Argument> Argumente(int anzahl, const char* const* argumente);
+
+// Where programs of one person meet under a name: nobody else's reach it. "" where there is no such place.
+[[nodiscard]] QString Anschluss(const QString& name);
+
 } // namespace plattform

@@ -1,3 +1,5 @@
+#include "core/plattform_posix.h"
+
 #include "core/plattform.h"
 
 #include <QDeadlineTimer>
@@ -82,6 +84,20 @@ bool KlangAbspielen(const QString& datei) {
         }
         return beendet && prozess.exitStatus() == QProcess::NormalExit && prozess.exitCode() == 0;
     });
+}
+
+std::vector<Argument> Argumente(int anzahl, const char* const* argumente) {
+    std::vector<Argument> alle;
+    for (int i = 1; i < anzahl; ++i) {
+        alle.push_back({AusPfadbytes(argumente[i]), argumente[i]});
+    }
+    return alle;
+}
+
+QString Anschluss(const QString& name) {
+    // Only the person gets into this folder, and it goes when he logs out.
+    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return ordner.isEmpty() ? QString() : ordner + QLatin1Char('/') + name;
 }
 
 } // namespace plattform

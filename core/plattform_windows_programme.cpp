@@ -4,8 +4,9 @@
 #include <QDir>
 #include <QProcess>
 
-// mmsystem.h needs windows.h ahead of it.
+// These need windows.h ahead of them.
 #include <mmsystem.h>
+#include <shellapi.h>
 
 namespace plattform {
 
@@ -25,6 +26,23 @@ bool KlangAbspielen(const QString& datei) {
     // prefix for long ones.
     const std::wstring pfad = QDir::toNativeSeparators(datei).toStdWString();
     return ::PlaySoundW(pfad.c_str(), nullptr, SND_FILENAME | SND_SYNC | SND_NODEFAULT) != 0;
+}
+
+std::vector<Argument> Argumente(int /*anzahl*/, const char* const* /*argumente*/) {
+    // The ones that main is given hold the characters of one code page only.
+    std::vector<Argument> alle;
+    int anzahl = 0;
+    wchar_t** const zeilen = ::CommandLineToArgvW(::GetCommandLineW(), &anzahl);
+    for (int i = 1; zeilen != nullptr && i < anzahl; ++i) {
+        const QString argument = QString::fromWCharArray(zeilen[i]);
+        alle.push_back({QDir::fromNativeSeparators(argument), argument.toStdString()});
+    }
+    ::LocalFree(zeilen);
+    return alle;
+}
+
+QString Anschluss(const QString& name) {
+    return name; // a pipe: the system keeps them apart from files, and open to its maker only
 }
 
 } // namespace plattform

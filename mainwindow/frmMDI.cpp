@@ -25,6 +25,7 @@
 #include "periphery/tray.h"
 #include "persistence/einstellungenladen.h"
 #include "rules/spielwerte.h"
+#include "start/einrichtungsbalken.h"
 #include "tooltips/hinweise.h"
 
 #include <QAction>
@@ -48,6 +49,15 @@ constexpr Twips kranzHoehe = 495_tw;
 constexpr Twips hilfeHoehe = 375_tw;
 constexpr Twips felderBreite = 3615_tw;
 constexpr int tippBreite = 180; // pixels
+
+// Unsaved work goes ahead: what else there is to tell waits for the next start then.
+void StandMelden() {
+    const std::string vorher = HilfeStand();
+    JournaleMelden();
+    if (HilfeStand() == vorher) {
+        DanebenliegendesMelden();
+    }
+}
 
 Panel* FelderPanelBauen(QWidget* pnlHilfe) {
     auto* panel = new Panel(pnlHilfe, QStringLiteral("pnlFKFelder"));
@@ -183,5 +193,5 @@ void HauptfensterZeigen() {
     FormularlisteOeffnetMit(FormularErsetzen);
     FormularlisteMitStartZeigen();
     NormalerZeiger();
-    QTimer::singleShot(0, fenster, JournaleMelden); // behind what the list says as it comes up
+    QTimer::singleShot(0, fenster, StandMelden); // behind what the list says as it comes up
 }

@@ -10,10 +10,12 @@
 #include "mainwindow/frmMDI.h"
 #include "mainwindow/hinweistexte.h"
 #include "mainwindow/texte.h"
+#include "periphery/zusatz.h"
+#include "start/einrichtungsbalken.h"
+#include "start/startorte.h"
 #include "tooltips/hinweise.h"
 #include "tooltips/tooltipregeln.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -31,7 +33,7 @@ constexpr int tippBreite = 300; // pixels
 
 } // namespace
 
-frmStart::frmStart() {
+frmStart::frmStart(const std::string& lieferung) {
     SanduhrZeigen();
     setObjectName(QStringLiteral("frmStart"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -39,7 +41,7 @@ frmStart::frmStart() {
     setFixedSize(Pixel(breite), Pixel(hoehe));
     const QRect schirm = screen()->geometry();
     move(schirm.center() - QPoint(width() / 2, height() / 2));
-    BildLaden();
+    BildLaden(lieferung);
     lblVersion_ = new QLabel(this);
     lblVersion_->setObjectName(QStringLiteral("lblVersion"));
     lblVersion_->setFont(Schrift(8.25_pt));
@@ -66,13 +68,38 @@ frmStart::frmStart() {
     auto* Timer1 = new QTimer(this); // it never closes the window by itself: its handler does nothing
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->start(2500);
+    Einrichten(lieferung);
     // While the user looks at this window: it costs the start nothing.
     QTimer::singleShot(0, this, [] { ResteEntfernen(Stand.AppPfad); });
     NormalerZeiger();
 }
 
-void frmStart::BildLaden() {
-    const std::string pfad = Stand.AppPfad + std::string(kerntexte::startbild);
+void frmStart::Einrichten(const std::string& lieferung) {
+    if (lieferung.empty()) {
+        return;
+    }
+    Einrichtung einrichtung(lieferung, Stand.AppPfad);
+    if (einrichtung.fertig()) {
+        return;
+    }
+    auto* balken = new Einrichtungsbalken(std::move(einrichtung), this);
+    balken->setGeometry(40, height() - 60, width() - 80, 20);
+    HinweisSetzen(balken, kerntexte::einrichtenTipp, tipp::titelStandard, kerntexte::einrichtenStatus);
+    lblVersion_->hide();
+    cmdStart_->setEnabled(false);
+    connect(balken, &Einrichtungsbalken::fertig, this, [this, balken] {
+        balken->hide();
+        lblVersion_->show();
+        cmdStart_->setEnabled(true);
+        cmdStart_->setFocus();
+    });
+}
+
+void frmStart::BildLaden(const std::string& lieferung) {
+    std::string pfad = Stand.AppPfad + std::string(kerntexte::startbild);
+    if (!lieferung.empty() && !DateiDa(pfad)) {
+        pfad = lieferung + std::string(kerntexte::startbild); // the folder is only being made
+    }
     const QString datei = NativerPfad(pfad);
     // The format is known: asking every picture plug-in for it would cost a good part of the start.
     QImageReader leser(datei, "bmp");
@@ -85,7 +112,7 @@ void frmStart::BildLaden() {
     if (QFileInfo::exists(datei)) {
         Meldung(kerntexte::startbildProblem);
     } else {
-        Meldung(kerntexte::startbildFehlt, {Stand.AppPfad + std::string(kerntexte::startbild)});
+        Meldung(kerntexte::startbildFehlt, {pfad});
     }
 }
 
@@ -102,8 +129,9 @@ void SchreibortPruefen(std::string_view ordner) {
     }
 }
 
-void StartfensterZeigen() {
-    Stand.AppPfad = EigenerPfad(QCoreApplication::applicationDirPath());
-    auto* fenster = new frmStart;
+void StartfensterZeigen(const Startorte& orte) {
+    Stand.AppPfad = EigenerPfad(orte.programmordner);
+    ZusatzordnerVorgeben(orte.zusatzordner);
+    auto* fenster = new frmStart(EigenerPfad(orte.lieferung));
     fenster->show();
 }

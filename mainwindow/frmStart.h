@@ -3,22 +3,27 @@
 
 #include <QWidget>
 
+#include <string>
 #include <string_view>
 
 class QLabel;
 class QPushButton;
+struct Startorte;
 
 class frmStart : public QWidget {
     Q_OBJECT
 
 public:
-    frmStart();
+    // lieferung: what AppPfad is made of, in the program's notation; "" where nothing is to be made.
+    explicit frmStart(const std::string& lieferung = {});
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    void BildLaden();
+    void BildLaden(const std::string& lieferung);
+    // The bar in place of the version, and the button out of use, until AppPfad is complete.
+    void Einrichten(const std::string& lieferung);
 
     QPixmap bild_;
     QLabel* lblVersion_ = nullptr;
@@ -28,5 +33,5 @@ private:
 // Tells, once after the start, when nothing can be saved in the program's folder.
 void SchreibortPruefen(std::string_view ordner);
 
-// Sets AppPfad to the program's folder and shows the start window.
-void StartfensterZeigen();
+// Sets AppPfad and shows the start window, which makes that folder where it is a person's own.
+void StartfensterZeigen(const Startorte& orte);

@@ -13,6 +13,9 @@ inline constexpr std::string_view zuletztAbgelegt =
 inline constexpr std::string_view startfenster = "Am Start ...";
 inline constexpr std::string_view startZeile = "Mit Grüßen von Tarvo und Brennek - weiter !";
 
+inline constexpr std::string_view einrichtenTipp = "Ich lege deinen Programmordner an oder erneuere ihn.";
+inline constexpr std::string_view einrichtenStatus = " Dein Programmordner wird eingerichtet";
+
 // The menu of the buttons for which the window is too narrow.
 inline constexpr std::string_view mehr = "Mehr";
 inline constexpr std::string_view mehrTipp = "Knöpfe, für die das Fenster zu schmal ist.";

@@ -14,5 +14,5 @@ template <class Schnittstelle>
     return qobject_cast<Schnittstelle*>(ZusatzLaden(name));
 }
 
-// Where plug-ins are looked for; empty is the program's own folder. For tests, which run elsewhere.
+// Where plug-ins are looked for; empty is the program's own folder.
 void ZusatzordnerVorgeben(const QString& ordner);

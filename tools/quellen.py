@@ -9,7 +9,7 @@ WURZEL = pathlib.Path(__file__).resolve().parent.parent
 SUBSYSTEME = [
     "core", "tooltips", "dialogs", "rules", "catalogue", "quizform", "testform", "persistence",
     "printing", "filetools", "settings", "editor", "periphery", "forms", "search", "filling", "checking", "sheets",
-    "mainwindow",
+    "start", "mainwindow",
 ]
 SCHICHTEN = ["modell", "rand", "fenster"]  # from the bottom up
 

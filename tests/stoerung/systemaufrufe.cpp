@@ -215,6 +215,11 @@ int renameat(int vonOrdner, const char* alt, int nachOrdner, const char* neu) no
     return Versagt("renameat", Pfad(nachOrdner, neu), true) ? -1 : echt(vonOrdner, alt, nachOrdner, neu);
 }
 
+int mkdir(const char* pfad, mode_t rechte) noexcept {
+    static auto* const echt = Echt<int(const char*, mode_t)>("mkdir");
+    return Versagt("mkdir", pfad, true) ? -1 : echt(pfad, rechte);
+}
+
 int unlink(const char* pfad) noexcept {
     static auto* const echt = Echt<int(const char*)>("unlink");
     return Versagt("unlink", pfad, true) ? -1 : echt(pfad);
