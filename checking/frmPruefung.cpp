@@ -7,6 +7,7 @@
 #include "checking/texte.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "core/lesehilfe.h"
 #include "core/meldungstext.h"
 #include "core/oberflaeche.h"
 #include "core/schritt.h"
@@ -59,6 +60,7 @@ void KopfSetzen(const QWidget& form, const Ersatztext& text) {
 } // namespace
 
 frmPruefung::frmPruefung() {
+    SystemschriftGeben(*this);
     Aufbauen();
     Verbinden();
 }

@@ -1,6 +1,7 @@
 #include "core/oberflaeche.h"
 
 #include "core/bilder.h"
+#include "core/lesehilfe.h"
 #include "core/palettenstil.h"
 
 #include <QApplication>
@@ -14,29 +15,6 @@
 namespace {
 
 QSize vorgegebeneGroesse;
-
-QPalette HellePalette() {
-    const QColor flaeche(233, 230, 223);
-    const QColor schrift(24, 24, 24);
-    const QColor matt(138, 134, 126);       // out of use
-    const QColor platzhalter(110, 106, 99); // to be read
-    QPalette palette(flaeche, flaeche);
-    palette.setColor(QPalette::WindowText, schrift);
-    palette.setColor(QPalette::Text, schrift);
-    palette.setColor(QPalette::ButtonText, schrift);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(246, 244, 239));
-    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 223));
-    palette.setColor(QPalette::ToolTipText, Qt::black);
-    palette.setColor(QPalette::PlaceholderText, platzhalter);
-    palette.setColor(QPalette::Highlight, QColor(38, 92, 156));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(22, 82, 150));
-    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, rolle, matt);
-    }
-    return palette;
-}
 
 } // namespace
 
@@ -90,7 +68,8 @@ void NormalerZeiger() {
 
 void OberflaecheEinrichten() {
     QApplication::setStyle(new Palettenstil(QStyleFactory::create(QStringLiteral("Fusion"))));
-    QApplication::setPalette(HellePalette());
+    LesehilfeEinrichten();
+    QApplication::setPalette(Programmpalette(false));
     QApplication::setFont(Schrift(9_pt));
     QApplication::setWindowIcon(Programmzeichen(48));
     auto* uebersetzung = new QTranslator(qApp);

@@ -28,6 +28,7 @@ feldkranz_quellen(fenster
   core/drehfeld.cpp core/drehfeld.h
   core/insbild.cpp
   core/klappliste.cpp
+  core/lesehilfe.cpp
   core/massfenster.cpp core/massfenster.h
   core/oberflaeche.cpp
   core/palettenstil.cpp core/palettenstil.h
@@ -37,3 +38,9 @@ feldkranz_quellen(fenster
   core/textfeld.cpp core/textfeld.h
   core/eigenverlauf.cpp core/textpruefung.cpp core/textzeile.cpp
   core/ziehbilder.cpp core/ziehen.cpp core/ziehtasten.cpp)
+if(WIN32)
+  feldkranz_quellen(fenster core/kontrastfrage_windows.cpp)
+else()
+  feldkranz_quellen(fenster core/kontrastfrage_portal.cpp)
+  target_link_libraries(fenster PUBLIC Qt6::DBus)
+endif()

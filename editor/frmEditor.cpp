@@ -2,6 +2,7 @@
 
 #include "core/fensterzeichen.h"
 #include "core/hauptfenster.h"
+#include "core/lesehilfe.h"
 #include "core/oberflaeche.h"
 #include "core/pfadname.h"
 #include "core/programmstand.h"
@@ -20,6 +21,7 @@
 #include <QShortcut>
 
 frmEditor::frmEditor() {
+    SystemschriftGeben(*this);
     setObjectName(QStringLiteral("frmEditor"));
     setProperty("tag", Anzeige(Fensterzeichen(Kindfenster::Editor)));
     setAttribute(Qt::WA_DeleteOnClose);

@@ -1,5 +1,6 @@
 #include "core/bilder.h"
 #include "core/klappliste.h"
+#include "core/lesehilfe.h"
 #include "core/oberflaeche.h"
 #include "filetools/dateitexte.h"
 #include "filetools/dateivorschau.h"
@@ -65,6 +66,7 @@ Anordnung* Rahmenlos(QWidget* feld) {
 } // namespace
 
 frmDatei::frmDatei(const Dateiauswahl& auswahl) : gewaehlt_(auswahl.pfad) {
+    SystemschriftGeben(*this);
     setObjectName(QStringLiteral("frmDatei"));
     setWindowTitle(Anzeige(auswahl.titel));
     setWindowIcon(Bildzeichen("datei/ordner"));

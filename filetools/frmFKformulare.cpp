@@ -4,6 +4,7 @@
 #include "core/fensterzeichen.h"
 #include "core/formularfenster.h"
 #include "core/hauptfenster.h"
+#include "core/lesehilfe.h"
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/programmstand.h"
@@ -50,6 +51,7 @@ frmFKformulare::frmFKformulare(QWidget* eltern, std::function<bool(const std::st
       muster_(listentexte::muster.front()),
       oeffnen_(std::move(oeffnen)) {
     setObjectName(QStringLiteral("frmFKformulare"));
+    SystemschriftGeben(*this);
     setWindowTitle(Anzeige(listentexte::fenstertitel));
     setWindowIcon(Bildzeichen("leiste/dateiliste"));
     setAttribute(Qt::WA_DeleteOnClose);

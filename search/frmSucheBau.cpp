@@ -3,6 +3,7 @@
 #include "core/bilder.h"
 #include "core/fensterzeichen.h"
 #include "core/klappliste.h"
+#include "core/lesehilfe.h"
 #include "core/oberflaeche.h"
 #include "core/textfeld.h"
 #include "core/ziehen.h"
@@ -41,6 +42,7 @@ QComboBox* Liste(QWidget* fenster, const char* name, std::string_view erster) {
 } // namespace
 
 frmSuche::frmSuche() {
+    SystemschriftGeben(*this);
     setObjectName(QStringLiteral("frmSuche"));
     setProperty("tag", Anzeige(Fensterzeichen(Kindfenster::Suche)));
     setAttribute(Qt::WA_DeleteOnClose);

@@ -1,5 +1,6 @@
 #include "sheets/frmVorschau.h"
 
+#include "core/lesehilfe.h"
 #include "core/meldungstext.h"
 #include "core/oberflaeche.h"
 #include "forms/formularfolger.h"
@@ -42,6 +43,7 @@ bool HatAntworten(const Blattvorlage& vorlage) {
 } // namespace
 
 frmVorschau::frmVorschau() : drucker_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+    SystemschriftGeben(*this);
     drucker_->setOutputFormat(QPrinter::PdfFormat); // nothing is ever written
     drucker_->setPageSize(QPageSize(QPageSize::A4));
     drucker_->setFullPage(true);
