@@ -5,6 +5,7 @@
 #include "core/oberflaeche.h"
 #include "core/pfad.h"
 #include "core/programmstand.h"
+#include "core/ziehen.h"
 #include "mainwindow/frmMDI.h"
 #include "mainwindow/frmStart.h"
 #include "quizform/fkformular.h"
@@ -146,8 +147,11 @@ void Abend::FragenZiehen() {
     int gebiet = 0;
     for (const Griff& griff : griffe) {
         FrageWaehlen(auswahl, griff.thema, griff.unterthema, griff.frage);
+        auswahl->activateWindow(); // or the press comes ahead of it where the system raises in its own time
+        QVERIFY(QTest::qWaitForWindowActive(auswahl));
         maus::Ziehen(Finden(auswahl, QStringLiteral("txtFrage")),
-                     FKFragenOffen()->txtFrage.at(Nr(griff.feld)));
+                     FKFragenOffen()->txtFrage.at(Nr(griff.feld)), Qt::NoModifier,
+                     [] { return AktuellesZiehBild() == ZiehBild::Ablegen; });
         QTRY_VERIFY(!FK_Frage(griff.feld).empty());
         QVERIFY(!FK_Antwort(griff.feld).empty());
         if (GebietVon(griff.feld) != gebiet) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHash>
+#include <QProcess>
 #include <QThread>
 
 #include <windows.h>
@@ -107,9 +108,29 @@ private:
     QStringList rest_;
 };
 
+// Wine moves the pointer of a display server, which answers in its own time; what it is sent must come from
+// there, or a drag begins before its button is down.
+void UeberDenBildschirm(const QStringList& befehle, Stelle aufrufer, const std::function<void()>& danach) {
+    auto* prozess = new QProcess(qApp);
+    QObject::connect(prozess, &QProcess::finished, qApp, [prozess, aufrufer, danach](int code) {
+        if (code != 0) {
+            Versagen(QStringLiteral("xdotool doesn't run"), aufrufer);
+        }
+        prozess->deleteLater();
+        danach();
+    });
+    const QStringList aufruf{QStringLiteral("/wait"), QStringLiteral("/unix"),
+                             QStringLiteral("/usr/bin/xdotool")};
+    prozess->start(QStringLiteral("start"), aufruf + befehle);
+}
+
 } // namespace
 
-void Senden(const QStringList& befehle, Stelle /*aufrufer*/, const std::function<void()>& danach) {
+void Senden(const QStringList& befehle, Stelle aufrufer, const std::function<void()>& danach) {
+    if (qEnvironmentVariableIsSet("WINEPREFIX")) {
+        UeberDenBildschirm(befehle, aufrufer, danach);
+        return;
+    }
     QThread* faden = QThread::create([befehle] { Bote(befehle).Ausfuehren(); });
     QObject::connect(faden, &QThread::finished, qApp, [faden, danach] {
         faden->deleteLater();

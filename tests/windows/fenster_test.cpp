@@ -75,7 +75,7 @@ void WindowsFensterTest::aFormOnAWriteProtectedStickKeepsWhatIsTypedAndIsSavedEl
 
 void WindowsFensterTest::aNameThatWindowsCantBearIsABadName_data() {
     QTest::addColumn<QString>("name");
-    for (const char* name : {"CON", "nul", "LPT1.FKR", "Frage?", "a*b", "10:30"}) {
+    for (const char* name : {"CON", "nul", "LPT1.FKR", "Frage?", "a|b", "10:30"}) {
         QTest::newRow(name) << QString::fromUtf8(name);
     }
 }
