@@ -10,20 +10,22 @@
 #   ./test.sh fuzz 60   every reader, writer and layout of the model against made-up inputs, 60 seconds each
 #   ./test.sh coverage  tests with the share of lines and branches that they run
 #   ./test.sh windows   the program for Windows under Wine, where packaging/windows.sh has built its toolkit
+#   ./test.sh paket     the Debian packages: built twice, and installed and used in a system of their own (root)
 #   ./test.sh release   the program as it is shipped, and the tests that the sanitizers can't run with it
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/pakete.sh
 
 case "${1:-schnell}" in
-  schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz | windows) ;;
-  *) sed -n '2,14p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+  schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz | windows | paket) ;;
+  *) sed -n '2,15p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
 
 pakete=("${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_stil[@]}")
 case "${1:-schnell}" in
   alles | tidy | lint | fuzz) pakete+=("${pakete_lint[@]}") ;;
 esac
+[ "${1:-}" != paket ] || pakete=("${pakete_bau[@]}" "${pakete_deb[@]}" "${pakete_paket[@]}")
 pakete_sichern "${pakete[@]}"
 
 kerne=$(kerne)
@@ -72,6 +74,21 @@ release() {
     -R "^($(IFS='|'; echo "${unsaniert[*]}"))(\\.|\$)"
 }
 
+# Two builds in two folders, weeks apart, give the same bytes; those are installed and used.
+paket() {
+  ueberschrift "Building the packages"
+  packaging/deb.sh build/deb >build/deb.log 2>&1 || { tail -n 40 build/deb.log; return 1; }
+  ueberschrift "Building them in another folder on another day"
+  local anderswo
+  anderswo=$(mktemp -d "${TMPDIR:-/var/tmp}/feldkranz-andernorts.XXXXXX")
+  TZ=Asia/Tokyo faketime -f '+40d' packaging/deb.sh "$anderswo" >build/deb2.log 2>&1 ||
+    { tail -n 40 build/deb2.log; return 1; }
+  for deb in build/deb/*.deb; do cmp "$deb" "$anderswo/${deb##*/}"; done
+  rm -rf "$anderswo"
+  ueberschrift "Installing and using them"
+  tests/paket/paket_test.sh build/deb
+}
+
 tidy() {
   ueberschrift "clang-tidy and cppcheck"
   tools/tidy.sh "$kerne"
@@ -117,6 +134,7 @@ case "${1:-schnell}" in
   lint) stil; tidy ;;
   release) release ;;
   windows) windows "${@:2}" ;;
+  paket) paket ;;
   fuzz) fuzz "${2:-60}" ;;
   debug | asan) tests "$@" ;;
   coverage)

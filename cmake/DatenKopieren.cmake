@@ -1,7 +1,11 @@
 # Copies the run-time folders from QUELLE to ZIEL. A file goes there if none stands there yet, or if the one
 # that stands there is byte for byte the one that was put there the last time; anything else is the user's and
-# stays as it is. The list of what was put there lies in ZIEL/.ausgeliefert, one "hash path" a line.
-set(liste "${ZIEL}/.ausgeliefert")
+# stays as it is. The list of what was put there lies in ZIEL/.ausgeliefert or under the name LISTE, one
+# "hash path" a line.
+if(NOT LISTE)
+  set(LISTE ".ausgeliefert")
+endif()
+set(liste "${ZIEL}/${LISTE}")
 set(zeilen "")
 if(EXISTS "${liste}")
   file(STRINGS "${liste}" zeilen ENCODING UTF-8)

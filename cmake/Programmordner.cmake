@@ -16,7 +16,9 @@ if(EXISTS "${PROJECT_SOURCE_DIR}/mainwindow/main.cpp")
   if(WIN32)
     include(WindowsProgramm)
   endif()
-  install(TARGETS feldkranz RUNTIME DESTINATION .)
+  if(NOT FELDKRANZ_SYSTEM)
+    install(TARGETS feldkranz RUNTIME DESTINATION .)
+  endif()
 endif()
 
 add_custom_target(programmordner ALL
@@ -24,6 +26,10 @@ add_custom_target(programmordner ALL
           -P "${PROJECT_SOURCE_DIR}/cmake/DatenKopieren.cmake"
   VERBATIM)
 
+if(FELDKRANZ_SYSTEM)
+  include(Systemordner)
+  return()
+endif()
 install(CODE "
   set(QUELLE \"${PROJECT_SOURCE_DIR}/data\")
   set(ZIEL \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")

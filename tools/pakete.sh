@@ -10,6 +10,9 @@ pakete_test=(googletest libgtest-dev xdotool x11-utils trayer strace cups cups-c
   dbus at-spi2-core python3-pyatspi)
 pakete_stil=(clang-format python3)
 pakete_lint=(clang clang-tidy cppcheck python3)
+# What makes Debian packages, and what tries them out in a system of their own.
+pakete_deb=(debhelper dpkg-dev fakeroot lintian python3)
+pakete_paket=(debootstrap zstd xvfb xdotool appstream desktop-file-utils shared-mime-info faketime)
 pakete_bench=(libbenchmark-dev libxcb1-dev pkgconf)
 pakete_bild=(graphviz python3 librsvg2-bin imagemagick fonts-liberation fonts-urw-base35)
 # The compiler for Windows, and what of the toolkit runs here when it is built for there.
