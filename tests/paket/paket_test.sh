@@ -3,24 +3,22 @@
 # double click, save, print, upgrade, remove. Needs root, the network and some minutes.
 # Usage: paket_test.sh <folder with the packages>
 set -eu
+[ "$(id -u)" -eq 0 ] || { echo "a system of its own takes root" >&2; exit 1; }
+# Mounts and processes of its own, which go with this script whatever ends it.
+[ -n "${PAKET_ALLEIN:-}" ] ||
+  PAKET_ALLEIN=1 exec unshare --mount --pid --fork --kill-child --mount-proc -- "$0" "$@"
 pakete=$(cd "$1" && pwd)
 hier=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 ablage=${XDG_CACHE_HOME:-$HOME/.cache}/feldkranz
 grundlage=$ablage/bookworm-$(dpkg --print-architecture).tar.zst
 mkdir -p "$ablage/apt/partial"
-[ "$(id -u)" -eq 0 ] || { echo "a system of its own takes root" >&2; exit 1; }
 
 ordner=$(mktemp -d "${TMPDIR:-/var/tmp}/paket.XXXXXX")
 wurzel=$ordner/wurzel
 aufraeumen() {
   trap - EXIT
-  # Only what was started in there: cupsd, the screen, the program.
-  for prozess in /proc/[0-9]*; do
-    [ "$(readlink "$prozess/root" 2>/dev/null)" = "$wurzel" ] && kill -9 "${prozess#/proc/}" 2>/dev/null
-  done
-  sleep 1
-  for stelle in var/cache/apt/archives dev/shm dev/pts dev proc; do umount "$wurzel/$stelle" 2>/dev/null; done
-  mountpoint -q "$wurzel/var/cache/apt/archives" || mountpoint -q "$wurzel/dev" || rm -rf "$ordner"
+  for stelle in var/cache/apt/archives dev/shm dev proc; do umount -l "$wurzel/$stelle" 2>/dev/null || true; done
+  grep -q " $wurzel" /proc/self/mounts || rm -rf "$ordner" # never through a mount
 }
 trap aufraeumen EXIT
 klage() { echo "$*" >&2; exit 1; }
@@ -30,9 +28,13 @@ drin() { # command: in there, as root
   env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive HOME=/root \
     /usr/sbin/chroot "$wurzel" "$@"
 }
+apt() { # what apt-get is to do, with no more packages than are needed
+  drin apt-get -q -y --no-install-recommends "$@" >>"$ordner/apt.log" 2>&1 ||
+    { tail -n 20 "$ordner/apt.log" >&2; klage "apt-get $* ended with an error"; }
+}
 leiterin() { # function and arguments of sitzung.sh: in there, as an ordinary user
   env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME=/home/leiterin USER=leiterin LOGNAME=leiterin \
-    XDG_RUNTIME_DIR=/run/user/1000 DISPLAY=:77 \
+    XDG_RUNTIME_DIR=/run/user/1000 XDG_CURRENT_DESKTOP=GNOME DISPLAY=:77 \
     /usr/sbin/chroot --userspec=leiterin:leiterin --groups=leiterin "$wurzel" /bin/bash /paket/sitzung.sh "$@"
 }
 heim() { printf '%s/home/leiterin/.local/share/Feldkranz/%s' "$wurzel" "$1"; }
@@ -89,17 +91,16 @@ for groesse in 16 22 24 32 48 64 128 256; do
 done
 
 schritt "apt installs it, and nothing but what it needs"
-drin apt-get -q update >"$ordner/apt.log" 2>&1 || { tail "$ordner/apt.log" >&2; exit 1; }
-drin apt-get -q -y --no-install-recommends install /paket/alt.deb >>"$ordner/apt.log" 2>&1 ||
-  { tail -n 20 "$ordner/apt.log" >&2; exit 1; }
+apt update
+apt install /paket/alt.deb
 drin dpkg-query -W -f '${Package} ${Installed-Size}\n' | awk '
   /webengine/ { print "a browser came along: " $1 > "/dev/stderr"; fehler = 1 }
   { summe += $2 } END { printf "   %d MB in all\n", summe / 1024; exit fehler }'
-[ "$(drin feldkranz --version)" = "feldkranz $(sed -n 's/^feldkranz_\(.*\)_.*/\1/p' <<<"$neu")" ] || klage "--version"
+[[ $neu == "$(drin feldkranz --version | tr ' ' _)"_* ]] || klage "the program says it is $(drin feldkranz --version)"
 
 schritt "A desktop: screen, window manager, file manager's opener, printer"
-drin apt-get -q -y --no-install-recommends install xvfb openbox xdotool xdg-utils shared-mime-info desktop-file-utils \
-  cups cups-client printer-driver-cups-pdf procps >>"$ordner/apt.log" 2>&1 || { tail "$ordner/apt.log" >&2; exit 1; }
+apt install xvfb openbox xdotool xdg-utils libglib2.0-bin shared-mime-info desktop-file-utils cups cups-client \
+  printer-driver-cups-pdf procps
 drin useradd -m -u 1000 leiterin
 drin install -d -o leiterin -m 700 /run/user/1000 /home/leiterin/Formulare
 drin install -d -o leiterin "/home/leiterin/Formulare/Übungen im Schnee"
@@ -123,8 +124,7 @@ gleich "$unveraendert" "$(printf 'alt\r\n')"
 schritt "The new version comes over a changed and an unchanged catalogue file"
 printf 'meins\r\n' >"$(heim "$geaendert")"
 cp "$wurzel$formular" "$(heim KRANZ/Meiner.FKR)"
-drin apt-get -q -y --no-install-recommends install "/paket/$neu" >>"$ordner/apt.log" 2>&1 ||
-  { tail -n 20 "$ordner/apt.log" >&2; exit 1; }
+apt install "/paket/$neu"
 leiterin starten
 leiterin beenden
 for datei in "$unveraendert" "$fehlend"; do
@@ -134,15 +134,17 @@ gleich "$geaendert" "$(printf 'meins\r\n')"
 cmp "$(heim "$geaendert.NEU")" "$wurzel/usr/share/feldkranz/$geaendert"
 
 schritt "The rules' window, too: a package of its own"
-drin apt-get -q -y --no-install-recommends install "/paket/${neu/feldkranz_/feldkranz-regel_}" >>"$ordner/apt.log" 2>&1 ||
-  { tail -n 20 "$ordner/apt.log" >&2; exit 1; }
+apt install "/paket/${neu/feldkranz_/feldkranz-regel_}"
 drin sh -c '! ldd /usr/lib/*/feldkranz/*feldkranz_pdf.so | grep "not found"'
 
 schritt "Removed and purged: what is the person's stays"
-drin apt-get -q -y remove feldkranz >>"$ordner/apt.log" 2>&1
-drin apt-get -q -y purge feldkranz feldkranz-regel >>"$ordner/apt.log" 2>&1
-[ -z "$(find "$wurzel/usr" -iname '*feldkranz*' -print -quit)" ] || klage "$(find "$wurzel/usr" -iname '*feldkranz*') stays"
-for datei in "$(heim KRANZ/Meiner.FKR)" "$(heim KRANZ/Kurzabend.FKR)" "$(heim "$geaendert")" "$wurzel$formular"; do
-  [ -s "$datei" ] || klage "$datei has gone"
+for weise in remove purge; do
+  apt install "/paket/$neu" "/paket/${neu/feldkranz_/feldkranz-regel_}"
+  apt "$weise" feldkranz feldkranz-regel
+  rest=$(find "$wurzel/usr" "$wurzel/etc" -iname '*feldkranz*')
+  [ -z "$rest" ] || klage "what stays: $rest"
+  for datei in "$(heim KRANZ/Meiner.FKR)" "$(heim KRANZ/Kurzabend.FKR)" "$(heim "$geaendert")" "$wurzel$formular"; do
+    [ -s "$datei" ] || klage "$datei has gone"
+  done
 done
 schritt "All right"

@@ -17,7 +17,12 @@ fort() { ! da "$1"; }
 taste() { # title of the window, key
   xdotool windowactivate --sync "$(fenster "$1")" key "$2" 2>/dev/null || true # it may go before the key is up
 }
-juenger() { [ "$1" -nt "$2" ]; }
+gespeichert() { # file: saved by the key now
+  taste 'Feldkranz! 2008' ctrl+s
+  sleep 0.3
+  xdotool key Return # the message that it is
+  [ "$1" -nt /tmp/vorher ]
+}
 gedruckt() { find "$HOME/PDF" /var/spool/cups-pdf -name '*.pdf' -size +5k 2>/dev/null | grep -q .; }
 
 bildschirm() {
@@ -50,7 +55,6 @@ durchs_startfenster() {
 oeffnen() { # file, as a file manager opens it
   xdg-open "$1" >/tmp/feldkranz.log 2>&1 &
   durchs_startfenster
-  sleep 2 # the form opens as soon as nobody is asked anything
 }
 
 starten() {
@@ -60,18 +64,16 @@ starten() {
 
 speichern() { # file that is open
   touch -d '2 hours ago' "$1" /tmp/vorher
-  cp "$1" /tmp/kopie
-  taste 'Feldkranz! 2008' ctrl+s
-  warten 30 juenger "$1" /tmp/vorher || klage "$1 wasn't saved"
+  # The form opens as soon as the main window is there and nobody is asked anything; before, the keys do nothing.
+  warten 30 gespeichert "$1" || klage "$1 wasn't saved"
   head -n 1 "$1" | grep -q '^"Feldkranz"' || klage "$1 is no form any more"
   [ "$(wc -c <"$1")" -gt 1000 ] || klage "$1 is empty"
-  sleep 1
-  xdotool key Return # the message that it is saved
-  sleep 1
 }
 
 drucken() {
   taste 'Feldkranz! 2008' ctrl+p
+  warten 30 da 'Formular drucken' || klage "it doesn't ask before it prints"
+  taste 'Formular drucken' Return
   warten 60 gedruckt || klage "nothing came out of the printer: $(lpstat -W all -o 2>&1)"
 }
 
