@@ -15,8 +15,11 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 #include <new>
+#include <string>
+#include <vector>
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -40,14 +41,13 @@ public:
         const bool veraltet =
             ist && !GehoertDerPerson(pfad) && *ist != soll && alt != nullptr && *ist == *alt;
         const bool bekannt = alt != nullptr && (*alt == soll || GehoertDerPerson(pfad));
+        const bool eigenes = ist && !ist->empty() && GehoertDerPerson(pfad);
         if (fehlt || veraltet) {
             plan_.schritte.push_back({pfad, pfad, soll});
-        } else if (bekannt || *ist == soll) {
+        } else if (bekannt || eigenes || *ist == soll) {
             plan_.danach.geliefert[pfad] = soll; // nothing new, or nothing of ours
         } else if (ist->empty()) {
             plan_.ungelesen.push_back(pfad);
-        } else if (GehoertDerPerson(pfad)) {
-            plan_.danach.geliefert[pfad] = soll;
         } else {
             DanebenLegen(pfad, soll);
         }

@@ -83,9 +83,10 @@ TEST(Lieferung, WhatLiesBesideIsReplacedByTheNextVersionUnlessThePersonHasTouche
     const Lieferstand vorher{{{pfad, S('b')}, {pfad + ".NEU", S('b')}}, {}};
     for (const auto& [daneben, ziel] :
          {std::pair{'b', ".NEU"}, std::pair{'-', ".NEU"}, std::pair{'x', ".NEU2"}}) {
-        const Lieferplan plan = LieferplanMachen({{pfad, S('c')}}, vorher, [&](const std::string& gefragt) {
-            return gefragt == pfad ? Liegt('m') : gefragt == pfad + ".NEU" ? Liegt(daneben) : std::nullopt;
-        });
+        const Lieferplan plan =
+            LieferplanMachen({{pfad, S('c')}}, vorher, [&, was = daneben](const std::string& gefragt) {
+                return gefragt == pfad ? Liegt('m') : gefragt == pfad + ".NEU" ? Liegt(was) : std::nullopt;
+            });
         ASSERT_EQ(plan.schritte.size(), 1U);
         EXPECT_EQ(plan.schritte[0].ziel, pfad + ziel) << daneben;
     }
