@@ -13,6 +13,7 @@
 #include "periphery/zusatz.h"
 #include "start/einrichtungsbalken.h"
 #include "start/startorte.h"
+#include "start/texte.h"
 #include "tooltips/hinweise.h"
 #include "tooltips/tooltipregeln.h"
 
@@ -87,9 +88,11 @@ void frmStart::Einrichten(const std::string& lieferung) {
     HinweisSetzen(balken, kerntexte::einrichtenTipp, tipp::titelStandard, kerntexte::einrichtenStatus);
     lblVersion_->hide();
     cmdStart_->setEnabled(false);
+    cmdStart_->setText(Anzeige(starttexte::richteEin));
     connect(balken, &Einrichtungsbalken::fertig, this, [this, balken] {
         balken->hide();
         lblVersion_->show();
+        cmdStart_->setText(Anzeige(kerntexte::startZeile));
         cmdStart_->setEnabled(true);
         cmdStart_->setFocus();
     });

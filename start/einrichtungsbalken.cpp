@@ -16,7 +16,6 @@ Einrichtungsbalken::Einrichtungsbalken(Einrichtung einrichtung, QWidget* eltern)
     setFont(Schrift(8.25_pt));
     setFarben(Qfarbe({0, 223, 0}), Qt::black);
     setFocusPolicy(Qt::NoFocus);
-    setCaption(Anzeige(starttexte::richteEin));
     setValue(0.0);
     connect(&uhr_, &QTimer::timeout, this, &Einrichtungsbalken::Weiter);
     uhr_.start(0);

@@ -28,7 +28,7 @@ inline constexpr std::string_view falsch = "feldkranz: Damit kann ich nichts anf
 
 // --- The person's program folder ---
 
-inline constexpr std::string_view richteEin = " Ich richte deinen Programmordner ein ...";
+inline constexpr std::string_view richteEin = "Ich richte deinen Programmordner ein ...";
 // The first file that couldn't be put there, and why.
 inline constexpr MeldungsText nichtEingerichtet{
     5,

@@ -70,10 +70,12 @@ void StartfensterTest::aBarShowsHowFarTheFolderIsAndTheButtonWaits() {
     auto* balken = Finden<Panel>(fenster, QStringLiteral("pnlEinrichten"));
     auto* taste = Finden<QPushButton>(fenster, QStringLiteral("cmdStart"));
     QVERIFY(balken->isVisible() && !taste->isEnabled());
+    QCOMPARE(taste->text(), QStringLiteral("Ich richte deinen Programmordner ein ..."));
     QVERIFY(!Finden<QLabel>(fenster, QStringLiteral("lblVersion"))->isVisible());
     QTRY_VERIFY(balken->value() > 0.0);
     QTRY_VERIFY(!balken->isVisible());
     QCOMPARE(balken->value(), 100.0);
+    QCOMPARE(taste->text(), QStringLiteral("Mit Grüßen von Tarvo und Brennek - weiter !"));
     QVERIFY(taste->isEnabled() && Finden<QLabel>(fenster, QStringLiteral("lblVersion"))->isVisible());
     QVERIFY(start.probe.Da() == start.inhalt);
 }
