@@ -1,5 +1,6 @@
 // What a screen reader is told of a panel: a button where it can be pressed by key, else a text; and that it
-// can be pressed; of a spin control its number. What it reads out by itself, wherever the user is: the status line and the flag.
+// can be pressed; of a spin control its number. What it reads out by itself, wherever the user is: the status
+// line and the flag.
 #pragma once
 
 class QWidget;
