@@ -6,4 +6,4 @@ configure_file("${PROJECT_SOURCE_DIR}/packaging/windows/feldkranz.rc.in"
   "${PROJECT_BINARY_DIR}/erzeugt/feldkranz.rc" @ONLY)
 enable_language(RC)
 target_sources(feldkranz PRIVATE "${PROJECT_BINARY_DIR}/erzeugt/feldkranz.rc")
-target_link_options(feldkranz PRIVATE -s)
+target_link_options(feldkranz PRIVATE -s -Wl,--no-insert-timestamp)
