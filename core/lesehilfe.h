@@ -18,7 +18,7 @@ class QWidget;
 // wish for contrast from then on.
 void LesehilfeEinrichten();
 // For tests, instead of the desktop's; 1 is none.
-void SchriftfaktorVorgeben(double faktor);
+void SchriftfaktorVorgeben(double wert);
 // Gives a window letters as large as the desktop's.
 void SystemschriftGeben(QWidget& fenster);
 

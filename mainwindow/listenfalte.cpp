@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QWindow>
 
 namespace {
 

@@ -13,6 +13,7 @@
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/quizform/formhilfe.h"
 
+#include <QLayout>
 #include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>

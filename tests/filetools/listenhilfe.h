@@ -123,13 +123,26 @@ public:
         Liste()->scrollToItem(treffer.first());
         return Liste()->visualItemRect(treffer.first()).center();
     }
+    // Folded, because it lay over the form, the list comes up by its title.
+    static void Aufklappen(Stelle stelle = Stelle::hier()) {
+        QCoreApplication::processEvents();
+        if (!Fenster()->isVisible()) {
+            maus::Klicken(Finden(MDIFenster(), QStringLiteral("cmdListentitel")), Qt::NoModifier, {}, stelle);
+            if (!WartenBis([] { return Fenster()->isActiveWindow(); })) {
+                Versagen(QStringLiteral("The list didn't come up"), stelle);
+            }
+        }
+    }
     static void Anklicken(const QString& name, Stelle stelle = Stelle::hier()) {
+        Aufklappen(stelle);
         maus::Klicken(Liste()->viewport(), Qt::NoModifier, Ort(name, stelle), stelle);
     }
     static void Doppelklicken(const QString& name, Stelle stelle = Stelle::hier()) {
+        Aufklappen(stelle);
         maus::DoppeltDruecken(Liste()->viewport(), Ort(name, stelle), stelle);
     }
     static void Druecken(const char* name, Stelle stelle = Stelle::hier()) {
+        Aufklappen(stelle);
         QWidget* taste = Taste(name);
         // On the mark of a choice: behind its caption a click would go astray.
         const bool wahl = QString::fromLatin1(name).startsWith(QStringLiteral("opt"));
