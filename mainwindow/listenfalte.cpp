@@ -70,6 +70,9 @@ private:
     }
 
     void Schauen() {
+        if (!fenster_.isVisible() || fenster_.isMinimized()) {
+            return; // the list is away with the window
+        }
         frmFKformulare* liste = FormularlisteOffen();
         if (liste != nullptr) {
             const bool frei = !liste->frameGeometry().intersects(Formularort(flaeche_));

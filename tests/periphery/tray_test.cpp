@@ -75,6 +75,7 @@ private Q_SLOTS:
     void aRightClickLeavesAHiddenWindowHidden();
     void anyOtherMessageDoesNothing();
     void nothingTypedIsLostAndTheToolWindowsGoAlong();
+    void aListThatIsFoldedStaysSo();
     void theEndRemovesTheIconInAnyCase();
 };
 
@@ -181,11 +182,13 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     Programm programm;
     frmFKFragen* form = programm.NeuesQuizformular();
     AuswahlZeigen();
-    QVERIFY(QTest::qWaitForWindowExposed(AuswahlOffen()));
+    QTRY_VERIFY(AuswahlOffen()->isActiveWindow());
     FormularlisteZeigen();
     QWidget* liste = FensterAbwarten(QStringLiteral("frmFKformulare"));
+    QTRY_VERIFY(liste->isActiveWindow());
     AuswahlOffen()->move(800, 600); // clear of the cell
-    liste->move(300, 700);
+    liste->move(300, MDIFenster()->height() - 60); // clear of the form, over which it would fold
+    QTRY_VERIFY(liste->y() > MDIFenster()->height() - 80);
     maus::Klicken(form->txtFrage.at(7));
     QTRY_VERIFY(form->txtFrage.at(7)->hasFocus());
     const QRect platz = AuswahlOffen()->geometry();
@@ -199,10 +202,31 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     QTRY_VERIFY(programm.haupt()->isVisible());
     QTRY_VERIFY(AuswahlOffen() != nullptr && AuswahlOffen()->isVisible());
     QTRY_COMPARE(AuswahlOffen()->geometry(), platz);
-    QVERIFY(liste->isVisible());
+    QTRY_VERIFY(liste->isVisible());
     QCOMPARE(form->txtFrage.at(7)->toPlainText(), QStringLiteral("halb getippt"));
     QVERIFY(Stand.FormGeaendert);
     QVERIFY(form->isVisible());
+}
+
+void TrayTest::aListThatIsFoldedStaysSo() {
+    const Ablageleiste leiste;
+    QVERIFY2(leiste.da(), "trayer doesn't run");
+    Programm programm;
+    frmFKFragen* form = programm.NeuesQuizformular();
+    FormularlisteZeigen();
+    QWidget* liste = FensterAbwarten(QStringLiteral("frmFKformulare"));
+    QTRY_VERIFY(liste->isActiveWindow());
+    liste->move(form->txtFrage.at(1)->mapToGlobal(QPoint(0, 0)));
+    maus::Klicken(form->txtFrage.at(30));
+    QTRY_VERIFY(!liste->isVisible());
+    AbInDenTray();
+    QTRY_VERIFY(!programm.haupt()->isVisible());
+    QTRY_VERIFY(ZeichenFenster() != nullptr);
+    QVERIFY(!liste->isVisible());
+    maus::Klicken(ZeichenFenster());
+    QTRY_VERIFY(programm.haupt()->isVisible());
+    QTRY_VERIFY(Finden(programm.haupt(), QStringLiteral("cmdListentitel"))->isVisible());
+    QVERIFY(!liste->isVisible());
 }
 
 void TrayTest::theEndRemovesTheIconInAnyCase() {
