@@ -186,7 +186,7 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     FormularlisteZeigen();
     QWidget* liste = FensterAbwarten(QStringLiteral("frmFKformulare"));
     QTRY_VERIFY(liste->isActiveWindow());
-    AuswahlOffen()->move(800, 600); // clear of the cell
+    AuswahlOffen()->move(800, 600);                // clear of the cell
     liste->move(300, MDIFenster()->height() - 60); // clear of the form, over which it would fold
     QTRY_VERIFY(liste->y() > MDIFenster()->height() - 80);
     maus::Klicken(form->txtFrage.at(7));
