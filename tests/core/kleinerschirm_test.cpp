@@ -17,7 +17,6 @@
 #include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QTabWidget>
 
 namespace {
 
@@ -81,22 +80,7 @@ void KleinerSchirmTest::theFileDialogInAllItsViews() {
 }
 
 void KleinerSchirmTest::theSettingsOnEachPage() {
-    Programm programm;
-    programm.NeuesQuizformular();
-    Dialogfolge dialoge;
-    dialoge.erwarte({QStringLiteral("frmIni"),
-                     std::nullopt,
-                     std::nullopt,
-                     {QStringLiteral("cmdEinOK")},
-                     [](QDialog& dialog) {
-                         auto* blatt = Finden<QTabWidget>(&dialog, QStringLiteral("tabIni"));
-                         for (int i = 0; i < blatt->count(); ++i) {
-                             blatt->setCurrentIndex(i);
-                             NichtsVerdeckt(&dialog);
-                         }
-                     }});
-    Druecken(QStringLiteral("cmdIni"));
-    QVERIFY(dialoge.fertig());
+    VorgabenAnsehen([](QDialog& dialog) { NichtsVerdeckt(&dialog); });
 }
 
 void KleinerSchirmTest::messagesQuestionsAndInputs() {
@@ -125,30 +109,15 @@ void KleinerSchirmTest::theSelectionDialogAndTheListOfForms() {
 }
 
 void KleinerSchirmTest::childWindowsLieInTheMainWindow_data() {
-    QTest::addColumn<QString>("befehl");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("search") << "mExtra(4)"
-                            << "frmSuche";
-    QTest::newRow("filling") << "mExtra(5)"
-                             << "frmFuellen";
-    QTest::newRow("check") << "mExtra(6)"
-                           << "frmPruefung";
-    QTest::newRow("preview") << "mExtra(8)"
-                             << "frmVorschau";
+    ExtrasfensterZeilen();
 }
 
 void KleinerSchirmTest::childWindowsLieInTheMainWindow() {
-    QFETCH(const QString, befehl);
-    QFETCH(const QString, name);
     Programm programm;
-    programm.NeuesQuizformular();
-    MDIFenster()->findChild<QAction*>(befehl)->trigger();
-    QTRY_VERIFY(FensterOderNichts(name) != nullptr);
-    const QWidget* fenster = Fenster(name);
-    QTRY_VERIFY(fenster->isVisible());
+    const QWidget* fenster = ExtrasfensterOeffnen(programm);
     const QWidget* sicht = MDIFenster()->findChild<QMdiArea*>()->viewport();
     const QWidget* rahmen = fenster->parentWidget();
-    QTRY_VERIFY2(sicht->rect().contains(rahmen->geometry()), qPrintable(name));
+    QTRY_VERIFY2(sicht->rect().contains(rahmen->geometry()), qPrintable(fenster->objectName()));
     NichtsVerdeckt(fenster);
 }
 

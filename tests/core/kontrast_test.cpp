@@ -17,7 +17,6 @@
 #include "tests/quizform/formhilfe.h"
 
 #include <QMdiSubWindow>
-#include <QTabWidget>
 #include <QToolTip>
 
 namespace {
@@ -167,22 +166,7 @@ void KontrastTest::theDialogs() {
 }
 
 void KontrastTest::theSettingsOnEachPage() {
-    Programm programm;
-    programm.NeuesQuizformular();
-    Dialogfolge dialoge;
-    dialoge.erwarte({QStringLiteral("frmIni"),
-                     std::nullopt,
-                     std::nullopt,
-                     {QStringLiteral("cmdEinOK")},
-                     [](QDialog& dialog) {
-                         auto* blatt = Finden<QTabWidget>(&dialog, QStringLiteral("tabIni"));
-                         for (int i = 0; i < blatt->count(); ++i) {
-                             blatt->setCurrentIndex(i);
-                             Messen(&dialog);
-                         }
-                     }});
-    Finden<QAbstractButton>(MDIFenster(), QStringLiteral("cmdIni"))->click();
-    QVERIFY(dialoge.fertig());
+    VorgabenAnsehen([](QDialog& dialog) { Messen(&dialog); });
 }
 
 void KontrastTest::theSelectionDialogAndTheListOfForms() {
@@ -195,27 +179,12 @@ void KontrastTest::theSelectionDialogAndTheListOfForms() {
 }
 
 void KontrastTest::theWindowsOfTheExtrasMenu_data() {
-    QTest::addColumn<QString>("befehl");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("search") << "mExtra(4)"
-                            << "frmSuche";
-    QTest::newRow("filling") << "mExtra(5)"
-                             << "frmFuellen";
-    QTest::newRow("check") << "mExtra(6)"
-                           << "frmPruefung";
-    QTest::newRow("preview") << "mExtra(8)"
-                             << "frmVorschau";
+    ExtrasfensterZeilen();
 }
 
 void KontrastTest::theWindowsOfTheExtrasMenu() {
-    QFETCH(const QString, befehl);
-    QFETCH(const QString, name);
     Programm programm;
-    programm.NeuesQuizformular();
-    MDIFenster()->findChild<QAction*>(befehl)->trigger();
-    QTRY_VERIFY(FensterOderNichts(name) != nullptr);
-    QTRY_VERIFY(Fenster(name)->isVisible());
-    Messen(Fenster(name));
+    Messen(ExtrasfensterOeffnen(programm));
 }
 
 void KontrastTest::theEditor() {

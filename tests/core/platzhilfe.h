@@ -1,17 +1,24 @@
 // What a window shows: whether all of it can be seen, and nothing lies over anything.
 #pragma once
 
+#include "mainwindow/frmMDI.h"
+#include "tests/hilfe/dialogfolge.h"
+#include "tests/hilfe/finden.h"
 #include "tests/hilfe/programm.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
+#include <QTabWidget>
 #include <QTest>
+
+#include <functional>
 
 // Controls that a user works with or reads, and that aren't part of another such control.
 inline QList<QWidget*> Steuerelemente(const QWidget* fenster) {
@@ -93,4 +100,43 @@ inline void NichtsVerdeckt(const QWidget* fenster, const QStringList& duerfenKue
                      Bezeichnet(teil) + " / " + Bezeichnet(anderes));
         }
     }
+}
+
+// A row a window of the Extras menu: the entry that opens it, and its name.
+inline void ExtrasfensterZeilen() {
+    QTest::addColumn<QString>("befehl");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("search") << QStringLiteral("mExtra(4)") << QStringLiteral("frmSuche");
+    QTest::newRow("filling") << QStringLiteral("mExtra(5)") << QStringLiteral("frmFuellen");
+    QTest::newRow("check") << QStringLiteral("mExtra(6)") << QStringLiteral("frmPruefung");
+    QTest::newRow("preview") << QStringLiteral("mExtra(8)") << QStringLiteral("frmVorschau");
+}
+
+// Opens the one of the present row over a new quiz form.
+inline QWidget* ExtrasfensterOeffnen(Programm& programm) {
+    QFETCH(const QString, befehl);
+    QFETCH(const QString, name);
+    programm.NeuesQuizformular();
+    MDIFenster()->findChild<QAction*>(befehl)->trigger();
+    return FensterAbwarten(name);
+}
+
+// Opens the settings over a new quiz form and shows each page once.
+inline void VorgabenAnsehen(const std::function<void(QDialog&)>& ansehen) {
+    Programm programm;
+    programm.NeuesQuizformular();
+    Dialogfolge dialoge;
+    dialoge.erwarte({QStringLiteral("frmIni"),
+                     std::nullopt,
+                     std::nullopt,
+                     {QStringLiteral("cmdEinOK")},
+                     [&ansehen](QDialog& dialog) {
+                         auto* blatt = Finden<QTabWidget>(&dialog, QStringLiteral("tabIni"));
+                         for (int i = 0; i < blatt->count(); ++i) {
+                             blatt->setCurrentIndex(i);
+                             ansehen(dialog);
+                         }
+                     }});
+    Finden<QAbstractButton>(MDIFenster(), QStringLiteral("cmdIni"))->click();
+    QVERIFY(dialoge.fertig());
 }
