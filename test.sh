@@ -18,7 +18,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 case "${1:-schnell}" in
   schnell | alles | stil | tidy | lint | release | debug | asan | coverage | fuzz | windows | paket) ;;
-  *) sed -n '2,15p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
+  *) sed -n '2,14p' "$0" | sed 's/^# \{0,1\}//' >&2; exit 2 ;;
 esac
 
 pakete=("${pakete_bau[@]}" "${pakete_lauf[@]}" "${pakete_schirm[@]}" "${pakete_test[@]}" "${pakete_stil[@]}")
