@@ -59,7 +59,7 @@ bauen() { # preset
 tests() { # preset, arguments of ctest
   bauen "$1"
   ueberschrift "Testing $1"
-  ctest --preset "$1" -j $((kerne + 1)) "${@:2}" # one waits for a window while the others work
+  ctest --preset "$1" -j $((3 * kerne)) "${@:2}" # most wait for a window while others work
 }
 
 # Tests that trace a process's system calls, or start the web library's own processes.

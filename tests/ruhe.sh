@@ -18,8 +18,8 @@ done
 ergebnis=0
 for runde in $(seq "$runden"); do
   anfang=$SECONDS
-  # Twice the time that a test may take on a quiet machine and more: the loops take most of it.
-  ctest --test-dir build/debug -j "$(nproc)" --output-on-failure --no-tests=error "$@" \
+  # As many side by side as in test.sh.
+  ctest --preset debug -j $((3 * $(nproc))) --output-on-failure --no-tests=error "$@" \
     >"build/ruhe-$runde.log" 2>&1 || ergebnis=1
   echo "round $runde, $((SECONDS - anfang)) s: $(grep 'tests passed' "build/ruhe-$runde.log")"
   sed -n '/The following tests FAILED/,$p' "build/ruhe-$runde.log"

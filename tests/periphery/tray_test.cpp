@@ -12,12 +12,16 @@
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
 #include "tests/hilfe/maus.h"
+#include "tests/hilfe/mausbote.h"
 #include "tests/hilfe/programm.h"
 
+#include <QElapsedTimer>
 #include <QMdiArea>
 #include <QProcess>
 #include <QSystemTrayIcon>
 #include <QTest>
+
+#include <functional>
 
 namespace {
 
@@ -60,6 +64,29 @@ QWidget* ZeichenFenster() {
         }
     }
     return nullptr;
+}
+
+// The tray moves an icon while it makes room for it, and the program learns of it late: the server knows
+// where the window is, and a click that missed is made again.
+void ZeichenKlicken(const char* knopf, const std::function<bool()>& gewirkt) {
+    QElapsedTimer seit;
+    QVERIFY(WartenBis(
+        [&] {
+            if (gewirkt()) {
+                return true;
+            }
+            const QWidget* zeichen = ZeichenFenster();
+            if (zeichen != nullptr && (!seit.isValid() || seit.elapsed() > 3000)) {
+                seit.start();
+                Senden({QStringLiteral("mousemove"), QStringLiteral("--window"),
+                        QString::number(zeichen->winId()), QString::number(zeichen->width() / 2),
+                        QString::number(zeichen->height() / 2), QStringLiteral("click"),
+                        QLatin1String(knopf)},
+                       Stelle::hier(), [] {});
+            }
+            return false;
+        },
+        wartefrist));
 }
 
 } // namespace
@@ -126,8 +153,7 @@ void TrayTest::aLeftClickOnTheIconShowsTheWindowAndRemovesTheIcon() {
         HintergrundDoppelklicken(programm);
         QTRY_VERIFY(ZeichenFenster() != nullptr);
         QVERIFY(!programm.haupt()->isVisible());
-        maus::Klicken(ZeichenFenster());
-        QTRY_VERIFY(programm.haupt()->isVisible());
+        ZeichenKlicken("1", [&] { return programm.haupt()->isVisible(); });
         QTRY_VERIFY(Zeichen(programm) == nullptr);
         QVERIFY(ZeichenFenster() == nullptr);
         QTRY_VERIFY(programm.haupt()->isActiveWindow());
@@ -146,8 +172,7 @@ void TrayTest::aRightClickLeavesAHiddenWindowHidden() {
     QObject::connect(
         Zeichen(programm), &QSystemTrayIcon::activated, programm.haupt(), [&] { ++gemeldet; },
         Qt::QueuedConnection); // behind the program's own
-    maus::RechtsKlicken(ZeichenFenster());
-    QTRY_COMPARE(gemeldet, 1);
+    ZeichenKlicken("3", [&] { return gemeldet > 0; });
     QVERIFY(!programm.haupt()->isVisible());
     QVERIFY(Zeichen(programm)->isVisible());
     // A window that is there is raised, and the icon stays.
@@ -198,8 +223,7 @@ void TrayTest::nothingTypedIsLostAndTheToolWindowsGoAlong() {
     QVERIFY(!AuswahlOffen()->isVisible());
     QVERIFY(!liste->isVisible());
     QTRY_VERIFY(ZeichenFenster() != nullptr);
-    maus::Klicken(ZeichenFenster());
-    QTRY_VERIFY(programm.haupt()->isVisible());
+    ZeichenKlicken("1", [&] { return programm.haupt()->isVisible(); });
     QTRY_VERIFY(AuswahlOffen() != nullptr && AuswahlOffen()->isVisible());
     QTRY_COMPARE(AuswahlOffen()->geometry(), platz);
     QTRY_VERIFY(liste->isVisible());
@@ -223,8 +247,7 @@ void TrayTest::aListThatIsFoldedStaysSo() {
     QTRY_VERIFY(!programm.haupt()->isVisible());
     QTRY_VERIFY(ZeichenFenster() != nullptr);
     QVERIFY(!liste->isVisible());
-    maus::Klicken(ZeichenFenster());
-    QTRY_VERIFY(programm.haupt()->isVisible());
+    ZeichenKlicken("1", [&] { return programm.haupt()->isVisible(); });
     QTRY_VERIFY(Finden(programm.haupt(), QStringLiteral("cmdListentitel"))->isVisible());
     QVERIFY(!liste->isVisible());
 }

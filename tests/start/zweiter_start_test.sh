@@ -32,8 +32,8 @@ weg() { # title: until no window of that title is there
   for _ in $(seq 300); do [ -n "$(fenster "$1")" ] || return 0; sleep 0.1; done
   klage "the window \"$1\" stays"
 }
-weiter() { # window, key
-  xdotool windowactivate --sync "$1" key --window "$1" "$2" 2>/dev/null || true # it may go before the key is up
+weiter() { # window, key. To the keyboard, not to the window: a key whose window has gone would stay down and repeat.
+  xdotool windowactivate --sync "$1" key "$2"
 }
 laeuft() { kill -0 "$1" 2>/dev/null; }
 
