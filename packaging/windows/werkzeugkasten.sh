@@ -45,7 +45,7 @@ einrichten() {
   for merkmal in "${aus[@]}"; do schalter+=("-DFEATURE_$merkmal=OFF"); done
   cmake -S "$bau"/qtbase-everywhere-src-* -B "$bau/b" -G Ninja \
     -DCMAKE_TOOLCHAIN_FILE="$hier/cmake/WindowsWerkzeug.cmake" -DCMAKE_BUILD_TYPE=MinSizeRel \
-    -DCMAKE_INSTALL_PREFIX="$windows_qt" -DBUILD_SHARED_LIBS=OFF -DBUILD_WITH_PCH=OFF \
+    -DCMAKE_INSTALL_PREFIX="$windows_qt" -DBUILD_SHARED_LIBS=OFF -DBUILD_WITH_PCH=ON \
     -DCMAKE_C_FLAGS="-ffunction-sections -fdata-sections" -DCMAKE_CXX_FLAGS="-ffunction-sections -fdata-sections" \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \

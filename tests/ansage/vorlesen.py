@@ -119,12 +119,25 @@ def tippen_pruefen():
     warten(lambda: zelle.queryText().getText(0, -1) == "Wer", "the text")
 
 
+def hat_die_tasten(titel):
+    """Whether keys go to that window now: the display server gives them away in its own time."""
+    element = fenster(titel)
+    if element.parent.getRole() == pyatspi.ROLE_APPLICATION:
+        return element.getState().contains(pyatspi.STATE_ACTIVE)
+    return any(teil.getState().contains(pyatspi.STATE_FOCUSED) for teil in alle(element))
+
+
+def schliessen(titel, ende):
+    warten(lambda: hat_die_tasten(titel), f"the keyboard for {titel}")
+    taste(ende)
+
+
 def fenster_pruefen():
     for kuerzel, titel in (("ctrl+f", "Fragen suchen"), ("ctrl+b", "Brett füllen"), ("F9", "Formular prüfen"),
                            ("ctrl+shift+p", "Druckvorschau")):
         taste(kuerzel)
         namen_pruefen(warten(lambda gesucht=titel: fenster(gesucht), titel), titel)
-        taste("Escape")
+        schliessen(titel, "Escape")
         warten(lambda gesucht=titel: fenster(gesucht) is None, f"the end of {titel}")
 
 
@@ -144,10 +157,10 @@ def gedrueckt(name):
 def durchsehen(titel, ende, frage=None):
     """Looks a window through, which goes with that key, behind that question if it asks one."""
     namen_pruefen(warten(lambda: fenster(titel), titel), titel)
-    taste(ende)
+    schliessen(titel, ende)
     if frage:
         namen_pruefen(warten(lambda: fenster(frage), frage), frage)
-        taste("alt+j")
+        schliessen(frage, "alt+j")
     warten(lambda: fenster(titel) is None, f"the end of {titel}")
 
 

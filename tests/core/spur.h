@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 
 #include <map>
+#include <set>
+#include <string>
 #include <vector>
 
 // What a file holds before a save and after it.
@@ -27,8 +29,15 @@ struct Spur {
     int ergebnis = abgestuerzt; // the probe's exit code
     bool getoetet = false;
     int marken = 0;                    // 1: ended inside the save, 2: behind it
-    std::vector<Systemaufruf> aufrufe; // those of the save
+    std::vector<Systemaufruf> aufrufe; // those of the save that have to do with files
 };
+
+// Memory and locks of the process: their failing says nothing about the file, and how often they are asked
+// for differs from one run to the next.
+inline bool OhneDatei(const std::string& aufruf) {
+    return std::set<std::string>{"brk", "mmap", "munmap", "mremap", "madvise", "futex", "rt_sigaction"}
+        .contains(aufruf);
+}
 
 // What strace is to put in at exactly that call.
 inline std::string Eingriff(const Systemaufruf& aufruf, const std::string& womit) {
@@ -79,7 +88,7 @@ inline Spur SpurLesen(const std::string& bytes) {
         const int wievielter = ++gezaehlt[name];
         if (name == "getppid") {
             ++spur.marken;
-        } else if (spur.marken == 1) {
+        } else if (spur.marken == 1 && !OhneDatei(name)) {
             spur.aufrufe.push_back({name, wievielter, zeile.toStdString()});
         }
     }

@@ -69,20 +69,24 @@ QWidget* ZeichenFenster() {
 // The tray moves an icon while it makes room for it, and the program learns of it late: the server knows
 // where the window is, and a click that missed is made again.
 void ZeichenKlicken(const char* knopf, const std::function<bool()>& gewirkt) {
-    QElapsedTimer seit;
+    QElapsedTimer seit; // the last click was done
+    bool unterwegs = false;
     QVERIFY(WartenBis(
         [&] {
             if (gewirkt()) {
-                return true;
+                return !unterwegs; // the callback below must not outlive the flag that it sets
             }
             const QWidget* zeichen = ZeichenFenster();
-            if (zeichen != nullptr && (!seit.isValid() || seit.elapsed() > 3000)) {
-                seit.start();
+            if (zeichen != nullptr && !unterwegs && (!seit.isValid() || seit.elapsed() > 3000)) {
+                unterwegs = true;
                 Senden({QStringLiteral("mousemove"), QStringLiteral("--window"),
                         QString::number(zeichen->winId()), QString::number(zeichen->width() / 2),
                         QString::number(zeichen->height() / 2), QStringLiteral("click"),
                         QLatin1String(knopf)},
-                       Stelle::hier(), [] {});
+                       Stelle::hier(), [&] {
+                           unterwegs = false;
+                           seit.start();
+                       });
             }
             return false;
         },
