@@ -10,8 +10,11 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSystemTrayIcon>
+#include <QTimer>
 
 namespace {
+
+constexpr int nachfrage = 500; // ms
 
 QPointer<QSystemTrayIcon> zeichen; // goes with the main window
 QList<QPointer<QWidget>> mitgegangen;
@@ -54,6 +57,19 @@ void WerkzeugfensterVerstecken(const QWidget* haupt) {
     }
 }
 
+// On a busy desktop the window manager may give the keyboard away before it knows the window again: then it
+// is asked once more, as long as no other window of ours has it.
+void TastenHolen(QWidget* haupt, int versuche) {
+    haupt->activateWindow();
+    if (versuche > 1) {
+        QTimer::singleShot(nachfrage, haupt, [haupt, versuche] {
+            if (haupt->isVisible() && QApplication::activeWindow() == nullptr) {
+                TastenHolen(haupt, versuche - 1);
+            }
+        });
+    }
+}
+
 void Zeigen() {
     QWidget* haupt = Hauptfenster();
     haupt->show();
@@ -63,7 +79,7 @@ void Zeigen() {
         }
     }
     mitgegangen.clear();
-    haupt->activateWindow();
+    TastenHolen(haupt, 4);
     TrayEntfernen();
 }
 

@@ -141,7 +141,7 @@ void EditorfremdTest::aFolderInItsPlaceRefusesWithoutAQuestion() {
     Druecken(editor, cmdDatei0);
     QVERIFY(dialoge.fertig());
     QCOMPARE(lauf.Lesen(name + QStringLiteral("/drin.txt")), fremd);
-    QVERIFY(QDir(Nativ()).removeRecursively());
+    QTRY_VERIFY(QDir(Nativ()).removeRecursively());
 }
 
 void EditorfremdTest::aFileThatCanNotBeReadIsAskedAbout() {

@@ -162,7 +162,7 @@ private Q_SLOTS:
     void aFolderRemovedMeanwhileIsReportedAndTheDialogStays() {
         programm_->schreiben(QStringLiteral("KRANZ/Kurz/ZELT.FKR"), formular);
         Zeigen();
-        QVERIFY(QDir(programm_->nativ(QStringLiteral("KRANZ/Kurz"))).removeRecursively());
+        QTRY_VERIFY(QDir(programm_->nativ(QStringLiteral("KRANZ/Kurz"))).removeRecursively());
         {
             Dialogfolge dialoge;
             dialoge.meldung(QStringLiteral("DATEI : filDateiliste :\n76 : Pfad nicht gefunden"),

@@ -111,7 +111,7 @@ protected:
         programm_ = std::make_unique<Programmordner>();
     }
     void Anfangen() {
-        QVERIFY(QDir(programm_->nativ(QStringLiteral("KRANZ"))).removeRecursively());
+        QTRY_VERIFY(QDir(programm_->nativ(QStringLiteral("KRANZ"))).removeRecursively());
         programm_->schreiben(QStringLiteral("KRANZ/Abend.fkr"), formular);
         programm_->schreiben(QStringLiteral("KRANZ/LAGER.FKR"), formular);
         programm_->schreiben(QStringLiteral("KRANZ/ALT.BAK"), formular);

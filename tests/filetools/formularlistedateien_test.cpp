@@ -60,7 +60,7 @@ void FormularlisteDateienTest::aFolderThatVanishesAndComesBackIsShownAgain() {
     QTRY_VERIFY(Listenlauf::Namen().isEmpty());
     QVERIFY(oben.rename(QStringLiteral("WEG"), QStringLiteral("KRANZ")));
     QTRY_COMPARE(Listenlauf::Namen(), QStringList{QStringLiteral("A.FKR")});
-    QVERIFY(QDir(oben.filePath(QStringLiteral("KRANZ"))).removeRecursively());
+    QTRY_VERIFY(QDir(oben.filePath(QStringLiteral("KRANZ"))).removeRecursively());
     QTRY_VERIFY(Listenlauf::Namen().isEmpty());
     lauf.Anlegen(QStringLiteral("KRANZ/B.FKR"), Quizdatei("b")); // with a new folder
     lauf.Anlegen(QStringLiteral("KRANZ/C.FKR"), Quizdatei("c"));

@@ -48,8 +48,9 @@ private:
     bool da_ = false;
 };
 
+// The window may be hidden before the release of the second click.
 void HintergrundDoppelklicken(const Programm& programm) {
-    maus::Doppelklicken(programm.haupt()->Kindflaeche()->viewport());
+    maus::DoppeltDruecken(programm.haupt()->Kindflaeche()->viewport());
 }
 
 QSystemTrayIcon* Zeichen(const Programm& programm) {

@@ -50,7 +50,7 @@ private Q_SLOTS:
     // Both kinds go back to their own folders.
     void cleanup() {
         for (const char* name : {"KRANZ/LAGER", "TEST/LAGER"}) {
-            QVERIFY(QDir(lauf.programm().ordner().nativ(QLatin1String(name))).removeRecursively());
+            QTRY_VERIFY(QDir(lauf.programm().ordner().nativ(QLatin1String(name))).removeRecursively());
         }
         QCOMPARE(Sichern(Formart::Quiz), Ordner("\\KRANZ"));
         QCOMPARE(Sichern(Formart::Test), Ordner("\\TEST"));
@@ -153,7 +153,7 @@ void SpeicherordnerTest::aCancelledDialogChoosesNothing() {
 
 void SpeicherordnerTest::aChosenFolderThatIsGoneGivesTheKindsOwn() {
     QCOMPARE(Sichern(Formart::Test, QStringLiteral("LAGER")), Ordner("\\TEST"));
-    QVERIFY(QDir(lauf.programm().ordner().nativ(QStringLiteral("TEST/LAGER"))).removeRecursively());
+    QTRY_VERIFY(QDir(lauf.programm().ordner().nativ(QStringLiteral("TEST/LAGER"))).removeRecursively());
     QCOMPARE(Sichern(Formart::Test), Ordner("\\TEST"));
 }
 

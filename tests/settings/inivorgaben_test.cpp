@@ -272,7 +272,7 @@ void IniVorgabenTest::aSaveAfterAFormWasLoadedCarriesTheFormsNumbers() {
 void IniVorgabenTest::aSaveThatFailsIsReportedAndLeavesTheOldFile() {
     Programm programm;
     programm.NeuesQuizformular();
-    QVERIFY(QDir(programm.ordner().nativ(QStringLiteral("CONFIG"))).removeRecursively());
+    QTRY_VERIFY(QDir(programm.ordner().nativ(QStringLiteral("CONFIG"))).removeRecursively());
     MitAbbrechen(programm, [](QDialog& dialog, Dialogfolge& dialoge) {
         dialoge.frage(speichernTitel, speichernFrage, 1);
         dialoge.erwarte(
