@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the toolkit for Windows from the source in Debian's archive, once, into a folder outside the checkout
-# (packaging/windows/ort.sh says where). What is left there is under 1 GB; what it takes meanwhile is 2 GB.
+# (packaging/windows/ort.sh says where). What is left there is under 1 GB; what it takes meanwhile is 3.5 GB.
 set -eu
 hier=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$hier/packaging/windows/ort.sh"
