@@ -11,6 +11,7 @@
 #include "tests/hilfe/bild.h"
 #include "tests/hilfe/dialogfolge.h"
 #include "tests/hilfe/finden.h"
+#include "tests/hilfe/frist.h"
 #include "tests/hilfe/maus.h"
 #include "tests/hilfe/mausbote.h"
 #include "tests/hilfe/programm.h"
