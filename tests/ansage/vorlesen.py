@@ -145,6 +145,8 @@ def druecken(name):
     """Presses a button as a screen reader does. A process of its own waits for the answer, which comes only
     when the dialog that the press may open has gone."""
     warten(lambda: finden(name, pyatspi.ROLE_PUSH_BUTTON), name)
+    # As for anybody who clicks: a window that is opened while another still has the keyboard doesn't get it.
+    warten(lambda: hat_die_tasten("Feldkranz! 2008"), "the keyboard for the main window")
     subprocess.Popen([sys.executable, __file__, "--druecken", name], stderr=subprocess.DEVNULL)
 
 
