@@ -141,12 +141,21 @@ def fenster_pruefen():
         warten(lambda gesucht=titel: fenster(gesucht) is None, f"the end of {titel}")
 
 
+def hauptfenster_vorn():
+    titel = "Feldkranz! 2008"
+    if hat_die_tasten(titel):
+        return True
+    subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titel, "windowactivate"], check=False)
+    time.sleep(0.5)
+    return hat_die_tasten(titel)
+
+
 def druecken(name):
     """Presses a button as a screen reader does. A process of its own waits for the answer, which comes only
     when the dialog that the press may open has gone."""
     warten(lambda: finden(name, pyatspi.ROLE_PUSH_BUTTON), name)
-    # As for anybody who clicks: a window that is opened while another still has the keyboard doesn't get it.
-    warten(lambda: hat_die_tasten("Feldkranz! 2008"), "the keyboard for the main window")
+    # Whoever clicks there brings the main window to the front; else the list of forms may keep the keyboard.
+    warten(hauptfenster_vorn, "the keyboard for the main window")
     subprocess.Popen([sys.executable, __file__, "--druecken", name], stderr=subprocess.DEVNULL)
 
 
