@@ -10,7 +10,7 @@ aufraeumen() {
   rm -rf "$ordner"
 }
 trap aufraeumen EXIT
-klage() { echo "$*" >&2; exit 1; }
+. "$(dirname "${BASH_SOURCE[0]}")/../hilfe/fenster.sh"
 
 cp "$programm" "$ordner/feldkranz"
 cp -r "$daten"/* "$ordner"
@@ -19,37 +19,23 @@ chmod -R u+w "$ordner"
 sed '0,/^12\r$/s//99999\r\n12\r/' "$daten/KRANZ/Kurzabend.FKR" >"$ordner/Übung im Schnee.FKR"
 kasten='Fehler beim Laden'
 
-fenster() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
-warten() { # title: until a window of that title is there; prints its number
-  local nummer
-  for _ in $(seq 300); do
-    nummer=$(fenster "$1") && [ -n "$nummer" ] && { echo "$nummer"; return; }
-    sleep 0.1
-  done
-  klage "no window \"$1\" came"
-}
-weg() { # title: until no window of that title is there
-  for _ in $(seq 300); do [ -n "$(fenster "$1")" ] || return 0; sleep 0.1; done
-  klage "the window \"$1\" stays"
-}
-weiter() { # window, key. To the keyboard, not to the window: a key whose window has gone would stay down and repeat.
-  xdotool windowactivate --sync "$1" key "$2"
-}
 laeuft() { kill -0 "$1" 2>/dev/null; }
 
 # The first start has a file of its own, which waits for the main window: a box shows that it was opened.
 cd "$ordner"
 ./feldkranz 'Übung im Schnee.FKR' &
 erster=$!
-weiter "$(warten 'Am Start')" Return
-weiter "$(warten "$kasten")" Return
-weg "$kasten"
+warten 'Am Start' >/dev/null
+weg 'Am Start' Return
+warten "$kasten" >/dev/null
+weg "$kasten" Return
 
 # A second start with a file hands it over and ends; the first one opens it.
 SECONDS=0
 timeout 20 ./feldkranz 'Übung im Schnee.FKR' || klage "the second start ended with $?"
 [ "$SECONDS" -le 5 ] || klage "the second start took $SECONDS s"
-weiter "$(warten "$kasten")" Return
+warten "$kasten" >/dev/null
+weg "$kasten" Return
 laeuft "$erster" || klage "the first one ended"
 [ "$(xdotool search --onlyvisible --name 'Am Start' 2>/dev/null | wc -l)" = 0 ] || klage "a second start window came"
 
@@ -66,8 +52,10 @@ weg 'Am Start'
 # Neither is a killed one in the way.
 ./feldkranz 'Übung im Schnee.FKR' &
 erster=$!
-weiter "$(warten 'Am Start')" Return
-weiter "$(warten "$kasten")" Return
+warten 'Am Start' >/dev/null
+weg 'Am Start' Return
+warten "$kasten" >/dev/null
+weg "$kasten" Return
 timeout 20 ./feldkranz "$ordner/Übung im Schnee.FKR" || klage "the heir of a killed program receives nothing"
 warten "$kasten" >/dev/null
 echo "all good"

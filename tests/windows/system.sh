@@ -21,7 +21,7 @@ aufraeumen() {
   rm -rf "$ordner"
 }
 trap aufraeumen EXIT
-klage() { echo "$*" >&2; exit 1; }
+. "$hier/../hilfe/fenster.sh"
 cp "$programm" "$ordner/feldkranz.exe"
 cp -r "$daten"/* "$ordner"
 chmod -R u+w "$ordner"
@@ -30,26 +30,6 @@ sed '0,/^12\r$/s//99999\r\n12\r/' "$daten/KRANZ/Kurzabend.FKR" >"$ordner/Übung 
 kasten='Fehler beim Laden'
 
 starten() { "$hier/wine.sh" "$ordner/feldkranz.exe" "$@"; }
-fenster() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
-warten() { # title: until a window of that title is there; prints its number
-  local nummer
-  for _ in $(seq 300); do
-    nummer=$(fenster "$1") && [ -n "$nummer" ] && { echo "$nummer"; return; }
-    sleep 0.1
-  done
-  klage "no window \"$1\" came"
-}
-weg() { # title, key: until no window of that title is there, with that key if there is one. Wine gives the keyboard to
-  # a window in its own time, and a key before that is lost.
-  local nummer
-  for _ in $(seq 60); do
-    nummer=$(fenster "$1")
-    [ -n "$nummer" ] || return 0
-    if [ $# -gt 1 ]; then timeout 5 xdotool windowactivate --sync "$nummer" key "$2" 2>/dev/null || true; fi
-    sleep 0.5
-  done
-  klage "the window \"$1\" stays"
-}
 
 cd "$ordner"
 starten 'Übung im Schnee.FKR' &
